@@ -1,0 +1,90 @@
+# SPDX-License-Identifier: Apache-2.0
+# Registers automated tests. On the Windows target every executable runs under Wine through tools/wine-run.
+
+set(MODULE_AUDIO_RUN_DIR "${CMAKE_CURRENT_BINARY_DIR}/run")
+set(MODULE_AUDIO_TEST_ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen"
+    "ASAN_OPTIONS=detect_leaks=1:abort_on_error=0"
+    "UBSAN_OPTIONS=print_stacktrace=1")
+if(WIN32)
+    # The libraries of the bundle find each other as they do beside the host's executable.
+    list(APPEND MODULE_AUDIO_TEST_ENVIRONMENT "WINEPATH_FIRST=${MODULE_AUDIO_BUNDLE_DIR}")
+endif()
+# For the ENVIRONMENT of tests that let SDL talk to a sound server, and of no other: nothing of ours may hide behind it.
+set(MODULE_AUDIO_SDL_LEAKS "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/autotests/support/lsan.supp:print_suppressions=0")
+
+# ma_add_test_command(<name> COMMAND ... [LABELS ...] [SOUND "<arguments of tools/virtual-sound-card run>"] [ENVIRONMENT ...]
+#                     [TIMEOUT s] [FOLDER dir] [SERIAL])
+function(ma_add_test_command name)
+    cmake_parse_arguments(PARSE_ARGV 1 A "SERIAL" "SOUND;TIMEOUT;FOLDER" "COMMAND;LABELS;ENVIRONMENT")
+    set(command ${A_COMMAND})
+    if(DEFINED A_SOUND)
+        separate_arguments(card UNIX_COMMAND "${A_SOUND}")
+        set(command "${CMAKE_SOURCE_DIR}/tools/virtual-sound-card" run ${card} -- ${command})
+    endif()
+    add_test(NAME ${name} COMMAND ${command})
+    if(NOT A_TIMEOUT)
+        set(A_TIMEOUT 120)
+    endif()
+    if(WIN32)
+        list(APPEND A_LABELS wine)
+    endif()
+    set_tests_properties(${name} PROPERTIES
+        LABELS "${A_LABELS}"
+        TIMEOUT ${A_TIMEOUT}
+        SKIP_RETURN_CODE 77
+        ENVIRONMENT "${MODULE_AUDIO_TEST_ENVIRONMENT};${A_ENVIRONMENT}")
+    if(A_FOLDER)
+        set_tests_properties(${name} PROPERTIES WORKING_DIRECTORY "${A_FOLDER}")
+    endif()
+    if(A_SERIAL)
+        set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)
+    endif()
+endfunction()
+
+# A test program in a folder of its own, so that it can put files beside itself.
+function(ma_test_program name)
+    cmake_parse_arguments(PARSE_ARGV 1 A "" "" "SOURCES;WINDOWS;LINUX;USES;LINK;LINK_WINDOWS;LINK_LINUX;DEFINES")
+    add_executable(${name})
+    ma_configure_target(${name})
+    ma_add_sources(${name} SOURCES ${A_SOURCES} WINDOWS ${A_WINDOWS} LINUX ${A_LINUX} LINK ${A_LINK}
+        LINK_WINDOWS ${A_LINK_WINDOWS} LINK_LINUX ${A_LINK_LINUX})
+    if(A_USES)
+        ma_use(${name} ${A_USES})
+    endif()
+    target_compile_definitions(${name} PRIVATE ${A_DEFINES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${MODULE_AUDIO_RUN_DIR}/${name}")
+endfunction()
+
+# ma_add_test(<name> SOURCES ... [USES objects] [LINK ...] [DEFINES ...] [LABELS ...] [SOUND "..."] [ENVIRONMENT ...]
+#             [TIMEOUT s] [SERIAL] [PROGRAM_ONLY])
+function(ma_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 A "PROGRAM_ONLY;SERIAL" "SOUND;TIMEOUT"
+        "SOURCES;WINDOWS;LINUX;USES;LINK;LINK_WINDOWS;LINK_LINUX;DEFINES;LABELS;ENVIRONMENT")
+    ma_test_program(${name} SOURCES ${A_SOURCES} WINDOWS ${A_WINDOWS} LINUX ${A_LINUX} USES ${A_USES} LINK Qt6::Test ${A_LINK}
+        LINK_WINDOWS ${A_LINK_WINDOWS} LINK_LINUX ${A_LINK_LINUX} DEFINES ${A_DEFINES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    if(A_PROGRAM_ONLY)
+        return()
+    endif()
+    if(NOT A_LABELS)
+        set(A_LABELS unit)
+    endif()
+    set(options "")
+    if(DEFINED A_SOUND)
+        list(APPEND options SOUND "${A_SOUND}")
+    endif()
+    if(A_TIMEOUT)
+        list(APPEND options TIMEOUT ${A_TIMEOUT})
+    endif()
+    if(A_SERIAL)
+        list(APPEND options SERIAL)
+    endif()
+    if(WIN32)
+        set(command "${CMAKE_SOURCE_DIR}/tools/wine-run" --qt-test $<TARGET_FILE:${name}>)
+    else()
+        set(command $<TARGET_FILE:${name}>)
+    endif()
+    ma_add_test_command(${name} COMMAND ${command} LABELS ${A_LABELS} ENVIRONMENT ${A_ENVIRONMENT}
+        FOLDER "${MODULE_AUDIO_RUN_DIR}/${name}" ${options})
+endfunction()
