@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "audio/sound_driver.h"
+
+namespace ostra::audio {
+
+const char *soundDriverName() noexcept { return "pulseaudio"; }
+
+} // namespace ostra::audio

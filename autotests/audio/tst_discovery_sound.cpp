@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: Apache-2.0
+// Against a real sound server with the sinks "X", "X" and "Y".
+#include "audio/audio_component_manager.h"
+#include "audio/sdl_api.h"
+#include "audio/sound_driver.h"
+#include "autotests/support/wave_files.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace ostra;
+using namespace ostra::audio;
+
+class TestDiscoverySound : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase() { SDL_Quit(); }
+    void listsEveryDeviceUnderANameOfItsOwn();
+    void tellsTheFallbackFormatWithoutClips();
+    void tellsTheClipsFormat();
+
+private:
+    static PropertyList propertiesOf(const std::string &deviceName, AudioComponentManager &manager);
+
+    QTemporaryDir state_;
+};
+
+void TestDiscoverySound::initTestCase()
+{
+    QVERIFY(QDir::setCurrent(state_.path()));
+    wave_files::write(QStringLiteral("config.ini"), "[LANGUAGE]\nDEFAULT_LANGUAGE=english\n");
+    SDL_setenv("SDL_AUDIODRIVER", soundDriverName(), 1);
+    QCOMPARE(SDL_InitSubSystem(SDL_INIT_AUDIO), 0);
+}
+
+PropertyList TestDiscoverySound::propertiesOf(const std::string &deviceName, AudioComponentManager &manager)
+{
+    for (std::uint32_t index = 0; index < manager.componentCount(); ++index)
+        if (manager.componentAt(index)->name() == deviceName)
+            return manager.componentAt(index)->info().properties;
+    return {};
+}
+
+void TestDiscoverySound::listsEveryDeviceUnderANameOfItsOwn()
+{
+    AudioComponentManager manager({15, 0, 0});
+    manager.refresh();
+    std::vector<std::string> names;
+    for (std::uint32_t index = 0; index < manager.componentCount(); ++index)
+        names.push_back(manager.componentAt(index)->name());
+    std::sort(names.begin(), names.end());
+    std::erase(names, "PulseAudio");                                // Wine's own endpoint for the server's default sink
+    QCOMPARE(names, (std::vector<std::string>{"X", "X (2)", "Y"})); // the sound library renames the second
+}
+
+void TestDiscoverySound::tellsTheFallbackFormatWithoutClips()
+{
+    AudioComponentManager manager({15, 0, 0});
+    manager.refresh();
+    QCOMPARE(propertiesOf("Y", manager),
+             (PropertyList{
+                 {"UDI", "Y"}, {"NUMBER_OF_CHANNELS", "2"}, {"SAMPLE_RATE", "22050"}, {"DRIVER_NAME", soundDriverName()}}));
+}
+
+void TestDiscoverySound::tellsTheClipsFormat()
+{
+    const QString folder = QCoreApplication::applicationDirPath();
+    wave_files::writeClipSet(folder, QStringLiteral("en_US"), wave_files::wave(48000, 1, 4800));
+    AudioComponentManager manager({15, 0, 0});
+    manager.refresh();
+    QDir(folder + QStringLiteral("/audio_files")).removeRecursively();
+    QCOMPARE(propertiesOf("X", manager),
+             (PropertyList{
+                 {"UDI", "X"}, {"NUMBER_OF_CHANNELS", "1"}, {"SAMPLE_RATE", "48000"}, {"DRIVER_NAME", soundDriverName()}}));
+}
+
+QTEST_GUILESS_MAIN(TestDiscoverySound)
+#include "tst_discovery_sound.moc"

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "contract/sal.h"
+
+#include <string>
+#include <vector>
+
+/// The host's platform library for tests that must choose what it answers. Linked in place of the real one.
+namespace fake_sal {
+
+struct Query {
+    std::string condition;
+    std::string className;
+    std::vector<std::string> propertyNames;
+    std::string nameSpace;
+};
+
+struct State {
+    bool hasCim = true;
+    bool hasNumberHandler = true;
+    std::int32_t queryResult = 0;
+    std::vector<sal::CimRow> rows; ///< answered to every query
+    std::string numberPrefix;      ///< put before every number, so that a test sees who formatted it
+    std::string temporaryPath;
+    std::vector<Query> queries; ///< recorded, in order
+};
+
+State &state();
+
+} // namespace fake_sal
