@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "contract/style_manager.h"
+
+#include "host/style/product_stylesheet.h"
+
+#include "style_manager_export.h"
+
+namespace ostra::utils::style_manager {
+namespace {
+
+class ProductStyle final : public StyleManager {
+public:
+    std::string Stylesheet() const override { return std::string(productStylesheet()); }
+};
+
+} // namespace
+
+STYLE_MANAGER_EXPORT StyleManager *StyleManager::instance()
+{
+    static ProductStyle style;
+    return &style;
+}
+
+} // namespace ostra::utils::style_manager
