@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/cli/exit_code.h"
+
+namespace host {
+
+class Console;
+class ModuleLibrary;
+
+/// Prints the machine's audio output devices as a table or as a JSON document. `library` is open. A machine without a device
+/// is no error: an empty list and a note on standard error.
+ExitCode runList(const ModuleLibrary &library, bool isJson, Console &console);
+
+} // namespace host
