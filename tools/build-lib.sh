@@ -1,10 +1,24 @@
 # SPDX-License-Identifier: Apache-2.0
-# What ./run and ./test share; sourced by them from the project's root.
+# What ./run and ./test share; sourced by them from the project's root, under `set -euo pipefail`.
 
 say() { printf '%s\n' "$*" >&2; }
 
-# Builds one preset, quiet unless it fails; what there is to say goes to standard error.
-build_preset() { # preset [target]
+# Passes a build's output on to a log and says on standard error how far a long one is.
+show_progress() { # preset log
+    awk -v preset="$1" -v log_file="$2" '
+        { print > log_file }
+        match($0, /^\[[0-9]+\/[0-9]+\]/) {
+            split(substr($0, 2, RLENGTH - 2), step, "/")
+            if (step[2] < 10) next
+            quarter = int(4 * step[1] / step[2])
+            if (!started++) printf "Building %s (%d steps) …\n", preset, step[2] > "/dev/stderr"
+            else if (quarter > shown) printf "  %s: %d %%\n", preset, 25 * quarter > "/dev/stderr"
+            shown = quarter
+        }'
+}
+
+# Builds one preset, quiet but for its progress unless it fails; what there is to say goes to standard error.
+build_preset() { # preset
     local preset=$1 log="build/$1.log"
     mkdir -p build
     [ -f "build/$preset/build.ninja" ] || say "Configuring $preset …"
@@ -13,10 +27,7 @@ build_preset() { # preset [target]
         say "The configuration of $preset failed (its log is above)."
         return 1
     fi
-    local pending
-    pending=$(ninja -C "build/$preset" -n ${2:+"$2"} 2>/dev/null | grep -c '^\[' || true)
-    [ "${pending:-0}" -le 3 ] || say "Building $preset ($pending steps) …"
-    if ! cmake --build --preset "$preset" ${2:+--target "$2"} >"$log" 2>&1; then
+    if ! cmake --build --preset "$preset" 2>&1 | show_progress "$preset" "$log"; then
         grep -vE '^\[[0-9]+/[0-9]+\] (Building|Automatic|Linking|Generating)' "$log" | tail -n 120 >&2
         say "The build of $preset failed."
         return 1
