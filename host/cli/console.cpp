@@ -31,10 +31,10 @@ void Console::complain(const QString &message)
     explain(QStringLiteral("%1: %2\n").arg(QLatin1String(programName), shownText(message)));
 }
 
-void Console::explain(const QString &text)
+// Static in all but use: callers speak to one object for both streams. What cannot be said cannot be complained about.
+void Console::explain(const QString &text) // NOLINT(readability-convert-member-functions-to-static)
 {
-    write(stderr, text.toUtf8());
-    std::fflush(stderr);
+    static_cast<void>(write(stderr, text.toUtf8()) && std::fflush(stderr) == 0);
 }
 
 void Console::tellProgress(const QString &line)

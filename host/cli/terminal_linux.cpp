@@ -8,17 +8,27 @@
 
 namespace host {
 
-struct Terminal::State {};
+namespace {
 
-Terminal::Terminal() = default;
-Terminal::~Terminal() = default;
-
-bool Terminal::outputUnderstandsStyles() const
+bool knowsStyles()
 {
     const QByteArray kind = qgetenv("TERM");
-    return isatty(STDOUT_FILENO) != 0 && !kind.isEmpty() && kind != "dumb";
+    return !kind.isEmpty() && kind != "dumb";
 }
 
-bool Terminal::errorIsWatched() const { return isatty(STDERR_FILENO) != 0; }
+} // namespace
+
+struct Terminal::State {
+    bool hasStyles = isatty(STDOUT_FILENO) != 0 && knowsStyles();
+    bool errorIsTerminal = isatty(STDERR_FILENO) != 0;
+};
+
+Terminal::Terminal() : state_(std::make_unique<State>()) {}
+
+Terminal::~Terminal() = default;
+
+bool Terminal::outputUnderstandsStyles() const { return state_->hasStyles; }
+
+bool Terminal::errorIsWatched() const { return state_->errorIsTerminal; }
 
 } // namespace host

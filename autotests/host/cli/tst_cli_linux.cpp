@@ -139,6 +139,7 @@ void TestCliLinux::needsNoUtf8Locale()
 {
     QProcessEnvironment environment = cliEnvironment();
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    environment.insert(QStringLiteral("QT_FORCE_STDERR_LOGGING"), QStringLiteral("1")); // on a terminal it does so anyway
     const CliRun run = runCli({QStringLiteral("h\u00F6ren")}, environment);
     QCOMPARE(run.errors, QByteArray("TamrexDiagnosticsCLI: unknown command 'h\xC3\xB6ren' (try --help)\n"));
     QCOMPARE(run.code, 2);
