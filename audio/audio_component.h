@@ -15,10 +15,12 @@ struct ClipState {
     /// Id that the last opening gave; 2 or more for an open device. Closing keeps it, and the sound library hands the same
     /// number out again at once: only `isOpen` tells whether it is still ours.
     SDL_AudioDeviceID deviceId = 0;
-    bool isOpen = false;
-    SDL_AudioSpec spec{}; ///< format of the last clip, or of the fallback sound; all zero before
-    ClipBuffer clip;      ///< kept until a later load replaces it or the component dies: closing never frees it
+    std::uint32_t firstSpare = 0;  ///< not used here; part of the record
+    std::uint32_t secondSpare = 1; ///< likewise
+    SDL_AudioSpec spec{};          ///< format of the last clip, or of the fallback sound; all zero before
+    ClipBuffer clip;               ///< kept until a later load replaces it or the component dies: closing never frees it
     std::uint32_t clipByteCount = 0;
+    bool isOpen = false; ///< between an opening that succeeded and the close that belongs to it
 };
 
 /// One output device of the machine. One thread at a time.

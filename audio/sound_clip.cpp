@@ -9,6 +9,7 @@
 #include "utils/language.h"
 
 #include <string>
+#include <utility>
 
 namespace ostra::audio {
 

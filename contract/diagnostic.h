@@ -31,8 +31,8 @@ public:
     /// Slot 4. The first test whose packed key equals that of `id`; null when there is none.
     virtual Test *findTest(EntityId id) const
     {
-        const auto found =
-            std::find_if(tests_.begin(), tests_.end(), [&id](const Test *test) { return test->identity() == id; });
+        const auto found = std::find_if(tests_.begin(), tests_.end(),
+                                        [&id](const Test *test) { return test != nullptr && test->identity() == id; });
         return found != tests_.end() ? *found : nullptr;
     }
 

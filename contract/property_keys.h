@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-/// Keys of a device's properties, in the order in which a described device carries them.
+/// Keys of a device's properties, in the order in which a described device carries them. Channels and sample rate are those of
+/// the opening format, which is the clip's: the sound server converts to whatever the hardware runs at.
 namespace ostra::properties {
 
 inline constexpr const char *udi = "UDI";                             ///< device name, as the sound layer lists it

@@ -4,32 +4,22 @@
 #include "audio/audio_component_manager.h"
 #include "audio/sdl_api.h"
 #include "audio/sound_driver.h"
-#include "contract/message_keys.h"
 #include "module/audio_module_interface.h"
 #include "module/audio_resource.h"
+#include "module/device_hints.h"
 #include "module/test_with_device_hint.h"
 #include "tests/audio_playback_test.h"
 #include "tests/microphone_interactive_test.h"
 
-#include <initializer_list>
 #include <memory>
 #include <new>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace ostra {
 
 namespace {
-
-// "A: B, C": the first key is the headline of those that follow.
-std::string deviceHint(std::initializer_list<const char *> components)
-{
-    std::string hint = keys::possibleDefectiveComponents;
-    const char *separator = ": ";
-    for (const char *component : components) {
-        hint.append(separator).append(component);
-        separator = ", ";
-    }
-    return hint;
-}
 
 ParameterTable parameterTable()
 {
@@ -68,12 +58,10 @@ void destroyDiagnostics(const ModuleInterface &instance)
 
 ModuleInterface *buildInstance()
 {
-    const std::string playbackHint = deviceHint({keys::speakers});
-    const std::string microphoneHint = deviceHint({keys::microphone, keys::cameraMicrophoneModule, keys::speakers});
     std::unique_ptr<Test> playback =
-        std::make_unique<TestWithDeviceHint<AudioPlaybackTest>>(identities::audioPlaybackTest, playbackHint);
-    std::unique_ptr<Test> microphone =
-        std::make_unique<TestWithDeviceHint<MicrophoneInteractiveTest>>(identities::microphoneInteractiveTest, microphoneHint);
+        std::make_unique<TestWithDeviceHint<AudioPlaybackTest>>(identities::audioPlaybackTest, playbackHint());
+    std::unique_ptr<Test> microphone = std::make_unique<TestWithDeviceHint<MicrophoneInteractiveTest>>(
+        identities::microphoneInteractiveTest, microphoneHint());
     auto diagnostic =
         std::make_unique<Diagnostic>(identities::audioDiagnostic, std::vector<Test *>{playback.get(), microphone.get()});
     std::vector<Diagnostic *> diagnostics{diagnostic.get()};
@@ -81,8 +69,9 @@ ModuleInterface *buildInstance()
     resource->setParameterTable(parameterTable());
     auto manager = std::make_unique<audio::AudioComponentManager>(identities::componentManager);
 
-    auto *instance = new (std::nothrow) AudioModuleInterface(std::move(diagnostics), resource.get(), manager.get(), nullptr);
-    if (instance == nullptr)
+    std::unique_ptr<ModuleInterface> instance(
+        new (std::nothrow) AudioModuleInterface(std::move(diagnostics), resource.get(), manager.get(), nullptr));
+    if (!instance)
         return nullptr;
     startSoundLibrary();
     // From here the tear-down of the interface owns them all.
@@ -91,7 +80,7 @@ ModuleInterface *buildInstance()
     static_cast<void>(diagnostic.release());
     static_cast<void>(resource.release());
     static_cast<void>(manager.release());
-    return instance;
+    return instance.release();
 }
 
 void destroyInstance(ModuleInterface *instance)

@@ -20,7 +20,21 @@ show_progress() { # preset log
 # Builds one preset, quiet but for its progress unless it fails; what there is to say goes to standard error.
 build_preset() { # preset
     local preset=$1 log="build/$1.log"
-    mkdir -p build
+    if ! mkdir -p build || ! : >>"$log"; then
+        say "Cannot build here: the folder $(pwd)/build cannot be written."
+        return 1
+    fi
+    # Two builds in one tree would spoil each other.
+    exec 8>"build/$preset.lock"
+    flock --nonblock 8 || { say "Waiting for another build of $preset …"; flock 8; }
+    build_locked_preset "$preset" "$log" 8>&-
+    local code=$?
+    exec 8>&-
+    return "$code"
+}
+
+build_locked_preset() { # preset log
+    local preset=$1 log=$2
     [ -f "build/$preset/build.ninja" ] || say "Configuring $preset …"
     if ! cmake --preset "$preset" >"$log" 2>&1; then
         cat "$log" >&2

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QFile>
+#include <QFileInfo>
 #include <QIODevice>
 #include <QString>
 
@@ -122,6 +123,9 @@ QByteArray decoded(QByteArray bytes)
     return bytes;
 }
 
+// Anything but a file is left alone: a pipe would hold the host until somebody writes into it, a device may never end.
+bool openForReading(QFile &file) { return QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly | QIODevice::Unbuffered); }
+
 } // namespace
 
 // The file is read in one go and decoded here instead of by a text stream: the bytes are then parsed where they lie,
@@ -129,7 +133,7 @@ QByteArray decoded(QByteArray bytes)
 ConfigParseResult readConfigFile(const std::string &fileName, IniConfiguration &configuration)
 {
     QFile file(QString::fromStdString(fileName));
-    if (fileName.empty() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (fileName.empty() || !openForReading(file))
         return {};
     const QByteArray text = decoded(file.readAll());
     return ConfigTextParser(configuration).parse(view(text));

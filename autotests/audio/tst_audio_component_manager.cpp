@@ -72,6 +72,7 @@ private slots:
     void formatsNumbersItselfWithoutTheHostsFormatter();
     void copesWithoutABackEndName();
     void closesEveryDeviceBeforeItOpensTheNext();
+    void keepsWhatIsListedWhenMemoryRunsOut();
     void componentAnswersTheSharedOperations();
     void dropsForeignComponentsWithoutDestroyingThem();
 
@@ -297,6 +298,18 @@ void TestAudioComponentManager::closesEveryDeviceBeforeItOpensTheNext()
     QCOMPARE(fake.count("free null"), 2);
 }
 
+void TestAudioComponentManager::keepsWhatIsListedWhenMemoryRunsOut()
+{
+    FakeSdl fake;
+    fake.deviceNames = {"A", "B", "C"};
+    fake_sal::state().failingQuery = 2;
+    AudioComponentManager manager(id_);
+    QVERIFY_EXCEPTION_THROWN(manager.refresh(), std::bad_alloc);
+    QCOMPARE(names(manager), (std::vector<std::string>{"A"}));
+    QCOMPARE(fake.count("open"), 2);
+    QCOMPARE(fake.count("close"), 2); // also the device that was being described
+}
+
 void TestAudioComponentManager::componentAnswersTheSharedOperations()
 {
     AudioComponent component("Headphones");
@@ -307,10 +320,16 @@ void TestAudioComponentManager::componentAnswersTheSharedOperations()
     QVERIFY(component.reserved5());
     QVERIFY(component.reserved6());
     QVERIFY(component.reserved8());
+    component.reserved7(); // nothing happens in these three
+    component.reserved9();
+    component.reserved10();
+    QVERIFY(component.info().properties.empty());
     QCOMPARE(component.instructionsState(), 0);
     component.setInstructionsState(-5);
     QCOMPARE(component.instructionsState(), -5);
     QCOMPARE(component.clipState().deviceId, SDL_AudioDeviceID(0));
+    QCOMPARE(component.clipState().firstSpare, 0U);
+    QCOMPARE(component.clipState().secondSpare, 1U);
     QCOMPARE(component.clipState().spec.freq, 0);
     QVERIFY(!component.clipState().clip);
 }

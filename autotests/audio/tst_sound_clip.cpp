@@ -32,6 +32,8 @@ private slots:
     void isNotReadyWhenTheDeviceCannotBeOpened();
     void isNotReadyWhenQueuingFails();
     void unpausesAndHoldsForASecond();
+    void cutsALongerClipByClosing();
+    void opensOtherSampleFormatsAsTheyAre();
     void isPlayingOnlyWhileTheDeviceRuns_data();
     void isPlayingOnlyWhileTheDeviceRuns();
     void closesOnceForOneOpening();
@@ -196,6 +198,32 @@ void TestSoundClip::unpausesAndHoldsForASecond()
     fake.calls.clear();
     playClip(component);
     QCOMPARE(fake.calls, (std::vector<std::string>{"pause 2 0", "delay 1000"}));
+}
+
+void TestSoundClip::cutsALongerClipByClosing()
+{
+    writeClips(wave_files::wave(48000, 2, 3 * 48000));
+    FakeSdl fake;
+    AudioComponent component("Speakers");
+    QCOMPARE(loadClip(component, 7), 1);
+    playClip(component);
+    closeDevice(component);
+    QCOMPARE(fake.deviceCalls(),
+             (std::vector<std::string>{"open Speakers 0", "queue 2 576000", "pause 2 0", "delay 1000", "close 2"}));
+}
+
+void TestSoundClip::opensOtherSampleFormatsAsTheyAre()
+{
+    QByteArray clip = wave_files::wave(48000, 1, 480);
+    clip[34] = 24;                                          // bits per sample
+    clip[32] = 3;                                           // bytes per frame
+    clip.replace(28, 4, QByteArray("\x80\x32\x02\x00", 4)); // 144000 bytes per second
+    writeClips(clip);
+    const FakeSdl fake;
+    AudioComponent component("Speakers");
+    QCOMPARE(loadClip(component, 7), 1);
+    QCOMPARE(fake.openedSpec.format, SDL_AudioFormat(AUDIO_S32LSB)); // the sound library widens 24 bits
+    QCOMPARE(component.clipState().clipByteCount, 320U * 4U);
 }
 
 void TestSoundClip::isPlayingOnlyWhileTheDeviceRuns_data()

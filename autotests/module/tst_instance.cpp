@@ -5,6 +5,7 @@
 #include "contract/exports.h"
 #include "module/audio_module_interface.h"
 #include "module/audio_resource.h"
+#include "module/device_hints.h"
 #include "module/instance.h"
 
 #include <QTest>
@@ -96,6 +97,8 @@ private slots:
     void quitsTheSoundLibraryAtTheEnd();
     void failedAllocationGivesNullAndLeavesTheSoundLibraryAlone();
     void recoversAfterAFailedAllocation();
+    void failureOfAnyEarlierAllocationGivesNull();
+    void namesTheSuspectComponents();
     void carriesTheCatalogue();
     void answersNullBeyondItsLists();
     void givesTheParameterTableToTheResource();
@@ -115,10 +118,14 @@ void TestInstance::isBuiltOnceUntilItIsReleased()
     QVERIFY(first != nullptr);
     QCOMPARE(GetModuleInterfaceInstance(), first);
     QCOMPARE(fake.count("init"), 1);
+    first->resource()->setParameterTable({{7, "marked"}});
     ReleaseModuleInterfaceInstance();
 
-    QVERIFY(GetModuleInterfaceInstance() != nullptr);
+    ModuleInterface *second = GetModuleInterfaceInstance();
+    QVERIFY(second != nullptr);
     QCOMPARE(fake.count("init"), 2); // a fresh one, sound library included
+    QCOMPARE(second->resource()->parameterTable().count(7), std::size_t(0));
+    QCOMPARE(second->diagnosticAt(0)->testCount(), std::uint64_t(2));
     ReleaseModuleInterfaceInstance();
 }
 
@@ -182,6 +189,32 @@ void TestInstance::recoversAfterAFailedAllocation()
     refusing_allocator::refusedByteCount = 0;
     QVERIFY(GetModuleInterfaceInstance() != nullptr);
     ReleaseModuleInterfaceInstance();
+}
+
+void TestInstance::failureOfAnyEarlierAllocationGivesNull()
+{
+    const FakeSdl fake;
+    int failures = 0;
+    for (;; ++failures) {
+        refusing_allocator::allocationsUntilFailure = failures;
+        const bool isBuilt = GetModuleInterfaceInstance() != nullptr;
+        const bool hasFailed = refusing_allocator::allocationsUntilFailure < 0;
+        refusing_allocator::allocationsUntilFailure = -1;
+        if (!hasFailed)
+            break; // it needs no more allocations than these
+        if (fake.count("setenv") != 0)
+            break; // from here on the fake's own records fail
+        QVERIFY2(!isBuilt, qPrintable(QString::number(failures)));
+        QCOMPARE(fake.count("init"), 0);
+    }
+    QVERIFY2(failures > 10, qPrintable(QString::number(failures)));
+    ReleaseModuleInterfaceInstance();
+}
+
+void TestInstance::namesTheSuspectComponents()
+{
+    QCOMPARE(playbackHint(), std::string("POSSIBLE_DEFECTIVE_COMPONENTS: SPEAKERS"));
+    QCOMPARE(microphoneHint(), std::string("POSSIBLE_DEFECTIVE_COMPONENTS: MICROPHONE, CAMERA_MICROPHONE_MODULE, SPEAKERS"));
 }
 
 void TestInstance::carriesTheCatalogue()

@@ -2,6 +2,7 @@
 #include "autotests/support/fake_sal.h"
 
 #include <chrono>
+#include <new>
 
 namespace fake_sal {
 
@@ -13,6 +14,8 @@ public:
                        std::uint32_t propertyCount, const char *const *propertyNames, const std::string &nameSpace) override
     {
         state().queries.push_back({condition, className, {propertyNames, propertyNames + propertyCount}, nameSpace});
+        if (state().queries.size() == state().failingQuery)
+            throw std::bad_alloc();
         rows = state().rows;
         return state().queryResult;
     }

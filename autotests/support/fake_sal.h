@@ -20,6 +20,7 @@ struct State {
     bool hasCim = true;
     bool hasNumberHandler = true;
     std::int32_t queryResult = 0;
+    std::size_t failingQuery = 0;  ///< number of the query, from 1, that runs out of memory; 0 for none
     std::vector<sal::CimRow> rows; ///< answered to every query
     std::string numberPrefix;      ///< put before every number, so that a test sees who formatted it
     std::string temporaryPath;

@@ -7,6 +7,7 @@
 namespace refusing_allocator {
 
 std::size_t refusedByteCount = 0;
+int allocationsUntilFailure = -1;
 
 } // namespace refusing_allocator
 
@@ -17,7 +18,9 @@ void *operator new(std::size_t byteCount, const std::nothrow_t & /*tag*/) noexce
 
 void *operator new(std::size_t byteCount)
 {
-    if (void *memory = std::malloc(byteCount))
+    using refusing_allocator::allocationsUntilFailure;
+    const bool isRefused = allocationsUntilFailure >= 0 && allocationsUntilFailure-- == 0;
+    if (void *memory = isRefused ? nullptr : std::malloc(byteCount))
         return memory;
     throw std::bad_alloc();
 }

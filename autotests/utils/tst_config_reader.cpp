@@ -57,6 +57,7 @@ private slots:
     void missingFileIsNoErrorAndLeavesTheTableEmpty();
     void emptyNameIsAMissingFile();
     void directoryIsNotRead();
+    void endlessDeviceIsNotRead();
     void emptyFileAddsTheEmptySection();
     void opensFilesWithNonAsciiNames();
     void relativeNameFollowsTheCurrentDirectory();
@@ -201,6 +202,16 @@ void TestConfigReader::emptyNameIsAMissingFile()
     IniConfiguration table;
     QCOMPARE(readConfigFile("", table), ConfigParseResult());
     QVERIFY(table.empty());
+}
+
+void TestConfigReader::endlessDeviceIsNotRead()
+{
+    if (QDir::separator() == u'\\')
+        QSKIP("no such device here");
+    IniConfiguration configuration;
+    QVERIFY(QFile::exists(QStringLiteral("/dev/zero")));
+    QVERIFY(!readConfigFile("/dev/zero", configuration).fileRead);
+    QVERIFY(configuration.empty());
 }
 
 void TestConfigReader::directoryIsNotRead()

@@ -13,19 +13,20 @@ constexpr const char *rest = R"(
 Lists the audio output devices of this machine and what the audio module can test.
 
 Commands:
-  list               the devices: number, name, channels, sample rate, driver, driver version
+  list               the devices: number, name, channels and sample rate of the opening format (that of the
+                     spoken-digit clips, 22050 without them), driver, driver version
   info               product version, diagnostics and tests with their names
   -Maudio [help]     the audio module's own help
   -Maudio -Q         chooses all tests of the audio diagnostic (also: --quick)
   -Maudio -Q"pm"     chooses tests by letter (also: --quick="p", -Q"p,m", names separated by commas)
 
-Tests that need a user do not run on the command line: the graphical host runs them.
+Tests that need a user do not run on the command line; the graphical host, which will run them, is yet to come.
 A device id is a device's exact name or its number, both as list shows them; a name goes before a number.
 After "--" a device name may begin with "-".
 
 Options:
   --json             list, info: print exactly one JSON document; everything else goes to standard error
-  --config DIR       list: use DIR as the current folder, where config.ini is looked for
+  --config DIR       list: use DIR as the current folder; its config.ini chooses the language of the clips
   -h, --help         print this text
   --version          print the versions of the product and of this program
 

@@ -18,7 +18,7 @@ namespace sal {
 namespace {
 
 // WMI answers from its repository in well under a second; the signed-driver class walks all devices and was designed for a few.
-// A service that hangs must not hold the device list for longer than this.
+// Rows of a service that hangs are waited for no longer than this; connecting to it has the system's own bound, two minutes.
 constexpr std::chrono::milliseconds answerBound{10000};
 
 using Names = std::span<const char *const>;

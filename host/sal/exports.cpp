@@ -3,14 +3,14 @@
 
 #include "host/sal/services.h"
 
-#include "sal_export.h"
+// Exported by name through sal.map and sal.def: a declaration that others import cannot also carry an export attribute.
 
-SAL_EXPORT sal::Cim *get_cim() { return &sal::cimService(); }
+sal::Cim *get_cim() { return &sal::cimService(); }
 
-SAL_EXPORT sal::NumberHandler *get_number_handler() { return &sal::numberHandlerService(); }
+sal::NumberHandler *get_number_handler() { return &sal::numberHandlerService(); }
 
-SAL_EXPORT sal::Timer *get_timer() { return &sal::timerService(); }
+sal::Timer *get_timer() { return &sal::timerService(); }
 
-SAL_EXPORT sal::ModuleLoader *get_module() { return &sal::moduleLoaderService(); }
+sal::ModuleLoader *get_module() { return &sal::moduleLoaderService(); }
 
-SAL_EXPORT sal::TemporaryPath *get_temporary_path() { return &sal::temporaryPathService(); }
+sal::TemporaryPath *get_temporary_path() { return &sal::temporaryPathService(); }

@@ -11,7 +11,7 @@ namespace sal {
 /// Windows: runs the query with WMI. Any namespace, class, condition and property; the values come as text, and a value that is
 /// null, or that has no text form (an array), is absent. The code is an HRESULT: WMI's own, such as WBEM_E_INVALID_CLASS or
 /// WBEM_E_NOT_FOUND for an unknown class, WBEM_E_INVALID_PARAMETER for a name that is not one, WBEM_S_TIMEDOUT when the
-/// answer took longer than 10 s.
+/// rows took longer than 10 s. Connecting to the service has the system's own bound, two minutes.
 ///
 /// Linux: answers exactly one question from the sound server and the kernel: class "Win32_PnPSignedDriver" in "root\\CIMV2"
 /// with the condition "DeviceClass LIKE '%AUDIOENDPOINT%'", any of "Description", "DriverVersion" and "FriendlyName". The code

@@ -52,31 +52,44 @@ std::optional<std::uint32_t> number(const char *text)
 
 std::string present(const char *text) { return text == nullptr ? std::string() : std::string(text); }
 
-// The list callbacks are called by C code: what fails to be stored is dropped instead of thrown through it.
+// What the list callbacks fill. They are called by C code, so a failure is remembered instead of thrown through it.
+struct Look {
+    SoundFacts &facts;
+    std::int32_t failure = 0; // an errno value
+};
+
+// Whether `info` is one more entry; below 0 the server could not answer.
+bool isEntry(Look &look, const void *info, int endOfList)
+{
+    if (endOfList < 0)
+        look.failure = EIO;
+    return endOfList == 0 && info != nullptr;
+}
+
 void addSink(pa_context *, const pa_sink_info *info, int endOfList, void *user) noexcept
 try {
-    if (endOfList != 0 || info == nullptr)
+    if (!isEntry(*static_cast<Look *>(user), info, endOfList))
         return;
     SinkFacts sink;
     sink.description = present(info->description);
     if (info->card != PA_INVALID_INDEX)
         sink.card = info->card;
-    static_cast<SoundFacts *>(user)->sinks.push_back(std::move(sink));
+    static_cast<Look *>(user)->facts.sinks.push_back(std::move(sink));
 } catch (...) {
-    return;
+    static_cast<Look *>(user)->failure = ENOMEM;
 }
 
 void addCard(pa_context *, const pa_card_info *info, int endOfList, void *user) noexcept
 try {
-    if (endOfList != 0 || info == nullptr)
+    if (!isEntry(*static_cast<Look *>(user), info, endOfList))
         return;
     CardFacts card;
     card.index = info->index;
     card.description = present(pa_proplist_gets(info->proplist, PA_PROP_DEVICE_DESCRIPTION));
     card.alsaCard = number(pa_proplist_gets(info->proplist, "alsa.card"));
-    static_cast<SoundFacts *>(user)->cards.push_back(std::move(card));
+    static_cast<Look *>(user)->facts.cards.push_back(std::move(card));
 } catch (...) {
-    return;
+    static_cast<Look *>(user)->failure = ENOMEM;
 }
 
 // One turn of the loop that ends by the deadline; 0 or an errno value.
@@ -128,11 +141,13 @@ std::int32_t readSoundServer(SoundFacts &facts, std::chrono::milliseconds bound)
         return ECONNREFUSED;
     if (const std::int32_t code = waitUntilReady(loop.get(), context.get(), deadline); code != 0)
         return code;
-    const Operation sinks(pa_context_get_sink_info_list(context.get(), addSink, &facts));
-    const Operation cards(pa_context_get_card_info_list(context.get(), addCard, &facts));
+    Look look{facts};
+    const Operation sinks(pa_context_get_sink_info_list(context.get(), addSink, &look));
+    const Operation cards(pa_context_get_card_info_list(context.get(), addCard, &look));
     if (const std::int32_t code = waitUntilDone(loop.get(), sinks, deadline); code != 0)
         return code;
-    return waitUntilDone(loop.get(), cards, deadline);
+    const std::int32_t code = waitUntilDone(loop.get(), cards, deadline);
+    return code != 0 ? code : look.failure;
 }
 
 } // namespace sal

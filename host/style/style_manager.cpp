@@ -3,8 +3,6 @@
 
 #include "host/style/product_stylesheet.h"
 
-#include "style_manager_export.h"
-
 namespace ostra::utils::style_manager {
 namespace {
 
@@ -15,7 +13,7 @@ public:
 
 } // namespace
 
-STYLE_MANAGER_EXPORT StyleManager *StyleManager::instance()
+StyleManager *StyleManager::instance()
 {
     static ProductStyle style;
     return &style;
