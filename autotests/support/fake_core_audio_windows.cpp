@@ -47,7 +47,7 @@ namespace {
 
 using Core = FakeCoreAudio::Core;
 
-// Counts itself and, unless it is one of the fake's own fixtures, in the core.
+// Counts its references, each for itself and all together in the core.
 template <typename Interface>
 class Counted : public Interface {
 public:
@@ -361,8 +361,6 @@ void FakeCoreAudio::failAt(std::size_t number, HRESULT code)
     core_->failingCall = number;
     core_->failure = code;
 }
-
-void FakeCoreAudio::failNever() { core_->failingCall.reset(); }
 
 void FakeCoreAudio::add(std::optional<std::wstring> id, float level, bool muted)
 {

@@ -58,7 +58,6 @@ public:
 
     /// Makes the call with this number (from 0, of all calls made from now on) fail with `code`.
     void failAt(std::size_t number, HRESULT code = E_ACCESSDENIED);
-    void failNever();
 
     void add(std::optional<std::wstring> id, float level, bool muted);
     std::vector<Endpoint> states() const;
