@@ -7,8 +7,30 @@
 #include <QObject>
 #include <QTest>
 
+#include <dlfcn.h>
+#include <pulse/introspect.h>
+
+#include <functional>
+
 using namespace ostra::audio;
 using pulse_truth::Device;
+
+namespace {
+
+std::function<void()> beforeSettingASink;
+
+}
+
+// Found before the sound library's own function, which it calls: so that something can happen in the midst of a pass.
+extern "C" pa_operation *pa_context_set_sink_volume_by_index(pa_context *context, std::uint32_t index, const pa_cvolume *volume,
+                                                             pa_context_success_cb_t callback, void *user)
+{
+    if (beforeSettingASink)
+        beforeSettingASink();
+    static const auto original = reinterpret_cast<decltype(&pa_context_set_sink_volume_by_index)>(
+        dlsym(RTLD_NEXT, "pa_context_set_sink_volume_by_index"));
+    return original(context, index, volume, callback, user);
+}
 
 class TestEndpointPassesSound : public QObject {
     Q_OBJECT
@@ -20,7 +42,8 @@ private slots:
     void appliesTheLevelWhereTheNumberOfChannelsChanged();
     void neverSetsALevelAbove100Percent();
     void stopsAtAnEndpointWithoutRecord();
-    void refusesAVolumeThatTheServerRefuses();
+    void stopsAtAVolumeThatIsNone();
+    void stopsAtAnEndpointThatVanishesMeanwhile();
     void failsWithoutServer();
     void endsInTimeWhenTheServerIsFrozen();
 
@@ -94,13 +117,28 @@ void TestEndpointPassesSound::stopsAtAnEndpointWithoutRecord()
     QCOMPARE(pulse_truth::devices()["mic1"], (Device{{6554, 6554}, false}));
 }
 
-void TestEndpointPassesSound::refusesAVolumeThatTheServerRefuses()
+void TestEndpointPassesSound::stopsAtAVolumeThatIsNone()
 {
     EndpointVolumes list = currentVolumes();
     list[1].channelVolumes = {0xFFFFFFFF, 0xFFFFFFFF}; // as a damaged note might hold them
     list[2].channelVolumes = {65536, 65536};
     QCOMPARE(applyEndpointVolumes(list), 1);
     QCOMPARE(pulse_truth::devices()["sink2"], (Device{{91750, 91750}, true}));
+    QCOMPARE(pulse_truth::devices()["mic1"], (Device{{6554, 6554}, false}));
+}
+
+void TestEndpointPassesSound::stopsAtAnEndpointThatVanishesMeanwhile()
+{
+    pulse_truth::addSink(QStringLiteral("short_lived"));
+    const EndpointVolumes list = currentVolumes();
+    beforeSettingASink = [calls = 0]() mutable {
+        if (++calls == 3)
+            pulse_truth::remove(QStringLiteral("short_lived"));
+    };
+    const int result = applyEndpointVolumes(EndpointVolumes(list.size(), EndpointVolume{1.0F, false, {}, {}}));
+    beforeSettingASink = nullptr;
+    QCOMPARE(result, 1); // the server refuses to set what is not there
+    QCOMPARE(pulse_truth::devices()["sink2"], (Device{{65536, 65536}, false}));
     QCOMPARE(pulse_truth::devices()["mic1"], (Device{{6554, 6554}, false}));
 }
 
