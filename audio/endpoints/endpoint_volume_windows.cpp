@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "audio/endpoints/endpoint_volume.h"
+
+#include "audio/endpoints/com_owner_windows.h"
+#include "audio/endpoints/core_audio_ids_windows.h"
+
+#include <endpointvolume.h>
+#include <mmdeviceapi.h>
+
+#include <utility>
+
+namespace ostra::audio {
+
+namespace {
+
+std::u16string unitsOf(std::wstring_view text) { return {text.begin(), text.end()}; }
+
+template <typename VisitEndpoint>
+HRESULT visitAll(IMMDeviceCollection *endpoints, VisitEndpoint visit)
+{
+    UINT count = 0;
+    HRESULT result = endpoints->GetCount(&count);
+    for (UINT i = 0; SUCCEEDED(result) && i < count; ++i) {
+        ComPointer<IMMDevice> endpoint;
+        result = endpoints->Item(i, endpoint.receive());
+        if (SUCCEEDED(result))
+            result = visit(endpoint.get(), i);
+    }
+    return result;
+}
+
+// Every COM reference dies in here, before the pass leaves the apartment.
+template <typename VisitEndpoint>
+HRESULT visitActiveEndpoints(VisitEndpoint visit)
+{
+    ComPointer<IMMDeviceEnumerator> enumerator;
+    const HRESULT created =
+        CoCreateInstance(deviceEnumeratorClass, nullptr, CLSCTX_INPROC_SERVER, deviceEnumeratorId, enumerator.receiveAny());
+    if (FAILED(created))
+        return created;
+    ComPointer<IMMDeviceCollection> endpoints;
+    const HRESULT listed = enumerator->EnumAudioEndpoints(eAll, DEVICE_STATE_ACTIVE, endpoints.receive());
+    return FAILED(listed) ? listed : visitAll(endpoints.get(), visit);
+}
+
+// Nothing may be thrown through here: the results are the only way in which a pass tells its failure.
+template <typename VisitEndpoint>
+int runPass(VisitEndpoint visit) noexcept
+try {
+    const ComApartment apartment;
+    return apartment.isUsable() && SUCCEEDED(visitActiveEndpoints(visit)) ? 0 : 1;
+} catch (...) {
+    return 1;
+}
+
+HRESULT activateVolume(IMMDevice *endpoint, ComPointer<IAudioEndpointVolume> &volume)
+{
+    return endpoint->Activate(endpointVolumeId, CLSCTX_ALL, nullptr, volume.receiveAny());
+}
+
+HRESULT readLevelAndMute(IMMDevice *endpoint, EndpointVolume &record)
+{
+    ComPointer<IAudioEndpointVolume> volume;
+    HRESULT result = activateVolume(endpoint, volume);
+    if (SUCCEEDED(result))
+        result = volume->GetMasterVolumeLevelScalar(&record.level);
+    BOOL muted = FALSE;
+    if (SUCCEEDED(result))
+        result = volume->GetMute(&muted);
+    record.muted = muted != FALSE;
+    return result;
+}
+
+// A microphone or loudspeaker whose id cannot be told is still raised, and restored by its position: so this never fails.
+std::u16string readId(IMMDevice *endpoint)
+{
+    CoTaskText id;
+    return SUCCEEDED(endpoint->GetId(id.receive())) ? unitsOf(id.view().substr(0, idUnitLimit)) : std::u16string();
+}
+
+const EndpointVolume *chooseRecordFor(IMMDevice *endpoint, const EndpointVolumes &list, UINT position)
+{
+    CoTaskText id;
+    if (FAILED(endpoint->GetId(id.receive())) || !id.isPresent())
+        return nullptr;
+    return chooseRecord(list, unitsOf(id.view()), position);
+}
+
+HRESULT applyRecord(IMMDevice *endpoint, const EndpointVolume &record)
+{
+    ComPointer<IAudioEndpointVolume> volume;
+    HRESULT result = activateVolume(endpoint, volume);
+    if (SUCCEEDED(result))
+        result = volume->SetMasterVolumeLevelScalar(record.level, nullptr);
+    BOOL muted = FALSE;
+    if (SUCCEEDED(result))
+        result = volume->GetMute(&muted);
+    if (FAILED(result) || (muted != FALSE) == record.muted)
+        return result;
+    return volume->SetMute(record.muted ? TRUE : FALSE, nullptr);
+}
+
+} // namespace
+
+int readEndpointVolumes(EndpointVolumes &list) noexcept
+{
+    return runPass([&list](IMMDevice *endpoint, UINT) {
+        EndpointVolume record;
+        const HRESULT result = readLevelAndMute(endpoint, record);
+        if (FAILED(result))
+            return result;
+        record.id = readId(endpoint);
+        list.push_back(std::move(record));
+        return S_OK;
+    });
+}
+
+int applyEndpointVolumes(const EndpointVolumes &list) noexcept
+{
+    return runPass([&list](IMMDevice *endpoint, UINT position) {
+        const EndpointVolume *record = chooseRecordFor(endpoint, list, position);
+        return record == nullptr ? E_FAIL : applyRecord(endpoint, *record);
+    });
+}
+
+} // namespace ostra::audio
