@@ -5,4 +5,6 @@ namespace ostra::audio {
 
 const char *soundDriverName() noexcept { return "wasapi"; }
 
+bool canStartSoundLibrary() { return true; }
+
 } // namespace ostra::audio

@@ -34,7 +34,8 @@ void startSoundLibrary()
 {
     audio::sdl().setEnvironment("SDL_AUDIODRIVER", audio::soundDriverName(), 1);
     // Not checked by design: without sound there are no devices, and every caller copes with that.
-    audio::sdl().initSubSystem(SDL_INIT_AUDIO);
+    if (audio::canStartSoundLibrary())
+        audio::sdl().initSubSystem(SDL_INIT_AUDIO);
 }
 
 void destroyTests(const Diagnostic &diagnostic)

@@ -20,7 +20,7 @@ bool PulseConnection::open()
     loop_.reset(pa_mainloop_new());
     if (!loop_)
         return false;
-    context_.reset(pa_context_new(pa_mainloop_get_api(loop_.get()), "volume guard"));
+    context_.reset(pa_context_new(pa_mainloop_get_api(loop_.get()), "module_audio"));
     if (!context_ || pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0)
         return false;
     while (PA_CONTEXT_IS_GOOD(pa_context_get_state(context_.get()))) {
