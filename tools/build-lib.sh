@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # What ./run and ./test share; sourced by them from the project's root, under `set -euo pipefail`.
 
-say() { printf '%s\n' "$*" >&2; }
+say() { printf '%s\n' "$*" >&2 || true; } # a closed stream is no reason to stop
 
 # Passes a build's output on to a log and says on standard error how far a long one is.
 show_progress() { # preset log
