@@ -36,7 +36,7 @@ AccessibleDialogBase::AccessibleDialogBase(QWidget *parent)
         highContrastFilter_->install();
         connect(highContrastFilter_.get(), &HighContrastEventFilter::ThemeChanged, this, &AccessibleDialogBase::OnThemeChanged);
     }
-    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_TranslucentBackground); // from here on the dialog's containers paint what is behind their text
     setStyleSheet(productStyleSheet());
     baseStyleSheet_ = styleSheet();
     if (isHighContrast())

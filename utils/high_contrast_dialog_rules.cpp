@@ -79,7 +79,7 @@ void DialogRules::addClasses()
     set(QStringLiteral("QWidget"), "color", colors_.windowText);
     set(QStringLiteral("QWidget"), "selection-color", colors_.highlightText);
     set(QStringLiteral("QWidget"), "selection-background-color", colors_.highlight);
-    for (const char *type : {"QDialog", "QStackedWidget", "QSpinBox", "QLCDNumber"})
+    for (const char *type : {"QDialog", "QStackedWidget", "QSpinBox", "QLCDNumber", "QHeaderView"})
         setWindow(QLatin1StringView(type));
     set(QStringLiteral("QLabel"), "color", colors_.windowText);
     set(QStringLiteral("QLabel:disabled"), "color", colors_.grayText);
@@ -89,6 +89,8 @@ void DialogRules::addClasses()
     setPair(QStringLiteral("QSpinBox:disabled"), colors_.grayText, colors_.window);
     setPair(QStringLiteral("QComboBox:disabled"), colors_.grayText, colors_.window);
     setWindow(QStringLiteral("QComboBox QAbstractItemView"));
+    for (const char *view : {"QTableView", "QTreeView", "QListView"})
+        setPair(QLatin1StringView(view) + QStringLiteral("::item:disabled"), colors_.grayText, colors_.window);
     setWindow(QStringLiteral("QToolTip"));
     set(QStringLiteral("QToolTip"), "border", QStringLiteral("1px solid ") + colors_.infoText);
     // The percentage runs over both halves of a bar: the done half is told by a line below the text.
@@ -109,6 +111,7 @@ void DialogRules::addButtonStates()
         setPair(button + u':' + QLatin1StringView(state), colors_.highlightText, colors_.highlight);
     set(QStringLiteral("QPushButton:focus"), "border", QStringLiteral("2px solid ") + colors_.highlight);
     set(QStringLiteral("QPushButton:focus"), "outline-style", QStringLiteral("none"));
+    set(QStringLiteral("QPushButton:focus"), "text-decoration", QStringLiteral("underline")); // not by colour alone
     for (const char *state : {"disabled", "flat:disabled"})
         setPair(button + u':' + QLatin1StringView(state), colors_.grayText, colors_.window);
     set(QStringLiteral("QPushButton:disabled"), "border", QStringLiteral("2px dotted ") + colors_.grayText);
@@ -120,6 +123,9 @@ void DialogRules::addNamed()
         setWindow(QStringLiteral("QWidget#") + QLatin1StringView(name));
     for (const char *name : labels)
         set(QStringLiteral("QLabel#") + QLatin1StringView(name), "color", colors_.windowText);
+    for (const char *position : {"first", "second", "third"}) // a thin dashed line is too faint
+        set(QStringLiteral("QPushButton#audio_playback_test_%1_input_unset").arg(QLatin1StringView(position)), "border",
+            QStringLiteral("2px dashed ") + colors_.buttonText);
     setWindow(QStringLiteral("QStackedWidget#microphone_test_popups_space"));
     set(QStringLiteral("QRadioButton#microphone_test_radio_button"), "color", colors_.windowText);
     set(QStringLiteral("QRadioButton#microphone_test_radio_button:disabled"), "color", colors_.grayText);

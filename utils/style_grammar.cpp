@@ -7,8 +7,9 @@ namespace ostra::utils {
 
 namespace {
 
-// Possessive throughout: a text that does not match must not be tried in every other way.
-const QString identifier = QStringLiteral(R"re((?:-?[_A-Za-z\x{80}-\x{FFFF}][-_A-Za-z0-9\x{80}-\x{FFFF}]*+))re");
+// Qt takes characters beyond ASCII in quoted texts only. Possessive throughout: a text that does not match must not be tried in
+// every other way.
+const QString identifier = QStringLiteral(R"re((?:-?[_A-Za-z][-_A-Za-z0-9]*+))re");
 const QString quoted = QStringLiteral(R"re((?:"(?:[^"\\\r\n]|\\[^\r\n])*+"|'(?:[^'\\\r\n]|\\[^\r\n])*+'))re");
 
 QRegularExpression whole(const QString &pattern)
@@ -29,8 +30,7 @@ QString selectorPattern()
 
 QString valuePattern()
 {
-    const QString url =
-        QStringLiteral(R"re((?:[Uu][Rr][Ll]\( ?(?:%1|[-!#$%&*+./:?@\[\]^_~A-Za-z0-9\x{80}-\x{FFFF}]++) ?\)))re").arg(quoted);
+    const QString url = QStringLiteral(R"re((?:[Uu][Rr][Ll]\( ?(?:%1|[-!#$%&*+./:?@\[\]^_~A-Za-z0-9]++) ?\)))re").arg(quoted);
     const QString number = QStringLiteral(R"re((?:[-+]?(?:[0-9]++(?:\.[0-9]++)?+|\.[0-9]++)(?:%|[A-Za-z]++)?+))re");
     const QString arguments = QStringLiteral(R"re((?(DEFINE)(?<arguments>\((?:[-+.,:#%/ \w]|(?&arguments))*+\))))re");
     const QString function = QStringLiteral("(?:%1(?&arguments))").arg(identifier);

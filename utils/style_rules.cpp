@@ -3,6 +3,8 @@
 
 #include "utils/style_grammar.h"
 
+#include <QStringList>
+
 namespace ostra::utils {
 
 namespace {
@@ -72,6 +74,15 @@ QString collapsed(QStringView text)
     return result.trimmed();
 }
 
+QString selectorKey(QStringView text)
+{
+    QStringList selectors;
+    const QList<QStringView> pieces = splitOutsideOpaque(text, u',');
+    for (const QStringView piece : pieces)
+        selectors.append(collapsed(piece));
+    return selectors.join(QStringLiteral(", "));
+}
+
 QString propertyKey(QStringView name)
 {
     const QString trimmed = name.trimmed().toString();
@@ -96,7 +107,7 @@ void addRule(StyleRules &rules, QStringView piece)
 {
     qsizetype at = 0;
     bool hasBody = false;
-    const QString selector = collapsed(takeUntil(piece, u'{', at, hasBody));
+    const QString selector = selectorKey(takeUntil(piece, u'{', at, hasBody));
     if (!hasBody || !isStyleSelector(selector))
         return;
     bool isInterrupted = false;
