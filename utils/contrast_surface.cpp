@@ -1,11 +1,28 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "utils/contrast_surface.h"
 
+#include "utils/color_contrast.h"
 #include "utils/system_colors.h"
 
 namespace ostra::utils {
 
 namespace {
+
+constexpr double readable = 7.0; // WCAG 2.1, 1.4.6, contrast (enhanced)
+
+// One of the system's own themes (Desert) stays just below with its highlighted text (6.999), where the window's colour reaches
+// 7.27; a palette of the user's may be far worse.
+QString textOnHighlight(const ContrastColors &colors)
+{
+    const QColor fill(colors.highlight);
+    const auto ratio = [&fill](const QString &name) { return contrastRatio(QColor(name), fill); };
+    QString best = colors.highlightText;
+    if (ratio(best) >= readable)
+        return best;
+    for (const QString &other : {colors.window, colors.windowText})
+        best = ratio(other) > ratio(best) ? other : best;
+    return best;
+}
 
 bool isSplitterHandle(const StyleSubject &subject) { return subject.type == u"QSplitter" && subject.subControl == u"handle"; }
 
@@ -90,6 +107,7 @@ ContrastColors ContrastColors::of(const QList<QColor> &systemColors)
     colors.window = name(system_color::window);
     colors.windowFrame = name(system_color::windowFrame);
     colors.gradientActiveCaption = name(system_color::gradientActiveCaption);
+    colors.highlightText = textOnHighlight(colors);
     return colors;
 }
 

@@ -18,7 +18,7 @@ struct ContrastColors {
     QString grayText;
     QString infoText;
     QString highlight;
-    QString highlightText;
+    QString highlightText; ///< where it is below 7:1 on highlight: that, window or window text, whichever stands out most
     QString windowText;
     QString window;
     QString windowFrame;

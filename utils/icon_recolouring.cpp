@@ -78,7 +78,7 @@ bool writeText(QTemporaryFile &file, const QString &text)
 QString recolourIcon(QObject *dialog, const QString &propertyValue, const QString &colour)
 {
     const QString svgText = textOfFile(quotedPath(propertyValue));
-    if (svgText.isEmpty())
+    if (svgText.isEmpty() || svgText.contains(QChar::Null)) // a zero character: a bitmap, which must not pass through as text
         return propertyValue;
     const QString baseName = iconBaseName(propertyValue);
     QTemporaryFile *file = writeTemporarySvg(dialog, baseName, recoloured(svgText, colour), temporaryFolder());

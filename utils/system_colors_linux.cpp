@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "utils/system_colors.h"
 
-#include "utils/color_contrast_linux.h"
+#include "utils/color_contrast.h"
 #include "utils/desktop_appearance_linux.h"
 #include "utils/screen_sources.h"
 

@@ -31,15 +31,17 @@ namespace {
 QString productSheet() { return QString::fromStdString(StyleManager::instance()->Stylesheet()); }
 
 // Every system colour one of its own: tells which stands where.
+QColor distinctColor(int index) { return index == system_color::highlightText ? QColor(Qt::white) : QColor(index + 1, 10, 20); }
+
+QString distinct(int index) { return distinctColor(index).name(); }
+
 QList<QColor> distinctColors()
 {
     QList<QColor> colors;
     for (const int index : systemColorIndices)
-        colors.append(QColor(index + 1, 100, 200));
+        colors.append(distinctColor(index));
     return colors;
 }
-
-QString distinct(int index) { return QColor(index + 1, 100, 200).name(); }
 
 struct Place {
     const QWidget *widget;
@@ -141,7 +143,7 @@ QStringList textPartsOf(const QWidget &widget)
 bool showsText(const QWidget &widget)
 {
     static const QStringList without{QStringLiteral("QScrollBar"), QStringLiteral("QSplitterHandle"),
-                                     QStringLiteral("QSizeGrip")};
+                                     QStringLiteral("QSizeGrip"), QStringLiteral("QComboBoxPrivateScroller")};
     const QString name = QLatin1StringView(widget.metaObject()->className());
     return !widget.isWindow() && !without.contains(name) && !widget.objectName().startsWith(u"qt_");
 }
@@ -179,6 +181,8 @@ private slots:
     void textIsReadable_data();
     void textIsReadable();
     void textAndFillAreOnePairWhateverThePalette();
+    void weakHighlightedTextGivesWay_data();
+    void weakHighlightedTextGivesWay();
     void selectionsAreOnePair();
     void captionColourStandsBehindNoText();
     void everyListedColourIsUsed();
@@ -247,6 +251,26 @@ void TestHighContrastStyle::textAndFillAreOnePairWhateverThePalette()
         QVERIFY2(pairs.contains(text + fill), qPrintable(place.description() + u' ' + text + u' ' + fill));
         QVERIFY2(place.isDisabled() || text != distinct(grayText), qPrintable(place.description()));
     }
+}
+
+void TestHighContrastStyle::weakHighlightedTextGivesWay_data()
+{
+    QTest::addColumn<QColor>("highlightText");
+    QTest::addColumn<QColor>("expected");
+    QTest::newRow("readable") << QColor(0x595959) << QColor(0x595959); // 7.0 on white
+    QTest::newRow("just below") << QColor(0x5A5A5A) << QColor(Qt::black);
+    QTest::newRow("none") << QColor(Qt::white) << QColor(Qt::black);
+}
+
+void TestHighContrastStyle::weakHighlightedTextGivesWay()
+{
+    QFETCH(QColor, highlightText);
+    QFETCH(QColor, expected);
+    QList<QColor> colors(30, Qt::white);
+    colors[system_color::windowText] = Qt::black;
+    colors[system_color::highlightText] = highlightText;
+    StyleRules rules = StyleRules::parse(highContrastStyleSheet(QString(), colors, {}));
+    QCOMPARE(rules.rule(QStringLiteral("QPushButton:hover")).value(QStringLiteral("color")), expected.name());
 }
 
 void TestHighContrastStyle::selectionsAreOnePair()
