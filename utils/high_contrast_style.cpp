@@ -192,6 +192,8 @@ void Rewriter::addState(const QString &state, bool buttonsOnly)
         rule.set(textProperty, surface.text);
         if (!isWithoutOwnFill(subject))
             rule.set(fillProperty, surface.fill);
+        if (isButton && surface.kind == SurfaceKind::Disabled)
+            rule.set(QStringLiteral("border"), QStringLiteral("2px dotted ") + surface.line);
     }
 }
 
