@@ -93,6 +93,12 @@ void DialogRules::addClasses()
         setPair(QLatin1StringView(view) + QStringLiteral("::item:disabled"), colors_.grayText, colors_.window);
     setWindow(QStringLiteral("QToolTip"));
     set(QStringLiteral("QToolTip"), "border", QStringLiteral("1px solid ") + colors_.infoText);
+    // The native marks of a tree are drawn for a light background: a full square can be opened, a frame closed.
+    const QString branch = QStringLiteral("QTreeView::branch:has-children");
+    set(branch + QStringLiteral(":closed"), "background-color", colors_.windowText);
+    set(branch + QStringLiteral(":open"), "border", QStringLiteral("2px solid ") + colors_.windowText);
+    for (const char *state : {":closed", ":open"})
+        set(branch + QLatin1StringView(state), "margin", QStringLiteral("6px"));
     // The percentage runs over both halves of a bar: the done half is told by a line below the text.
     const QString chunk = QStringLiteral("QProgressBar::chunk");
     set(chunk, "background-color", colors_.window);

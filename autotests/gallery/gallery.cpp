@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFont>
 #include <QHash>
 #include <QPixmap>
 #include <QScreen>
@@ -66,8 +67,13 @@ int main(int argc, char *argv[])
                                      QStringLiteral("name"), QStringLiteral("none"));
     const QCommandLineOption file(QStringLiteral("grab"), QStringLiteral("Writes a PNG once it is shown, and ends."),
                                   QStringLiteral("file"));
-    options.addOptions({palette, file});
+    const QCommandLineOption font(QStringLiteral("font"),
+                                  QStringLiteral("Wine draws no text in line edits with the substitute of a font it lacks."),
+                                  QStringLiteral("family"));
+    options.addOptions({palette, file, font});
     options.process(application);
+    if (options.isSet(font))
+        QApplication::setFont(QFont(options.value(font), 9));
     if (!choose(options.value(palette))) {
         std::fputs("gallery: unknown palette\n", stderr);
         return 2;
