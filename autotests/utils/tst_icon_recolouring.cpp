@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "utils/icon_recolouring.h"
+
+#include "autotests/support/fake_sal.h"
+#include "utils/application_folders.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <QTest>
+#include <QWidget>
+
+#include <memory>
+
+using namespace ostra::utils;
+
+namespace {
+
+const QString white = QStringLiteral("#ffffff");
+
+QString valueOf(const QString &icon) { return QStringLiteral("url(\":/icons/audio/") + icon + QStringLiteral("\")"); }
+
+QByteArray bytesOf(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+QString fileNameOf(const QString &value)
+{
+    const QString prefix = QStringLiteral("url(\"");
+    const QString suffix = QStringLiteral("\")");
+    if (!value.startsWith(prefix) || !value.endsWith(suffix))
+        return {};
+    return value.mid(prefix.size(), value.size() - prefix.size() - suffix.size());
+}
+
+} // namespace
+
+class TestIconRecolouring : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void buildsTheBaseName_data();
+    void buildsTheBaseName();
+    void replacesTheFirstFillColourEverywhere_data();
+    void replacesTheFirstFillColourEverywhere();
+    void leavesTheValueAlone_data();
+    void leavesTheValueAlone();
+    void pointsAtAFileInTheHostsTemporaryFolder();
+    void fallsBackOnTheApplicationFolder();
+    void twoRulesGetTwoFiles();
+    void firstQuotedPathStandsForTheWholeValue();
+    void filesGoWithTheirDialog();
+    void writesUtf8WithLineFeeds();
+    void namesAFileWithoutABase();
+    void refusesNamesThatCannotBeFiles_data();
+    void refusesNamesThatCannotBeFiles();
+    void leavesTheValueAloneWhenTheFolderIsAFile();
+    void overwritesNothing();
+
+private:
+    QString folder() const { return root_->path() + QStringLiteral("/temp"); }
+    QString recolouredFile(const QString &icon) { return fileNameOf(recolourIcon(dialog_.get(), valueOf(icon), white)); }
+
+    std::unique_ptr<QTemporaryDir> root_;
+    std::unique_ptr<QWidget> dialog_;
+};
+
+void TestIconRecolouring::init()
+{
+    root_ = std::make_unique<QTemporaryDir>();
+    dialog_ = std::make_unique<QWidget>();
+    fake_sal::state().temporaryPath = QDir::toNativeSeparators(root_->path()).toStdString();
+}
+
+void TestIconRecolouring::cleanup()
+{
+    dialog_.reset();
+    folderSources() = FolderSources();
+}
+
+void TestIconRecolouring::buildsTheBaseName_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("name");
+    const auto add = [](const char *row, const char *value, const char *name) {
+        QTest::newRow(row) << QString::fromUtf8(value) << QString::fromUtf8(name);
+    };
+    add("usual", R"(url(":/icons/audio/play.svg"))", "icons_audio_play");
+    add("blanks around", "  url(\":/play.svg\")\t\n", "play");
+    add("blanks inside", R"(url(":/ play .svg "))", "play");
+    add("equals signs", R"(=url(":/a=b.svg"))", "ab");
+    add("suffix everywhere", R"(url(":/a.svg/b.svg"))", "a_b");
+    add("longer suffix", R"(url(":/icon.svgz"))", "iconz");
+    add("capital suffix", R"(url(":/icon.SVG"))", "icon.SVG");
+    add("nothing left", R"(url(":/.svg"))", "");
+    add("empty", "", "");
+    add("blank before the quotation mark", R"(url( ":/a.svg"))", R"(url( ":_a)");
+    add("two icons", R"(url(":/a.svg") url(":/b.svg"))", "a b");
+}
+
+void TestIconRecolouring::buildsTheBaseName()
+{
+    QFETCH(QString, value);
+    QTEST(iconBaseName(value), "name");
+}
+
+void TestIconRecolouring::replacesTheFirstFillColourEverywhere_data()
+{
+    QTest::addColumn<QString>("icon");
+    QTest::addColumn<QByteArray>("oldColour");
+    QTest::newRow("stroke of the same colour too") << "play.svg" << QByteArray("#123456");
+    QTest::newRow("no fill at all") << "without_fill.svg" << QByteArray();
+    QTest::newRow("empty fill") << "empty_fill.svg" << QByteArray();
+    QTest::newRow("no closing quotation mark") << "open_fill.svg" << QByteArray();
+    QTest::newRow("only in the same letter case") << "upper_case.svg" << QByteArray("#ABCDEF");
+    QTest::newRow("none counts as a colour") << "none_first.svg" << QByteArray("none");
+}
+
+void TestIconRecolouring::replacesTheFirstFillColourEverywhere()
+{
+    QFETCH(QString, icon);
+    QFETCH(QByteArray, oldColour);
+    QByteArray expected = bytesOf(QStringLiteral(":/icons/audio/") + icon);
+    if (!oldColour.isEmpty()) {
+        QVERIFY(expected.contains(oldColour));
+        expected.replace(oldColour, white.toLatin1());
+    }
+    QCOMPARE(bytesOf(recolouredFile(icon)), expected);
+}
+
+void TestIconRecolouring::leavesTheValueAlone_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::newRow("no icon there") << valueOf(QStringLiteral("absent.svg"));
+    QTest::newRow("empty icon") << valueOf(QStringLiteral("empty.svg"));
+    QTest::newRow("bitmap") << valueOf(QStringLiteral("bitmap.png"));
+    QTest::newRow("folder") << QStringLiteral("url(\":/icons/audio\")");
+    QTest::newRow("no quoted path") << QStringLiteral("url(:/icons/audio/play.svg)");
+    QTest::newRow("one quotation mark") << QStringLiteral("url(\":/icons/audio/play.svg)");
+    QTest::newRow("empty path") << QStringLiteral("url(\"\")");
+    QTest::newRow("none") << QStringLiteral("none");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("a quotation mark left in the base name") << QStringLiteral("url( \":/icons/audio/play.svg\")");
+    QTest::newRow("a colon in the base name") << valueOf(QStringLiteral("x:y.svg"));
+}
+
+void TestIconRecolouring::leavesTheValueAlone()
+{
+    QFETCH(QString, value);
+    QCOMPARE(recolourIcon(dialog_.get(), value, white), value);
+    QVERIFY(dialog_->children().isEmpty());
+    QVERIFY(QDir(folder()).isEmpty());
+}
+
+void TestIconRecolouring::pointsAtAFileInTheHostsTemporaryFolder()
+{
+    const QString fileName = recolouredFile(QStringLiteral("play.svg"));
+    QVERIFY(QFile::exists(fileName));
+    QVERIFY2(!fileName.contains(u'\\'), qPrintable(fileName)); // an escape in a stylesheet
+    const QString folderOfFile = QFileInfo(fileName).canonicalPath();
+    QCOMPARE(folderOfFile, QFileInfo(folder()).canonicalFilePath());
+    const QRegularExpression name(QStringLiteral("^icons_audio_play_[A-Za-z]{6}\\.svg$"));
+    QVERIFY2(name.match(QFileInfo(fileName).fileName()).hasMatch(), qPrintable(fileName));
+}
+
+void TestIconRecolouring::fallsBackOnTheApplicationFolder()
+{
+    fake_sal::state().temporaryPath.clear();
+    static QString base;
+    base = QDir::toNativeSeparators(root_->path());
+    folderSources().cacheFolder = [] { return base.toStdU16String(); };
+    folderSources().userName = [] { return std::u16string(u"alice"); };
+    const QString fileName = recolouredFile(QStringLiteral("play.svg"));
+    QCOMPARE(QFileInfo(fileName).canonicalPath(),
+             QFileInfo(root_->path() + QStringLiteral("/Tamrex/VMK/alice/temp")).canonicalFilePath());
+}
+
+void TestIconRecolouring::twoRulesGetTwoFiles()
+{
+    const QString first = recolouredFile(QStringLiteral("play.svg"));
+    const QString second = recolouredFile(QStringLiteral("play.svg"));
+    QVERIFY(first != second);
+    QCOMPARE(bytesOf(first), bytesOf(second));
+}
+
+void TestIconRecolouring::firstQuotedPathStandsForTheWholeValue()
+{
+    const QString value =
+        valueOf(QStringLiteral("without_fill.svg")) + QStringLiteral(", ") + valueOf(QStringLiteral("play.svg"));
+    const QString fileName = fileNameOf(recolourIcon(dialog_.get(), value, white));
+    QCOMPARE(bytesOf(fileName), bytesOf(QStringLiteral(":/icons/audio/without_fill.svg")));
+}
+
+void TestIconRecolouring::filesGoWithTheirDialog()
+{
+    const QString fileName = recolouredFile(QStringLiteral("play.svg"));
+    QCOMPARE(dialog_->children().size(), 1);
+    QVERIFY(QFile::exists(fileName));
+    dialog_.reset();
+    QVERIFY(!QFile::exists(fileName));
+}
+
+void TestIconRecolouring::writesUtf8WithLineFeeds()
+{
+    QCOMPARE(bytesOf(recolouredFile(QStringLiteral("carriage_returns.svg"))), QByteArray("<svg fill=\"#ffffff\">\n</svg>\n"));
+    QCOMPARE(bytesOf(recolouredFile(QStringLiteral("bad_utf8.svg"))),
+             QByteArray("<svg fill=\"#ffffff\">\xC3\xA4\xEF\xBF\xBD</svg>\n"));
+}
+
+void TestIconRecolouring::namesAFileWithoutABase()
+{
+    const QTemporaryFile *file = writeTemporarySvg(dialog_.get(), {}, QStringLiteral("<svg/>"), folder());
+    QVERIFY(file != nullptr);
+    QVERIFY(file->isOpen());
+    QCOMPARE(file->parent(), dialog_.get());
+    QVERIFY(QFileInfo(file->fileName()).fileName().startsWith(QStringLiteral("temp_svg_")));
+}
+
+void TestIconRecolouring::refusesNamesThatCannotBeFiles_data()
+{
+    QTest::addColumn<QString>("baseName");
+    QTest::newRow("quotation mark") << QStringLiteral("a\"b");
+    QTest::newRow("backslash") << QStringLiteral("a\\b");
+    QTest::newRow("colon") << QStringLiteral("a:b");
+    QTest::newRow("line end") << QStringLiteral("a\nb");
+    QTest::newRow("too long") << QString(300, u'a');
+}
+
+void TestIconRecolouring::refusesNamesThatCannotBeFiles()
+{
+    QFETCH(QString, baseName);
+    QCOMPARE(writeTemporarySvg(dialog_.get(), baseName, QStringLiteral("<svg/>"), folder()), nullptr);
+    QVERIFY(QDir(folder()).isEmpty());
+}
+
+void TestIconRecolouring::leavesTheValueAloneWhenTheFolderIsAFile()
+{
+    QFile file(folder());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    const QString value = valueOf(QStringLiteral("play.svg"));
+    QCOMPARE(recolourIcon(dialog_.get(), value, white), value);
+    QVERIFY(dialog_->children().isEmpty());
+    QCOMPARE(QFileInfo(folder()).size(), 0);
+}
+
+void TestIconRecolouring::overwritesNothing()
+{
+    QVERIFY(QDir().mkpath(folder()));
+    QFile file(folder() + QStringLiteral("/icons_audio_play_XXXXXX.svg"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("mine") == 4);
+    file.close();
+    QVERIFY(!recolouredFile(QStringLiteral("play.svg")).isEmpty());
+    QCOMPARE(bytesOf(file.fileName()), QByteArray("mine"));
+}
+
+QTEST_MAIN(TestIconRecolouring)
+#include "tst_icon_recolouring.moc"

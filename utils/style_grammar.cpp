@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "utils/style_grammar.h"
+
+#include <QRegularExpression>
+
+namespace ostra::utils {
+
+namespace {
+
+// Qt takes characters beyond ASCII in quoted texts only. Possessive throughout: a text that does not match must not be tried in
+// every other way.
+const QString identifier = QStringLiteral(R"re((?:-?[_A-Za-z][-_A-Za-z0-9]*+))re");
+const QString quoted = QStringLiteral(R"re((?:"(?:[^"\\\r\n]|\\[^\r\n])*+"|'(?:[^'\\\r\n]|\\[^\r\n])*+'))re");
+
+QRegularExpression whole(const QString &pattern)
+{
+    QRegularExpression expression(QStringLiteral(R"(\A%1\z)").arg(pattern));
+    expression.optimize();
+    return expression;
+}
+
+QString selectorPattern()
+{
+    const QString attribute = QStringLiteral(R"re(\[ ?%1 ?(?:[~|^$*]?= ?(?:%1|%2) ?)?+\])re").arg(identifier, quoted);
+    const QString tail = QStringLiteral(R"re((?:[#.]%1|%2|::?!?%1))re").arg(identifier, attribute);
+    const QString compound = QStringLiteral(R"re((?:(?:\*|%1)%2*+|%2++))re").arg(identifier, tail);
+    const QString chain = QStringLiteral(R"re((?:%1(?:(?: ?> ?| )%1)*+))re").arg(compound);
+    return QStringLiteral(R"re(%1(?: ?, ?%1)*+)re").arg(chain);
+}
+
+QString valuePattern()
+{
+    const QString url = QStringLiteral(R"re((?:[Uu][Rr][Ll]\( ?(?:%1|[-!#$%&*+./:?@\[\]^_~A-Za-z0-9]++) ?\)))re").arg(quoted);
+    const QString number = QStringLiteral(R"re((?:[-+]?(?:[0-9]++(?:\.[0-9]++)?+|\.[0-9]++)(?:%|[A-Za-z]++)?+))re");
+    const QString arguments = QStringLiteral(R"re((?(DEFINE)(?<arguments>\((?:[-+.,:#%/ \w]|(?&arguments))*+\))))re");
+    const QString function = QStringLiteral("(?:%1(?&arguments))").arg(identifier);
+    const QString hash = QStringLiteral(R"re((?:#[-_A-Za-z0-9]++))re");
+    const QString term = QStringLiteral("(?:") + QStringList{url, function, number, hash, quoted, identifier}.join(u'|') + u')';
+    return arguments + term + QStringLiteral("(?: ?[,/]? ?") + term +
+           QStringLiteral(R"re()*+(?: ?! ?[Ii][Mm][Pp][Oo][Rr][Tt][Aa][Nn][Tt])?+)re");
+}
+
+} // namespace
+
+bool isStyleSelector(const QString &text)
+{
+    static const QRegularExpression expression = whole(selectorPattern());
+    return expression.match(text).hasMatch();
+}
+
+bool isStyleProperty(const QString &text)
+{
+    static const QRegularExpression expression = whole(QStringLiteral("-?[_A-Za-z][-_A-Za-z0-9]*+"));
+    return expression.match(text).hasMatch();
+}
+
+bool isStyleValue(const QString &text)
+{
+    static const QRegularExpression expression = whole(valuePattern());
+    return expression.match(text).hasMatch();
+}
+
+} // namespace ostra::utils

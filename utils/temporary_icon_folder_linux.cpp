@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "utils/temporary_icon_folder.h"
+
+#include <QByteArray>
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace ostra::utils {
+
+namespace {
+
+class Descriptor {
+public:
+    explicit Descriptor(int descriptor) : descriptor_(descriptor) {}
+    ~Descriptor()
+    {
+        if (descriptor_ >= 0)
+            ::close(descriptor_);
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+    int get() const { return descriptor_; }
+
+private:
+    int descriptor_;
+};
+
+// Without trailing separators: behind one, a link at the end would be followed.
+QByteArray folderName(const QString &folder)
+{
+    QByteArray name = QFile::encodeName(folder);
+    while (name.size() > 1 && name.endsWith('/'))
+        name.chop(1);
+    return name;
+}
+
+bool makeFolder(const QByteArray &name) { return ::mkdir(name.constData(), S_IRWXU) == 0 || errno == EEXIST; }
+
+bool makeFolderWithParents(const QByteArray &name)
+{
+    for (qsizetype end = name.indexOf('/', 1); end > 0; end = name.indexOf('/', end + 1)) {
+        const QByteArray parent = name.left(end);
+        if (::access(parent.constData(), F_OK) != 0 && !makeFolder(parent))
+            return false;
+    }
+    return makeFolder(name);
+}
+
+bool isSafeFolder(const QByteArray &name)
+{
+    const Descriptor descriptor(::open(name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat facts {};
+    if (descriptor.get() < 0 || ::fstat(descriptor.get(), &facts) != 0)
+        return false;
+    const bool othersWrite = (facts.st_mode & (S_IWGRP | S_IWOTH)) != 0;
+    return facts.st_uid == ::geteuid() && (!othersWrite || (facts.st_mode & S_ISVTX) != 0);
+}
+
+} // namespace
+
+bool ensureTemporaryIconFolder(const QString &folder)
+{
+    const QByteArray name = folderName(folder);
+    return !name.isEmpty() && makeFolderWithParents(name) && isSafeFolder(name);
+}
+
+} // namespace ostra::utils
