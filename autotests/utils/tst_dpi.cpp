@@ -230,10 +230,12 @@ void TestDpi::keepsTheLastReportWhenTheSystemFailsLater()
 
 void TestDpi::isAbsentAgainWithoutAWindow() { QCOMPARE(Dpi::instance(), nullptr); }
 
-// The screen's logical DPI comes from this variable, which Qt reads when the application starts.
+// The screen's logical DPI comes from these variables, which Qt reads when the application starts: without the second it would
+// scale by itself and tell 96.
 int main(int argc, char *argv[])
 {
     qputenv("QT_FONT_DPI", "150");
+    qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
     const QApplication application(argc, argv);
     TestDpi test;
     return QTest::qExec(&test, argc, argv);
