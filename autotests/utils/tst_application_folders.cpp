@@ -58,7 +58,7 @@ void TestApplicationFolders::composesEveryFolder_data()
     QTest::newRow("logs") << 3U << "/data/Tamrex/VMK/alice/logs/";
     QTest::newRow("workers") << 4U << "/data/Tamrex/VMK/alice/wkrs/";
     QTest::newRow("scripts") << 5U << "/data/Tamrex/VMK/alice/scripts/";
-    QTest::newRow("current scripts") << 6U << "/work/scripts/";
+    QTest::newRow("current scripts") << 6U << "/desk/scripts/";
     QTest::newRow("web engine") << 7U << "/cache/Tamrex/VMK/alice/QtWebEngine/";
     QTest::newRow("thermal monitor logs") << 8U << "/data/Tamrex/VMK/alice/logs_thermal_monitor_tool/";
     QTest::newRow("temporary files") << 9U << "/cache/Tamrex/VMK/alice/temp/";
@@ -70,7 +70,7 @@ void TestApplicationFolders::composesEveryFolder()
     folderSources().dataFolder = [] { return withSeparators(u"/data"); };
     folderSources().cacheFolder = [] { return withSeparators(u"/cache"); };
     folderSources().userName = [] { return std::u16string(u"alice"); };
-    folderSources().currentFolder = [] { return withSeparators(u"/work"); };
+    folderSources().currentFolder = [] { return withSeparators(u"/desk"); };
     QFETCH(quint32, id);
     QFETCH(QString, path);
     QCOMPARE(QString::fromStdU16String(applicationFolder(id)), QDir::toNativeSeparators(path));
