@@ -144,6 +144,9 @@ void TestDpi::scalesValuesToTheLastBit_data()
     QTest::newRow("8, 4 at 168 DPI") << 168U << 8.0 << 4.0 << 0x1.499999999999ap+2;
     QTest::newRow("8, 4 at 192 DPI") << 192U << 8.0 << 4.0 << 0x1.4000000000000p+2;
     QTest::newRow("8, 4 at 288 DPI") << 288U << 8.0 << 4.0 << 0x1.4000000000000p+2;
+    QTest::newRow("6.3, 5.4 at 168 DPI, where another order rounds differently") << 168U << 6.3 << 5.4 << 0x1.6428f5c28f5c4p+2;
+    QTest::newRow("12.2, 0.8 at 168 DPI, where another order rounds differently")
+        << 168U << 12.2 << 0.8 << 0x1.11eb851eb851fp+2;
     QTest::newRow("9.7, 3.3 at 168 DPI") << 168U << 9.7 << 3.3 << 0x1.49eb851eb851ep+2;
     QTest::newRow("0.1, 0.2 at 120 DPI") << 120U << 0.1 << 0.2 << 0x1.6a0ea0ea0ea0fp-2;
 }
