@@ -14,7 +14,8 @@ namespace ostra::utils {
 /// `propertyValue` is the value of an "image" or "icon" property, url(":/path/of/icon.svg"). Replaces the colour of the
 /// first fill attribute, wherever that colour's text occurs, by `colour` (QColor::name), writes the result to a temporary
 /// file owned by `dialog` and returns url("...") with its full name, with "/" as the separator. Returns the value unchanged
-/// when the icon cannot be read, is empty or is no text (a bitmap), or when no file can be written whose name can stand in a stylesheet.
+/// when the icon cannot be read, is empty or is no text (a bitmap), or when no file can be written whose name can stand in a
+/// stylesheet.
 ///
 /// The file lies in the folder "temp" below the host's temporary path, else in the application folder for temporary files.
 QString recolourIcon(QObject *dialog, const QString &propertyValue, const QString &colour);
