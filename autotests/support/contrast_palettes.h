@@ -15,7 +15,7 @@ namespace contrast_palettes {
 struct Palette {
     const char *name;
     // As 0xRRGGBB. Microsoft's page "Contrast themes" (learn.microsoft.com, apps/design/accessibility/high-contrast-themes)
-    // names these eight and shows them as swatches; the numbers are those of the themes that Windows installs.
+    // names these eight and shows them as swatches only; the numbers were taken from public copies of the theme files' values.
     std::uint32_t window;
     std::uint32_t windowText;
     std::uint32_t buttonFace;
@@ -25,8 +25,9 @@ struct Palette {
     std::uint32_t hotLight;
     std::uint32_t grayText;
     // No part of the page: Background, InfoText, WindowFrame and GradientActiveTitle of the section [Control Panel\Colors] in
-    // the theme files hcblack.theme (Aquatic) and hcwhite.theme (Desert). The files of the other two were not to be had: they
-    // take those of the other dark theme. Background is the window's colour, as hcwhite.theme has it.
+    // public copies of hcblack.theme (Aquatic, one that its user had edited elsewhere) and hcwhite.theme (Desert). The files of
+    // the other two were not to be had: they take those of the other dark theme. Background is the window's colour, as
+    // hcwhite.theme has it.
     std::uint32_t background;
     std::uint32_t infoText;
     std::uint32_t windowFrame;
