@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/core/device_list.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+#include <optional>
+
+namespace host {
+
+struct RunProgress {
+    std::uint32_t percent = 0;
+    QString text; ///< a key, a composite of keys, or empty
+};
+
+struct RunMessage {
+    QString text;            ///< a key or a composite of keys
+    std::uint32_t level = 0; ///< 2 explains a failure, 0 is a note
+};
+
+/// One digit of an unattended playback run.
+struct HeardDigit {
+    int sequence = 1;         ///< 1 or 2
+    int position = 1;         ///< 1 to 3 within its sequence
+    qint64 playedAtMs = 0;    ///< start of the sound, in milliseconds since the run began
+    std::optional<int> heard; ///< 0 to 9; nothing when no digit was recognised
+    std::optional<int> typed; ///< what was pressed on the keypad
+    double score = 0.0;       ///< of the matched filter, 0 to 1
+    double margin = 0.0;      ///< distance to the second best digit
+    double latencyMs = 0.0;   ///< from the dialog's "playing" to the first sound; below zero when not known
+    double levelDbfs = 0.0;   ///< RMS level of what was captured
+    bool clipped = false;
+};
+
+/// One run of one test on one device, as it happened; what a report is written from.
+struct RunRecord {
+    QString testLetter;  ///< "p" or "m"
+    QString testNameKey; ///< such as "AUDIO_PLAYBACK_TEST"
+    Device device;
+    QString language; ///< code such as "en_US"
+    QDateTime startedUtc;
+    QDateTime endedUtc;
+    std::uint32_t moduleCode = 4; ///< what the module returned
+    std::uint32_t code = 4;       ///< the verdict: 4 when the run was stopped, else `moduleCode`
+    bool wasStopped = false;
+    QString reason; ///< why there is no verdict of the module's own, in words for a report; empty otherwise
+    QList<RunProgress> progress;
+    QList<RunMessage> messages;
+    bool isUnattended = false;
+    QString listenedTo; ///< capture source of an unattended run
+    QList<HeardDigit> digits;
+    QStringList screenshots;     ///< files, absolute paths
+    QStringList restoredVolumes; ///< endpoints whose level the guardian had to put back
+};
+
+} // namespace host

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace host {
+
+/// Every playback and capture endpoint that a run will raise, in words for the user: description, or name where there is none.
+QStringList endpointsThatWillBeRaised();
+
+/// The process that gives the volumes back when this one cannot. One at a time, GUI thread.
+class GuardianClient {
+public:
+    /// `stateFolder` holds the note of the levels, for a start after a power cut.
+    explicit GuardianClient(QString stateFolder);
+    ~GuardianClient(); ///< as `finish`
+    GuardianClient(const GuardianClient &) = delete;
+    GuardianClient &operator=(const GuardianClient &) = delete;
+
+    /// Puts back what a note of an earlier run still holds, and names those endpoints; empty when there was nothing to do.
+    QStringList restoreLeftovers();
+
+    /// Starts the guardian and waits, bounded, until it has noted every level. False with `errorText()` when it could not.
+    bool start();
+    const QString &errorText() const noexcept { return errorText_; }
+
+    /// Normal end: lets the guardian compare, put back what is left, and end. The endpoints that it had to put back.
+    QStringList finish();
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d_;
+    QString errorText_;
+};
+
+} // namespace host

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/dialog/input_dialog.h"
+
+#include "contract/test_context.h"
+
+#include <QDebug>
+#include <QEventLoop>
+#include <QPointer>
+#include <QTimer>
+
+#include <chrono>
+
+namespace ostra {
+
+namespace {
+
+constexpr std::chrono::milliseconds watcherInterval{1000};
+
+} // namespace
+
+InputDialog::InputDialog(QWidget * /*parent*/, QObject *eventFilter) : AccessibleDialogBase(nullptr)
+{
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setAttribute(Qt::WA_QuitOnClose, false); // the end of a test must not end a host without another window
+    setWindowFlag(Qt::WindowStaysOnTopHint);
+    setWindowModality(Qt::WindowModal);
+    setModal(true);
+    if (eventFilter != nullptr)
+        installEventFilter(eventFilter);
+    connect(this, &QDialog::finished, this, [this] { hasFinished_ = true; });
+}
+
+void InputDialog::raiseOnce()
+{
+    setWindowFlag(Qt::WindowStaysOnTopHint);
+    show();
+    hide();
+    setWindowFlag(Qt::WindowStaysOnTopHint, false);
+}
+
+void InputDialog::askWatcher()
+{
+    // Only the loop ends: whoever made the dialog closes it.
+    if (watcher_ != nullptr && watcher_->continueOnOutcome())
+        emit finished(0);
+}
+
+int InputDialog::runLoop()
+{
+    const QPointer<InputDialog> self(this);
+    int outcome = result();
+    QEventLoop loop;
+    // Taken here, because nothing of a dialog can be read once it is gone.
+    connect(this, &QDialog::finished, &loop, [this, &outcome] { outcome = result(); });
+    connect(this, &QDialog::finished, &loop, &QEventLoop::quit);
+    connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, &InputDialog::askWatcher);
+    qDebug().nospace() << "Before show: " << result();
+    show();
+    qDebug().nospace() << "Before loop: " << result();
+    timer.start(watcherInterval);
+    if (!hasFinished_)
+        loop.exec();
+    if (self)
+        outcome = result();
+    qDebug().nospace() << "After the event loop: " << outcome;
+    return outcome;
+}
+
+int InputDialog::exec()
+{
+    if (hasFinished_)
+        return result();
+    const QPointer<InputDialog> self(this);
+    const bool deletesOnClose = testAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_DeleteOnClose, false); // a close inside the loop would delete the object that runs it
+    const int outcome = runLoop();
+    if (self)
+        setAttribute(Qt::WA_DeleteOnClose, deletesOnClose);
+    return outcome;
+}
+
+} // namespace ostra
