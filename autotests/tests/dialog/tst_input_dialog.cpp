@@ -370,6 +370,7 @@ void TestInputDialog::aSecondDialogRunsAfterTheLastWindowClosed()
     QTimer::singleShot(0, qApp, [&] {
         InputDialog first(nullptr, nullptr);
         firstResult = run(first, [&first] { first.accept(); });
+        QApplication::processEvents(); // showing the second at once would take back an order to quit
         InputDialog second(nullptr, nullptr);
         secondResult = run(
             second, [&second] { second.accept(); }, 200);
