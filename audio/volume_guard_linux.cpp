@@ -1,26 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "audio/volume_guard.h"
-
-#include "audio/saved_volumes.h"
+#include "audio/platform_volume_guard.h"
 
 namespace ostra::audio {
 
 /// The guard over the sinks and sources of the PulseAudio server.
-class AudioControllerVolumePulse final : public AudioControllerVolume {
-public:
-    bool setVolume(std::int32_t percent) override { return volumes_.raise(percent); }
-    bool restoreVolume() override { return volumes_.restore(); }
-    bool reapplyCurrentVolume() override { return SavedVolumes::reapplyCurrent(); }
+class AudioControllerVolumePulse final : public EndpointVolumeGuard {};
 
-private:
-    SavedVolumes volumes_;
-};
-
-VolumeGuard makeVolumeGuard(std::int32_t percent)
-{
-    VolumeGuard guard(new AudioControllerVolumePulse);
-    guard->setVolume(percent);
-    return guard;
-}
+std::unique_ptr<AudioControllerVolume> makePlatformVolumeGuard() { return std::make_unique<AudioControllerVolumePulse>(); }
 
 } // namespace ostra::audio

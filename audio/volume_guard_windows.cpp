@@ -1,26 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "audio/volume_guard.h"
-
-#include "audio/saved_volumes.h"
+#include "audio/platform_volume_guard.h"
 
 namespace ostra::audio {
 
 /// The guard over the endpoints of Windows Core Audio.
-class AudioControllerVolumeWindows final : public AudioControllerVolume {
-public:
-    bool setVolume(std::int32_t percent) override { return volumes_.raise(percent); }
-    bool restoreVolume() override { return volumes_.restore(); }
-    bool reapplyCurrentVolume() override { return SavedVolumes::reapplyCurrent(); }
+class AudioControllerVolumeWindows final : public EndpointVolumeGuard {};
 
-private:
-    SavedVolumes volumes_;
-};
-
-VolumeGuard makeVolumeGuard(std::int32_t percent)
-{
-    VolumeGuard guard(new AudioControllerVolumeWindows);
-    guard->setVolume(percent);
-    return guard;
-}
+std::unique_ptr<AudioControllerVolume> makePlatformVolumeGuard() { return std::make_unique<AudioControllerVolumeWindows>(); }
 
 } // namespace ostra::audio

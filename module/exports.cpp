@@ -4,6 +4,7 @@
 #include "module/export_macro.h"
 #include "module/instance.h"
 #include "module/library_pin.h"
+#include "utils/dpi.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ MODULE_AUDIO_EXPORT void ReleaseModuleInterfaceInstance() noexcept
         return;
     try {
         ostra::destroyInstance(singleton);
+        ostra::utils::Dpi::destroyInstance(); // lies below a window of the host, which may live on
     } catch (...) {
         // What is left is leaked: a second attempt could destroy twice.
     }

@@ -8,8 +8,10 @@
 #include "module/audio_resource.h"
 #include "module/device_hints.h"
 #include "module/test_with_device_hint.h"
+#include "resources/icons.h"
 #include "tests/audio_playback_test.h"
 #include "tests/microphone_interactive_test.h"
+#include "views/register_types.h"
 
 #include <memory>
 #include <new>
@@ -28,6 +30,13 @@ ParameterTable parameterTable()
     table.emplace(1U, "");
     table.emplace(2U, "");
     return table;
+}
+
+// What the dialogs look up by name. Needs no application object: a command-line host has none that could show a window.
+void prepareDialogs()
+{
+    initIcons();
+    registerViewTypes();
 }
 
 void startSoundLibrary()
@@ -59,6 +68,7 @@ void destroyDiagnostics(const ModuleInterface &instance)
 
 ModuleInterface *buildInstance()
 {
+    prepareDialogs();
     std::unique_ptr<Test> playback =
         std::make_unique<TestWithDeviceHint<AudioPlaybackTest>>(identities::audioPlaybackTest, playbackHint());
     std::unique_ptr<Test> microphone = std::make_unique<TestWithDeviceHint<MicrophoneInteractiveTest>>(

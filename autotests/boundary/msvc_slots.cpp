@@ -17,6 +17,7 @@
 #include "contract/system_component_manager.h"
 #include "contract/test.h"
 #include "contract/test_context.h"
+#include "tests/audio_playback_test.h"
 
 #include <cstdint>
 #include <string>
@@ -41,6 +42,10 @@ class LaidOutTest final : public ostra::Test {
     bool isSupported(ostra::SystemComponent *component) override { return component != nullptr; }
     std::uint32_t run(ostra::TestContext *context) override { return context != nullptr ? 0U : 6U; }
     bool firstFlag() override { return true; }
+};
+
+class LaidOutPlaybackTest final : public ostra::AudioPlaybackTest {
+    using AudioPlaybackTest::AudioPlaybackTest;
 };
 
 class LaidOutResource final : public ostra::Resource {
@@ -139,6 +144,7 @@ void layOutObjectsOfTheModule()
     LaidOutProductVersion(1, 2, 3, 4);
     LaidOutDiagnostic(someone, {});
     LaidOutTest{someone};
+    LaidOutPlaybackTest{someone};
     LaidOutResource{someone};
     LaidOutManager{someone};
     LaidOutComponent("");

@@ -26,8 +26,8 @@ public:
 
     /// Shows the dialog and runs a local event loop until it finishes, is destroyed, or the watcher wants the test to stop, and
     /// returns the dialog's result. A stop by the watcher leaves the dialog visible with the result that it has. A dialog that
-    /// finished before is not run again: its result is returned at once. The dialog is never deleted in here, also with
-    /// Qt::WA_DeleteOnClose, which is back in force afterwards.
+    /// finished before is neither shown nor run: its result is returned at once. The dialog is never deleted in here, also with
+    /// Qt::WA_DeleteOnClose, which is back in force afterwards. A watcher that throws counts as one that wants to stop.
     int exec() override;
 
     /// Whether the dialog has finished, by itself or by its watcher.
