@@ -26,8 +26,10 @@ QString contents(const QString &path)
 
 QSet<QString> keysInCalls(const QString &source, const QString &context)
 {
-    const QString call = QStringLiteral(R"re((?:\btranslate|\bQT_TRANSLATE_NOOP\w*)\s*\(\s*"%1"\s*,\s*"([^"]*)")re");
-    return allCaptures(QRegularExpression(call.arg(context)), source);
+    const QString standard = QStringLiteral(R"re(\b(?:translate|QT_TRANSLATE_NOOP\w*)\s*\(\s*"%1"\s*,)re").arg(context);
+    const bool hasShortForm = context == QLatin1String("HOST");
+    const QString opening = hasShortForm ? standard + QLatin1String(R"re(|\bhostText\s*\()re") : standard;
+    return allCaptures(QRegularExpression(QStringLiteral(R"re((?:%1)\s*"([^"]*)")re").arg(opening)), source);
 }
 
 QSet<QString> declaredLiterals(const QString &source)

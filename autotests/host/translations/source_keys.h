@@ -6,7 +6,8 @@
 #include <QString>
 #include <QStringList>
 
-/// Keys that a piece of source text asks a translation for in `context`, written as literals in the call.
+/// Keys that a piece of source text asks a translation for in `context`, written as literals in the call: by Qt's own names,
+/// and for "HOST" also by `hostText`.
 QSet<QString> keysInCalls(const QString &source, const QString &context);
 
 /// Literals that constants are declared as, whatever they look like.
