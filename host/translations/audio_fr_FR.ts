@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>AUDIO_PLAYBACK_TEST_DESCRIPTION</source>
-        <translation>Lit des chiffres parlés sur le périphérique sélectionné ; vous saisissez ce que vous entendez.</translation>
+        <translation>Énonce des chiffres sur le périphérique sélectionné ; vous saisissez ce que vous entendez.</translation>
     </message>
     <message>
         <source>MICROPHONE_INTERACTIVE_TEST</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>AUDIO_PLAYBACK_TEST_INSTRUCTIONS</source>
-        <translation>Trois chiffres parlés vont être lus ; saisissez ce que vous entendez. Pour cela, tous les volumes de lecture et d’enregistrement de cet ordinateur sont réglés à 100 %, puis rétablis. Si vous portez un casque ou des écouteurs, retirez-les maintenant.</translation>
+        <translation>Trois chiffres vont être énoncés ; saisissez ce que vous entendez. Pour cela, tous les volumes de lecture et d’enregistrement de cet ordinateur sont réglés à 100 %, puis rétablis. Si vous portez un casque ou des écouteurs, retirez-les maintenant.</translation>
     </message>
     <message>
         <source>DID_YOU_HEAR_THE_SAME_SOUND_YOU_RECORDED</source>

@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>LOG_STOP_PRESSED</source>
-        <translation>Stoppen wurde gedrückt.</translation>
+        <translation>„Stoppen“ wurde gedrückt.</translation>
     </message>
     <message>
         <source>LOG_EVENT_SIMULATED</source>

@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>LOG_STOP_PRESSED</source>
-        <translation>Se ha pulsado Detener.</translation>
+        <translation>Se ha pulsado «Detener».</translation>
     </message>
     <message>
         <source>LOG_EVENT_SIMULATED</source>

@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>LOG_STOP_PRESSED</source>
-        <translation>Le bouton Arrêter a été pressé.</translation>
+        <translation>« Arrêter » a été actionné.</translation>
     </message>
     <message>
         <source>LOG_EVENT_SIMULATED</source>

@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>LOG_STOP_PRESSED</source>
-        <translation>È stato premuto Interrompi.</translation>
+        <translation>È stato premuto «Interrompi».</translation>
     </message>
     <message>
         <source>LOG_EVENT_SIMULATED</source>

@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>LEVEL_NOTE</source>
-        <translation>メモ</translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>HISTORY</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>LOG_STOP_PRESSED</source>
-        <translation>停止が押されました。</translation>
+        <translation>「停止」が押されました。</translation>
     </message>
     <message>
         <source>LOG_EVENT_SIMULATED</source>

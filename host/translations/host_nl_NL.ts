@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>LOG_STOP_PRESSED</source>
-        <translation>Er is op Stoppen gedrukt.</translation>
+        <translation>Er is op ‘Stoppen’ gedrukt.</translation>
     </message>
     <message>
         <source>LOG_EVENT_SIMULATED</source>

@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>LOG_STOP_PRESSED</source>
-        <translation>Parar foi pressionado.</translation>
+        <translation>“Parar” foi pressionado.</translation>
     </message>
     <message>
         <source>LOG_EVENT_SIMULATED</source>

@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>LOG_STOP_PRESSED</source>
-        <translation>已按下停止。</translation>
+        <translation>已按下“停止”。</translation>
     </message>
     <message>
         <source>LOG_EVENT_SIMULATED</source>
