@@ -1,0 +1,264 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>HOST</name>
+    <message>
+        <source>DEVICES</source>
+        <translation>Ausgabegeräte</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES_HINT</source>
+        <translation>Liest die Liste der Ausgabegeräte neu ein (F5). Die Liste aktualisiert sich auch selbst, wenn ein Gerät hinzukommt oder wegfällt.</translation>
+    </message>
+    <message>
+        <source>READING_DEVICES</source>
+        <translation>Ausgabegeräte werden eingelesen…</translation>
+    </message>
+    <message>
+        <source>DEVICES_FOUND</source>
+        <translation>Gefundene Ausgabegeräte: %1</translation>
+    </message>
+    <message>
+        <source>NO_DEVICES</source>
+        <translation>Es wurde kein Ausgabegerät gefunden. Schließen Sie eines an. Die Liste aktualisiert sich selbst.</translation>
+    </message>
+    <message>
+        <source>VALUE_NOT_KNOWN</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>TESTS</source>
+        <translation>Tests</translation>
+    </message>
+    <message>
+        <source>TEST</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>TEST_DESCRIPTION</source>
+        <translation>Beschreibung des Tests</translation>
+    </message>
+    <message>
+        <source>RUN_TEST</source>
+        <translation>Ausführen</translation>
+    </message>
+    <message>
+        <source>RUN_TEST_HINT</source>
+        <translation>Führt den gewählten Test auf dem gewählten Gerät aus (Strg+R).</translation>
+    </message>
+    <message>
+        <source>STOP_TEST</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>STOP_TEST_HINT</source>
+        <translation>Stoppt den laufenden Test. Strg+Umschalt+S bewirkt dasselbe, auch während ein Testfenster geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>STOPPING</source>
+        <translation>Wird gestoppt…</translation>
+    </message>
+    <message>
+        <source>PROGRESS</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>RESULT</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>MESSAGES</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>NO_RESULT_YET</source>
+        <translation>Es wurde noch kein Test ausgeführt.</translation>
+    </message>
+    <message>
+        <source>TEST_IS_RUNNING</source>
+        <translation>Der Test läuft…</translation>
+    </message>
+    <message>
+        <source>VERDICT_PASSED</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>VERDICT_FAILED</source>
+        <translation>Nicht bestanden</translation>
+    </message>
+    <message>
+        <source>VERDICT_CANNOT_BE_PERFORMED</source>
+        <translation>Nicht ausführbar</translation>
+    </message>
+    <message>
+        <source>VERDICT_NOT_COMPLETED</source>
+        <translation>Nicht abgeschlossen</translation>
+    </message>
+    <message>
+        <source>VERDICT_STOPPED</source>
+        <translation>Gestoppt</translation>
+    </message>
+    <message>
+        <source>VERDICT_INVALID_CALL</source>
+        <translation>Nicht ausgeführt: Der Test wurde fehlerhaft aufgerufen</translation>
+    </message>
+    <message>
+        <source>LEVEL_ERROR</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>LEVEL_NOTE</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>HISTORY</source>
+        <translation>Durchläufe seit dem Start</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>LANGUAGE</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>LOG</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_STARTED</source>
+        <translation>Gestartet: %1, Gerät „%2“</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_ENDED</source>
+        <translation>Beendet: %1, Gerät „%2“, Ergebnis: %3</translation>
+    </message>
+    <message>
+        <source>LOG_PROGRESS</source>
+        <translation>Fortschritt: %1 %</translation>
+    </message>
+    <message>
+        <source>LOG_STOP_PRESSED</source>
+        <translation>„Stoppen“ wurde gedrückt.</translation>
+    </message>
+    <message>
+        <source>LOG_EVENT_SIMULATED</source>
+        <translation>Ereignis %1 wurde simuliert.</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_RESTORED</source>
+        <translation>Ein früherer Test wurde unterbrochen. Die Lautstärke dieser Geräte wurde wiederhergestellt: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_PUT_BACK</source>
+        <translation>Die Lautstärke dieser Geräte wurde wiederhergestellt: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_UNPROTECTED</source>
+        <translation>Die Lautstärke würde nach einem Absturz nicht wiederhergestellt: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_CHANGED</source>
+        <translation>Sprache: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_NOT_SAVED</source>
+        <translation>Die Sprache konnte nicht im Ordner „%1“ gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>LOG_LIST_INCOMPLETE</source>
+        <translation>Der Arbeitsspeicher reichte nicht, um alle Geräte einzulesen.</translation>
+    </message>
+    <message>
+        <source>LOG_DEVICE_GONE</source>
+        <translation>Das Gerät „%1“ ist nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>PROMPT_ACCEPT</source>
+        <translation>Fortfahren</translation>
+    </message>
+    <message>
+        <source>PROMPT_DECLINE</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>QUESTION_YES</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>QUESTION_NO</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>ENDPOINTS_RAISED</source>
+        <translation>Während des Tests laufen diese Geräte mit voller Lautstärke, danach wird ihre Lautstärke wiederhergestellt:</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>MENU_TEST</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>MENU_DEVELOPER</source>
+        <translation>Entwickler</translation>
+    </message>
+    <message>
+        <source>MENU_HELP</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>QUIT</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>ABOUT</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>ABOUT_VERSIONS</source>
+        <translation>Version des Moduls: %1
+Version dieses Programms: %2</translation>
+    </message>
+    <message>
+        <source>SIMULATE_EVENT</source>
+        <translation>Ereignis simulieren</translation>
+    </message>
+    <message>
+        <source>EVENT_CANCELS</source>
+        <translation>Ereignis %1 (bricht den Test ab)</translation>
+    </message>
+    <message>
+        <source>EVENT_DOES_NOT_CANCEL</source>
+        <translation>Ereignis %1 (bricht den Test nicht ab)</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_IS_FIXED</source>
+        <translation>Die Sprache wird durch den mit --config angegebenen Ordner bestimmt.</translation>
+    </message>
+    <message>
+        <source>MODULE_CANNOT_BE_USED</source>
+        <translation>Das Audiomodul kann nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>PROGRAM_IS_CLOSING</source>
+        <translation>Das Programm wird geschlossen, sobald der Test gestoppt ist.</translation>
+    </message>
+</context>
+</TS>

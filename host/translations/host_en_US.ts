@@ -1,0 +1,264 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US">
+<context>
+    <name>HOST</name>
+    <message>
+        <source>DEVICES</source>
+        <translation>Output devices</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>Device</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES_HINT</source>
+        <translation>Reads the list of output devices again (F5). The list also follows by itself when a device comes or goes.</translation>
+    </message>
+    <message>
+        <source>READING_DEVICES</source>
+        <translation>Reading the output devices…</translation>
+    </message>
+    <message>
+        <source>DEVICES_FOUND</source>
+        <translation>Output devices found: %1</translation>
+    </message>
+    <message>
+        <source>NO_DEVICES</source>
+        <translation>No output device was found. Connect one: the list follows by itself.</translation>
+    </message>
+    <message>
+        <source>VALUE_NOT_KNOWN</source>
+        <translation>not known</translation>
+    </message>
+    <message>
+        <source>TESTS</source>
+        <translation>Tests</translation>
+    </message>
+    <message>
+        <source>TEST</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>TEST_DESCRIPTION</source>
+        <translation>Description of the test</translation>
+    </message>
+    <message>
+        <source>RUN_TEST</source>
+        <translation>Run</translation>
+    </message>
+    <message>
+        <source>RUN_TEST_HINT</source>
+        <translation>Runs the chosen test on the chosen device (Ctrl+R).</translation>
+    </message>
+    <message>
+        <source>STOP_TEST</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>STOP_TEST_HINT</source>
+        <translation>Stops the running test. Ctrl+Shift+S does the same and also works while a test window is open.</translation>
+    </message>
+    <message>
+        <source>STOPPING</source>
+        <translation>Stopping…</translation>
+    </message>
+    <message>
+        <source>PROGRESS</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>RESULT</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>MESSAGES</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>NO_RESULT_YET</source>
+        <translation>No test has been run yet.</translation>
+    </message>
+    <message>
+        <source>TEST_IS_RUNNING</source>
+        <translation>The test is running…</translation>
+    </message>
+    <message>
+        <source>VERDICT_PASSED</source>
+        <translation>Passed</translation>
+    </message>
+    <message>
+        <source>VERDICT_FAILED</source>
+        <translation>Failed</translation>
+    </message>
+    <message>
+        <source>VERDICT_CANNOT_BE_PERFORMED</source>
+        <translation>Cannot be performed</translation>
+    </message>
+    <message>
+        <source>VERDICT_NOT_COMPLETED</source>
+        <translation>Not completed</translation>
+    </message>
+    <message>
+        <source>VERDICT_STOPPED</source>
+        <translation>Stopped</translation>
+    </message>
+    <message>
+        <source>VERDICT_INVALID_CALL</source>
+        <translation>Not run: the test was not called properly</translation>
+    </message>
+    <message>
+        <source>LEVEL_ERROR</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>LEVEL_NOTE</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>HISTORY</source>
+        <translation>Runs since the start</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>LANGUAGE</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>LOG</source>
+        <translation>Log</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_STARTED</source>
+        <translation>Started: %1, device “%2”</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_ENDED</source>
+        <translation>Ended: %1, device “%2”, result: %3</translation>
+    </message>
+    <message>
+        <source>LOG_PROGRESS</source>
+        <translation>Progress: %1 %</translation>
+    </message>
+    <message>
+        <source>LOG_STOP_PRESSED</source>
+        <translation>Stop was pressed.</translation>
+    </message>
+    <message>
+        <source>LOG_EVENT_SIMULATED</source>
+        <translation>Event %1 was simulated.</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_RESTORED</source>
+        <translation>An earlier test was interrupted. The volume of these devices was restored: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_PUT_BACK</source>
+        <translation>The volume of these devices was restored: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_UNPROTECTED</source>
+        <translation>The volume would not be restored after a crash: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_CHANGED</source>
+        <translation>Language: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_NOT_SAVED</source>
+        <translation>The language could not be saved in the folder “%1”.</translation>
+    </message>
+    <message>
+        <source>LOG_LIST_INCOMPLETE</source>
+        <translation>There was not enough memory to read all devices.</translation>
+    </message>
+    <message>
+        <source>LOG_DEVICE_GONE</source>
+        <translation>The device “%1” is no longer there.</translation>
+    </message>
+    <message>
+        <source>PROMPT_ACCEPT</source>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>PROMPT_DECLINE</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>QUESTION_YES</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>QUESTION_NO</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>ENDPOINTS_RAISED</source>
+        <translation>During the test these devices play at full volume; afterwards their volume is restored:</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>MENU_TEST</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>MENU_DEVELOPER</source>
+        <translation>Developer</translation>
+    </message>
+    <message>
+        <source>MENU_HELP</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>QUIT</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>ABOUT</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>ABOUT_VERSIONS</source>
+        <translation>Version of the module: %1
+Version of this program: %2</translation>
+    </message>
+    <message>
+        <source>SIMULATE_EVENT</source>
+        <translation>Simulate event</translation>
+    </message>
+    <message>
+        <source>EVENT_CANCELS</source>
+        <translation>Event %1 (cancels the test)</translation>
+    </message>
+    <message>
+        <source>EVENT_DOES_NOT_CANCEL</source>
+        <translation>Event %1 (does not cancel the test)</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_IS_FIXED</source>
+        <translation>The language comes from the folder given with --config.</translation>
+    </message>
+    <message>
+        <source>MODULE_CANNOT_BE_USED</source>
+        <translation>The audio module cannot be used.</translation>
+    </message>
+    <message>
+        <source>PROGRAM_IS_CLOSING</source>
+        <translation>The program closes as soon as the test has stopped.</translation>
+    </message>
+</context>
+</TS>

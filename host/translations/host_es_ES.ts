@@ -1,0 +1,264 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES">
+<context>
+    <name>HOST</name>
+    <message>
+        <source>DEVICES</source>
+        <translation>Dispositivos de salida</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES_HINT</source>
+        <translation>Vuelve a leer la lista de dispositivos de salida (F5). La lista también se actualiza sola cuando se conecta o se retira un dispositivo.</translation>
+    </message>
+    <message>
+        <source>READING_DEVICES</source>
+        <translation>Leyendo los dispositivos de salida…</translation>
+    </message>
+    <message>
+        <source>DEVICES_FOUND</source>
+        <translation>Dispositivos de salida encontrados: %1</translation>
+    </message>
+    <message>
+        <source>NO_DEVICES</source>
+        <translation>No se ha encontrado ningún dispositivo de salida. Conecte uno; la lista se actualiza sola.</translation>
+    </message>
+    <message>
+        <source>VALUE_NOT_KNOWN</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>TESTS</source>
+        <translation>Pruebas</translation>
+    </message>
+    <message>
+        <source>TEST</source>
+        <translation>Prueba</translation>
+    </message>
+    <message>
+        <source>TEST_DESCRIPTION</source>
+        <translation>Descripción de la prueba</translation>
+    </message>
+    <message>
+        <source>RUN_TEST</source>
+        <translation>Ejecutar</translation>
+    </message>
+    <message>
+        <source>RUN_TEST_HINT</source>
+        <translation>Ejecuta la prueba elegida en el dispositivo elegido (Ctrl+R).</translation>
+    </message>
+    <message>
+        <source>STOP_TEST</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>STOP_TEST_HINT</source>
+        <translation>Detiene la prueba en curso. Ctrl+Mayús+S hace lo mismo y funciona también con una ventana de prueba abierta.</translation>
+    </message>
+    <message>
+        <source>STOPPING</source>
+        <translation>Deteniendo…</translation>
+    </message>
+    <message>
+        <source>PROGRESS</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>RESULT</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>MESSAGES</source>
+        <translation>Mensajes</translation>
+    </message>
+    <message>
+        <source>NO_RESULT_YET</source>
+        <translation>Aún no se ha ejecutado ninguna prueba.</translation>
+    </message>
+    <message>
+        <source>TEST_IS_RUNNING</source>
+        <translation>La prueba está en curso…</translation>
+    </message>
+    <message>
+        <source>VERDICT_PASSED</source>
+        <translation>Superada</translation>
+    </message>
+    <message>
+        <source>VERDICT_FAILED</source>
+        <translation>No superada</translation>
+    </message>
+    <message>
+        <source>VERDICT_CANNOT_BE_PERFORMED</source>
+        <translation>No se puede realizar</translation>
+    </message>
+    <message>
+        <source>VERDICT_NOT_COMPLETED</source>
+        <translation>No completada</translation>
+    </message>
+    <message>
+        <source>VERDICT_STOPPED</source>
+        <translation>Detenida</translation>
+    </message>
+    <message>
+        <source>VERDICT_INVALID_CALL</source>
+        <translation>No ejecutada: la prueba no se llamó correctamente</translation>
+    </message>
+    <message>
+        <source>LEVEL_ERROR</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>LEVEL_NOTE</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>HISTORY</source>
+        <translation>Ejecuciones desde el inicio</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>LANGUAGE</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>LOG</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_STARTED</source>
+        <translation>Iniciada: %1, dispositivo «%2»</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_ENDED</source>
+        <translation>Finalizada: %1, dispositivo «%2», resultado: %3</translation>
+    </message>
+    <message>
+        <source>LOG_PROGRESS</source>
+        <translation>Progreso: %1 %</translation>
+    </message>
+    <message>
+        <source>LOG_STOP_PRESSED</source>
+        <translation>Se ha pulsado «Detener».</translation>
+    </message>
+    <message>
+        <source>LOG_EVENT_SIMULATED</source>
+        <translation>Se ha simulado el evento %1.</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_RESTORED</source>
+        <translation>Una prueba anterior se interrumpió. Se ha restablecido el volumen de estos dispositivos: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_PUT_BACK</source>
+        <translation>Se ha restablecido el volumen de estos dispositivos: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_UNPROTECTED</source>
+        <translation>El volumen no se restablecería tras un fallo del programa: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_CHANGED</source>
+        <translation>Idioma: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_NOT_SAVED</source>
+        <translation>No se ha podido guardar el idioma en la carpeta «%1».</translation>
+    </message>
+    <message>
+        <source>LOG_LIST_INCOMPLETE</source>
+        <translation>No había memoria suficiente para leer todos los dispositivos.</translation>
+    </message>
+    <message>
+        <source>LOG_DEVICE_GONE</source>
+        <translation>El dispositivo «%1» ya no está disponible.</translation>
+    </message>
+    <message>
+        <source>PROMPT_ACCEPT</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>PROMPT_DECLINE</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>QUESTION_YES</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>QUESTION_NO</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>ENDPOINTS_RAISED</source>
+        <translation>Durante la prueba, estos dispositivos funcionan al volumen máximo; después se restablece su volumen:</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>MENU_TEST</source>
+        <translation>Prueba</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>MENU_DEVELOPER</source>
+        <translation>Desarrollador</translation>
+    </message>
+    <message>
+        <source>MENU_HELP</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>QUIT</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>ABOUT</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>ABOUT_VERSIONS</source>
+        <translation>Versión del módulo: %1
+Versión de este programa: %2</translation>
+    </message>
+    <message>
+        <source>SIMULATE_EVENT</source>
+        <translation>Simular evento</translation>
+    </message>
+    <message>
+        <source>EVENT_CANCELS</source>
+        <translation>Evento %1 (cancela la prueba)</translation>
+    </message>
+    <message>
+        <source>EVENT_DOES_NOT_CANCEL</source>
+        <translation>Evento %1 (no cancela la prueba)</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_IS_FIXED</source>
+        <translation>El idioma procede de la carpeta indicada con --config.</translation>
+    </message>
+    <message>
+        <source>MODULE_CANNOT_BE_USED</source>
+        <translation>No se puede usar el módulo de audio.</translation>
+    </message>
+    <message>
+        <source>PROGRAM_IS_CLOSING</source>
+        <translation>El programa se cerrará en cuanto la prueba se haya detenido.</translation>
+    </message>
+</context>
+</TS>

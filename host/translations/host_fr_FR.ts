@@ -1,0 +1,264 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR">
+<context>
+    <name>HOST</name>
+    <message>
+        <source>DEVICES</source>
+        <translation>Périphériques de sortie</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>Périphérique</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES_HINT</source>
+        <translation>Relit la liste des périphériques de sortie (F5). La liste se met aussi à jour d’elle-même lorsqu’un périphérique est branché ou débranché.</translation>
+    </message>
+    <message>
+        <source>READING_DEVICES</source>
+        <translation>Lecture des périphériques de sortie…</translation>
+    </message>
+    <message>
+        <source>DEVICES_FOUND</source>
+        <translation>Périphériques de sortie trouvés : %1</translation>
+    </message>
+    <message>
+        <source>NO_DEVICES</source>
+        <translation>Aucun périphérique de sortie n’a été trouvé. Branchez-en un : la liste se met à jour d’elle-même.</translation>
+    </message>
+    <message>
+        <source>VALUE_NOT_KNOWN</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>TESTS</source>
+        <translation>Tests</translation>
+    </message>
+    <message>
+        <source>TEST</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>TEST_DESCRIPTION</source>
+        <translation>Description du test</translation>
+    </message>
+    <message>
+        <source>RUN_TEST</source>
+        <translation>Exécuter</translation>
+    </message>
+    <message>
+        <source>RUN_TEST_HINT</source>
+        <translation>Exécute le test choisi sur le périphérique choisi (Ctrl+R).</translation>
+    </message>
+    <message>
+        <source>STOP_TEST</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>STOP_TEST_HINT</source>
+        <translation>Arrête le test en cours. Ctrl+Maj+S fait de même et fonctionne aussi lorsqu’une fenêtre de test est ouverte.</translation>
+    </message>
+    <message>
+        <source>STOPPING</source>
+        <translation>Arrêt en cours…</translation>
+    </message>
+    <message>
+        <source>PROGRESS</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>RESULT</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>MESSAGES</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>NO_RESULT_YET</source>
+        <translation>Aucun test n’a encore été exécuté.</translation>
+    </message>
+    <message>
+        <source>TEST_IS_RUNNING</source>
+        <translation>Le test est en cours…</translation>
+    </message>
+    <message>
+        <source>VERDICT_PASSED</source>
+        <translation>Réussi</translation>
+    </message>
+    <message>
+        <source>VERDICT_FAILED</source>
+        <translation>Échoué</translation>
+    </message>
+    <message>
+        <source>VERDICT_CANNOT_BE_PERFORMED</source>
+        <translation>Ne peut pas être exécuté</translation>
+    </message>
+    <message>
+        <source>VERDICT_NOT_COMPLETED</source>
+        <translation>Non terminé</translation>
+    </message>
+    <message>
+        <source>VERDICT_STOPPED</source>
+        <translation>Arrêté</translation>
+    </message>
+    <message>
+        <source>VERDICT_INVALID_CALL</source>
+        <translation>Non exécuté : le test n’a pas été appelé correctement</translation>
+    </message>
+    <message>
+        <source>LEVEL_ERROR</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>LEVEL_NOTE</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>HISTORY</source>
+        <translation>Exécutions depuis le démarrage</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>LANGUAGE</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>LOG</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_STARTED</source>
+        <translation>Démarré : %1, périphérique « %2 »</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_ENDED</source>
+        <translation>Terminé : %1, périphérique « %2 », résultat : %3</translation>
+    </message>
+    <message>
+        <source>LOG_PROGRESS</source>
+        <translation>Progression : %1 %</translation>
+    </message>
+    <message>
+        <source>LOG_STOP_PRESSED</source>
+        <translation>« Arrêter » a été actionné.</translation>
+    </message>
+    <message>
+        <source>LOG_EVENT_SIMULATED</source>
+        <translation>L’événement %1 a été simulé.</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_RESTORED</source>
+        <translation>Un test précédent a été interrompu. Le volume de ces périphériques a été rétabli : %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_PUT_BACK</source>
+        <translation>Le volume de ces périphériques a été rétabli : %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_UNPROTECTED</source>
+        <translation>Le volume ne serait pas rétabli après un plantage : %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_CHANGED</source>
+        <translation>Langue : %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_NOT_SAVED</source>
+        <translation>Impossible d’enregistrer la langue dans le dossier « %1 ».</translation>
+    </message>
+    <message>
+        <source>LOG_LIST_INCOMPLETE</source>
+        <translation>Mémoire insuffisante pour lire tous les périphériques.</translation>
+    </message>
+    <message>
+        <source>LOG_DEVICE_GONE</source>
+        <translation>Le périphérique « %1 » n’est plus disponible.</translation>
+    </message>
+    <message>
+        <source>PROMPT_ACCEPT</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>PROMPT_DECLINE</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>QUESTION_YES</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>QUESTION_NO</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>ENDPOINTS_RAISED</source>
+        <translation>Pendant le test, ces périphériques sont au volume maximal ; leur volume est ensuite rétabli :</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>MENU_TEST</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>MENU_DEVELOPER</source>
+        <translation>Développeur</translation>
+    </message>
+    <message>
+        <source>MENU_HELP</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>QUIT</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>ABOUT</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>ABOUT_VERSIONS</source>
+        <translation>Version du module : %1
+Version de ce programme : %2</translation>
+    </message>
+    <message>
+        <source>SIMULATE_EVENT</source>
+        <translation>Simuler un événement</translation>
+    </message>
+    <message>
+        <source>EVENT_CANCELS</source>
+        <translation>Événement %1 (annule le test)</translation>
+    </message>
+    <message>
+        <source>EVENT_DOES_NOT_CANCEL</source>
+        <translation>Événement %1 (n’annule pas le test)</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_IS_FIXED</source>
+        <translation>La langue provient du dossier indiqué par --config.</translation>
+    </message>
+    <message>
+        <source>MODULE_CANNOT_BE_USED</source>
+        <translation>Le module audio ne peut pas être utilisé.</translation>
+    </message>
+    <message>
+        <source>PROGRAM_IS_CLOSING</source>
+        <translation>Le programme se fermera dès que le test sera arrêté.</translation>
+    </message>
+</context>
+</TS>

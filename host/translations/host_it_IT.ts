@@ -1,0 +1,264 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT">
+<context>
+    <name>HOST</name>
+    <message>
+        <source>DEVICES</source>
+        <translation>Dispositivi di uscita</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES_HINT</source>
+        <translation>Rilegge l’elenco dei dispositivi di uscita (F5). L’elenco si aggiorna anche da solo quando un dispositivo viene collegato o scollegato.</translation>
+    </message>
+    <message>
+        <source>READING_DEVICES</source>
+        <translation>Lettura dei dispositivi di uscita…</translation>
+    </message>
+    <message>
+        <source>DEVICES_FOUND</source>
+        <translation>Dispositivi di uscita trovati: %1</translation>
+    </message>
+    <message>
+        <source>NO_DEVICES</source>
+        <translation>Nessun dispositivo di uscita trovato. Collegarne uno: l’elenco si aggiorna da solo.</translation>
+    </message>
+    <message>
+        <source>VALUE_NOT_KNOWN</source>
+        <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>TESTS</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>TEST</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>TEST_DESCRIPTION</source>
+        <translation>Descrizione del test</translation>
+    </message>
+    <message>
+        <source>RUN_TEST</source>
+        <translation>Esegui</translation>
+    </message>
+    <message>
+        <source>RUN_TEST_HINT</source>
+        <translation>Esegue il test scelto sul dispositivo scelto (Ctrl+R).</translation>
+    </message>
+    <message>
+        <source>STOP_TEST</source>
+        <translation>Interrompi</translation>
+    </message>
+    <message>
+        <source>STOP_TEST_HINT</source>
+        <translation>Interrompe il test in corso. Ctrl+Maiusc+S fa lo stesso e funziona anche con una finestra di test aperta.</translation>
+    </message>
+    <message>
+        <source>STOPPING</source>
+        <translation>Interruzione in corso…</translation>
+    </message>
+    <message>
+        <source>PROGRESS</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>RESULT</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>MESSAGES</source>
+        <translation>Messaggi</translation>
+    </message>
+    <message>
+        <source>NO_RESULT_YET</source>
+        <translation>Non è stato ancora eseguito alcun test.</translation>
+    </message>
+    <message>
+        <source>TEST_IS_RUNNING</source>
+        <translation>Il test è in corso…</translation>
+    </message>
+    <message>
+        <source>VERDICT_PASSED</source>
+        <translation>Superato</translation>
+    </message>
+    <message>
+        <source>VERDICT_FAILED</source>
+        <translation>Non superato</translation>
+    </message>
+    <message>
+        <source>VERDICT_CANNOT_BE_PERFORMED</source>
+        <translation>Non eseguibile</translation>
+    </message>
+    <message>
+        <source>VERDICT_NOT_COMPLETED</source>
+        <translation>Non completato</translation>
+    </message>
+    <message>
+        <source>VERDICT_STOPPED</source>
+        <translation>Interrotto</translation>
+    </message>
+    <message>
+        <source>VERDICT_INVALID_CALL</source>
+        <translation>Non eseguito: il test non è stato chiamato correttamente</translation>
+    </message>
+    <message>
+        <source>LEVEL_ERROR</source>
+        <translation>Errore</translation>
+    </message>
+    <message>
+        <source>LEVEL_NOTE</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>HISTORY</source>
+        <translation>Esecuzioni dall’avvio</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>LANGUAGE</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>LOG</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_STARTED</source>
+        <translation>Avviato: %1, dispositivo «%2»</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_ENDED</source>
+        <translation>Terminato: %1, dispositivo «%2», risultato: %3</translation>
+    </message>
+    <message>
+        <source>LOG_PROGRESS</source>
+        <translation>Avanzamento: %1%</translation>
+    </message>
+    <message>
+        <source>LOG_STOP_PRESSED</source>
+        <translation>È stato premuto «Interrompi».</translation>
+    </message>
+    <message>
+        <source>LOG_EVENT_SIMULATED</source>
+        <translation>È stato simulato l’evento %1.</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_RESTORED</source>
+        <translation>Un test precedente è stato interrotto. È stato ripristinato il volume di questi dispositivi: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_PUT_BACK</source>
+        <translation>È stato ripristinato il volume di questi dispositivi: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_UNPROTECTED</source>
+        <translation>Il volume non verrebbe ripristinato dopo un arresto anomalo: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_CHANGED</source>
+        <translation>Lingua: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_NOT_SAVED</source>
+        <translation>Impossibile salvare la lingua nella cartella «%1».</translation>
+    </message>
+    <message>
+        <source>LOG_LIST_INCOMPLETE</source>
+        <translation>Memoria insufficiente per leggere tutti i dispositivi.</translation>
+    </message>
+    <message>
+        <source>LOG_DEVICE_GONE</source>
+        <translation>Il dispositivo «%1» non è più disponibile.</translation>
+    </message>
+    <message>
+        <source>PROMPT_ACCEPT</source>
+        <translation>Continua</translation>
+    </message>
+    <message>
+        <source>PROMPT_DECLINE</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>QUESTION_YES</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>QUESTION_NO</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>ENDPOINTS_RAISED</source>
+        <translation>Durante il test questi dispositivi sono al volume massimo; al termine il volume viene ripristinato:</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>MENU_TEST</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>MENU_DEVELOPER</source>
+        <translation>Sviluppatore</translation>
+    </message>
+    <message>
+        <source>MENU_HELP</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>QUIT</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>ABOUT</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>ABOUT_VERSIONS</source>
+        <translation>Versione del modulo: %1
+Versione di questo programma: %2</translation>
+    </message>
+    <message>
+        <source>SIMULATE_EVENT</source>
+        <translation>Simula evento</translation>
+    </message>
+    <message>
+        <source>EVENT_CANCELS</source>
+        <translation>Evento %1 (annulla il test)</translation>
+    </message>
+    <message>
+        <source>EVENT_DOES_NOT_CANCEL</source>
+        <translation>Evento %1 (non annulla il test)</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_IS_FIXED</source>
+        <translation>La lingua proviene dalla cartella indicata con --config.</translation>
+    </message>
+    <message>
+        <source>MODULE_CANNOT_BE_USED</source>
+        <translation>Impossibile usare il modulo audio.</translation>
+    </message>
+    <message>
+        <source>PROGRAM_IS_CLOSING</source>
+        <translation>Il programma si chiuderà non appena il test si sarà interrotto.</translation>
+    </message>
+</context>
+</TS>

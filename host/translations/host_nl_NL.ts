@@ -1,0 +1,264 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl_NL">
+<context>
+    <name>HOST</name>
+    <message>
+        <source>DEVICES</source>
+        <translation>Uitvoerapparaten</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>Apparaat</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES</source>
+        <translation>Vernieuwen</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES_HINT</source>
+        <translation>Leest de lijst met uitvoerapparaten opnieuw (F5). De lijst wordt ook vanzelf bijgewerkt als er een apparaat bijkomt of verdwijnt.</translation>
+    </message>
+    <message>
+        <source>READING_DEVICES</source>
+        <translation>Uitvoerapparaten worden gelezen…</translation>
+    </message>
+    <message>
+        <source>DEVICES_FOUND</source>
+        <translation>Gevonden uitvoerapparaten: %1</translation>
+    </message>
+    <message>
+        <source>NO_DEVICES</source>
+        <translation>Er is geen uitvoerapparaat gevonden. Sluit er een aan; de lijst wordt vanzelf bijgewerkt.</translation>
+    </message>
+    <message>
+        <source>VALUE_NOT_KNOWN</source>
+        <translation>onbekend</translation>
+    </message>
+    <message>
+        <source>TESTS</source>
+        <translation>Tests</translation>
+    </message>
+    <message>
+        <source>TEST</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>TEST_DESCRIPTION</source>
+        <translation>Beschrijving van de test</translation>
+    </message>
+    <message>
+        <source>RUN_TEST</source>
+        <translation>Uitvoeren</translation>
+    </message>
+    <message>
+        <source>RUN_TEST_HINT</source>
+        <translation>Voert de gekozen test uit op het gekozen apparaat (Ctrl+R).</translation>
+    </message>
+    <message>
+        <source>STOP_TEST</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>STOP_TEST_HINT</source>
+        <translation>Stopt de lopende test. Ctrl+Shift+S doet hetzelfde en werkt ook als er een testvenster open is.</translation>
+    </message>
+    <message>
+        <source>STOPPING</source>
+        <translation>Bezig met stoppen…</translation>
+    </message>
+    <message>
+        <source>PROGRESS</source>
+        <translation>Voortgang</translation>
+    </message>
+    <message>
+        <source>RESULT</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>MESSAGES</source>
+        <translation>Meldingen</translation>
+    </message>
+    <message>
+        <source>NO_RESULT_YET</source>
+        <translation>Er is nog geen test uitgevoerd.</translation>
+    </message>
+    <message>
+        <source>TEST_IS_RUNNING</source>
+        <translation>De test wordt uitgevoerd…</translation>
+    </message>
+    <message>
+        <source>VERDICT_PASSED</source>
+        <translation>Geslaagd</translation>
+    </message>
+    <message>
+        <source>VERDICT_FAILED</source>
+        <translation>Mislukt</translation>
+    </message>
+    <message>
+        <source>VERDICT_CANNOT_BE_PERFORMED</source>
+        <translation>Kan niet worden uitgevoerd</translation>
+    </message>
+    <message>
+        <source>VERDICT_NOT_COMPLETED</source>
+        <translation>Niet voltooid</translation>
+    </message>
+    <message>
+        <source>VERDICT_STOPPED</source>
+        <translation>Gestopt</translation>
+    </message>
+    <message>
+        <source>VERDICT_INVALID_CALL</source>
+        <translation>Niet uitgevoerd: de test is onjuist aangeroepen</translation>
+    </message>
+    <message>
+        <source>LEVEL_ERROR</source>
+        <translation>Fout</translation>
+    </message>
+    <message>
+        <source>LEVEL_NOTE</source>
+        <translation>Opmerking</translation>
+    </message>
+    <message>
+        <source>HISTORY</source>
+        <translation>Uitvoeringen sinds de start</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>Tijd</translation>
+    </message>
+    <message>
+        <source>LANGUAGE</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>LOG</source>
+        <translation>Logboek</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_STARTED</source>
+        <translation>Gestart: %1, apparaat ‘%2’</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_ENDED</source>
+        <translation>Beëindigd: %1, apparaat ‘%2’, resultaat: %3</translation>
+    </message>
+    <message>
+        <source>LOG_PROGRESS</source>
+        <translation>Voortgang: %1%</translation>
+    </message>
+    <message>
+        <source>LOG_STOP_PRESSED</source>
+        <translation>Er is op ‘Stoppen’ gedrukt.</translation>
+    </message>
+    <message>
+        <source>LOG_EVENT_SIMULATED</source>
+        <translation>Gebeurtenis %1 is gesimuleerd.</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_RESTORED</source>
+        <translation>Een eerdere test is onderbroken. Het volume van deze apparaten is hersteld: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_PUT_BACK</source>
+        <translation>Het volume van deze apparaten is hersteld: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_UNPROTECTED</source>
+        <translation>Het volume zou na een crash niet worden hersteld: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_CHANGED</source>
+        <translation>Taal: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_NOT_SAVED</source>
+        <translation>De taal kan niet worden opgeslagen in de map ‘%1’.</translation>
+    </message>
+    <message>
+        <source>LOG_LIST_INCOMPLETE</source>
+        <translation>Er was onvoldoende geheugen om alle apparaten te lezen.</translation>
+    </message>
+    <message>
+        <source>LOG_DEVICE_GONE</source>
+        <translation>Het apparaat ‘%1’ is niet meer beschikbaar.</translation>
+    </message>
+    <message>
+        <source>PROMPT_ACCEPT</source>
+        <translation>Doorgaan</translation>
+    </message>
+    <message>
+        <source>PROMPT_DECLINE</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>QUESTION_YES</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>QUESTION_NO</source>
+        <translation>Nee</translation>
+    </message>
+    <message>
+        <source>ENDPOINTS_RAISED</source>
+        <translation>Tijdens de test staan deze apparaten op vol volume; daarna wordt het volume hersteld:</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>MENU_TEST</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>MENU_DEVELOPER</source>
+        <translation>Ontwikkelaar</translation>
+    </message>
+    <message>
+        <source>MENU_HELP</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>QUIT</source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message>
+        <source>ABOUT</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>ABOUT_VERSIONS</source>
+        <translation>Versie van de module: %1
+Versie van dit programma: %2</translation>
+    </message>
+    <message>
+        <source>SIMULATE_EVENT</source>
+        <translation>Gebeurtenis simuleren</translation>
+    </message>
+    <message>
+        <source>EVENT_CANCELS</source>
+        <translation>Gebeurtenis %1 (annuleert de test)</translation>
+    </message>
+    <message>
+        <source>EVENT_DOES_NOT_CANCEL</source>
+        <translation>Gebeurtenis %1 (annuleert de test niet)</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_IS_FIXED</source>
+        <translation>De taal komt uit de map die met --config is opgegeven.</translation>
+    </message>
+    <message>
+        <source>MODULE_CANNOT_BE_USED</source>
+        <translation>De audiomodule kan niet worden gebruikt.</translation>
+    </message>
+    <message>
+        <source>PROGRAM_IS_CLOSING</source>
+        <translation>Het programma wordt gesloten zodra de test is gestopt.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,264 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR">
+<context>
+    <name>HOST</name>
+    <message>
+        <source>DEVICES</source>
+        <translation>Dispositivos de saída</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES</source>
+        <translation>Atualizar</translation>
+    </message>
+    <message>
+        <source>REFRESH_DEVICES_HINT</source>
+        <translation>Lê novamente a lista de dispositivos de saída (F5). A lista também se atualiza sozinha quando um dispositivo é conectado ou removido.</translation>
+    </message>
+    <message>
+        <source>READING_DEVICES</source>
+        <translation>Lendo os dispositivos de saída…</translation>
+    </message>
+    <message>
+        <source>DEVICES_FOUND</source>
+        <translation>Dispositivos de saída encontrados: %1</translation>
+    </message>
+    <message>
+        <source>NO_DEVICES</source>
+        <translation>Nenhum dispositivo de saída foi encontrado. Conecte um; a lista se atualiza sozinha.</translation>
+    </message>
+    <message>
+        <source>VALUE_NOT_KNOWN</source>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>TESTS</source>
+        <translation>Testes</translation>
+    </message>
+    <message>
+        <source>TEST</source>
+        <translation>Teste</translation>
+    </message>
+    <message>
+        <source>TEST_DESCRIPTION</source>
+        <translation>Descrição do teste</translation>
+    </message>
+    <message>
+        <source>RUN_TEST</source>
+        <translation>Executar</translation>
+    </message>
+    <message>
+        <source>RUN_TEST_HINT</source>
+        <translation>Executa o teste escolhido no dispositivo escolhido (Ctrl+R).</translation>
+    </message>
+    <message>
+        <source>STOP_TEST</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>STOP_TEST_HINT</source>
+        <translation>Para o teste em execução. Ctrl+Shift+S faz o mesmo e também funciona com uma janela de teste aberta.</translation>
+    </message>
+    <message>
+        <source>STOPPING</source>
+        <translation>Parando…</translation>
+    </message>
+    <message>
+        <source>PROGRESS</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>RESULT</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>MESSAGES</source>
+        <translation>Mensagens</translation>
+    </message>
+    <message>
+        <source>NO_RESULT_YET</source>
+        <translation>Nenhum teste foi executado ainda.</translation>
+    </message>
+    <message>
+        <source>TEST_IS_RUNNING</source>
+        <translation>O teste está em execução…</translation>
+    </message>
+    <message>
+        <source>VERDICT_PASSED</source>
+        <translation>Aprovado</translation>
+    </message>
+    <message>
+        <source>VERDICT_FAILED</source>
+        <translation>Reprovado</translation>
+    </message>
+    <message>
+        <source>VERDICT_CANNOT_BE_PERFORMED</source>
+        <translation>Não pode ser executado</translation>
+    </message>
+    <message>
+        <source>VERDICT_NOT_COMPLETED</source>
+        <translation>Não concluído</translation>
+    </message>
+    <message>
+        <source>VERDICT_STOPPED</source>
+        <translation>Interrompido</translation>
+    </message>
+    <message>
+        <source>VERDICT_INVALID_CALL</source>
+        <translation>Não executado: chamada incorreta do teste</translation>
+    </message>
+    <message>
+        <source>LEVEL_ERROR</source>
+        <translation>Erro</translation>
+    </message>
+    <message>
+        <source>LEVEL_NOTE</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>HISTORY</source>
+        <translation>Execuções desde o início</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>LANGUAGE</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>LOG</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_STARTED</source>
+        <translation>Iniciado: %1, dispositivo “%2”</translation>
+    </message>
+    <message>
+        <source>LOG_RUN_ENDED</source>
+        <translation>Encerrado: %1, dispositivo “%2”, resultado: %3</translation>
+    </message>
+    <message>
+        <source>LOG_PROGRESS</source>
+        <translation>Progresso: %1%</translation>
+    </message>
+    <message>
+        <source>LOG_STOP_PRESSED</source>
+        <translation>“Parar” foi pressionado.</translation>
+    </message>
+    <message>
+        <source>LOG_EVENT_SIMULATED</source>
+        <translation>O evento %1 foi simulado.</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_RESTORED</source>
+        <translation>Um teste anterior foi interrompido. O volume destes dispositivos foi restaurado: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_PUT_BACK</source>
+        <translation>O volume destes dispositivos foi restaurado: %1</translation>
+    </message>
+    <message>
+        <source>LOG_VOLUMES_UNPROTECTED</source>
+        <translation>O volume não seria restaurado após uma falha do programa: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_CHANGED</source>
+        <translation>Idioma: %1</translation>
+    </message>
+    <message>
+        <source>LOG_LANGUAGE_NOT_SAVED</source>
+        <translation>Não foi possível salvar o idioma na pasta “%1”.</translation>
+    </message>
+    <message>
+        <source>LOG_LIST_INCOMPLETE</source>
+        <translation>Não havia memória suficiente para ler todos os dispositivos.</translation>
+    </message>
+    <message>
+        <source>LOG_DEVICE_GONE</source>
+        <translation>O dispositivo “%1” não está mais disponível.</translation>
+    </message>
+    <message>
+        <source>PROMPT_ACCEPT</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>PROMPT_DECLINE</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>QUESTION_YES</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>QUESTION_NO</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>ENDPOINTS_RAISED</source>
+        <translation>Durante o teste, estes dispositivos ficam no volume máximo; depois, o volume deles é restaurado:</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>MENU_TEST</source>
+        <translation>Teste</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>MENU_DEVELOPER</source>
+        <translation>Desenvolvedor</translation>
+    </message>
+    <message>
+        <source>MENU_HELP</source>
+        <translation>Ajuda</translation>
+    </message>
+    <message>
+        <source>QUIT</source>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>ABOUT</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>ABOUT_VERSIONS</source>
+        <translation>Versão do módulo: %1
+Versão deste programa: %2</translation>
+    </message>
+    <message>
+        <source>SIMULATE_EVENT</source>
+        <translation>Simular evento</translation>
+    </message>
+    <message>
+        <source>EVENT_CANCELS</source>
+        <translation>Evento %1 (cancela o teste)</translation>
+    </message>
+    <message>
+        <source>EVENT_DOES_NOT_CANCEL</source>
+        <translation>Evento %1 (não cancela o teste)</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_IS_FIXED</source>
+        <translation>O idioma vem da pasta indicada com --config.</translation>
+    </message>
+    <message>
+        <source>MODULE_CANNOT_BE_USED</source>
+        <translation>O módulo de áudio não pode ser usado.</translation>
+    </message>
+    <message>
+        <source>PROGRAM_IS_CLOSING</source>
+        <translation>O programa será fechado assim que o teste parar.</translation>
+    </message>
+</context>
+</TS>
