@@ -61,10 +61,7 @@ QStringList GuardianClient::restoreLeftovers()
     errorText_.clear();
     if (d_->process != nullptr) // its note is no leftover
         return {};
-    const PutBack result = putBackLeftovers(d_->stateFolder);
-    if (!result.isDone)
-        errorText_ = QStringLiteral("The volumes of an earlier run could not be put back yet.");
-    return result.names;
+    return putBackLeftovers(d_->stateFolder, errorText_).names;
 }
 
 bool GuardianClient::start()

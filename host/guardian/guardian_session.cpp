@@ -103,7 +103,7 @@ PutBack GuardianSession::end(Ending ending)
     return result;
 }
 
-PutBack putBackLeftovers(const QString &stateFolder)
+PutBack putBackLeftovers(const QString &stateFolder, QString &complaint)
 {
     const NoteFile note(stateFolder);
     const QFileInfo info(note.path());
@@ -111,14 +111,18 @@ PutBack putBackLeftovers(const QString &stateFolder)
         return {true, {}};
     QLockFile lock(lockFilePath(stateFolder));
     lock.setStaleLockTime(static_cast<int>(staleLockAge.count()));
-    if (!lock.tryLock())
+    if (!lock.tryLock()) {
+        complaint = reasonWhyLocked(lock);
         return {};
+    }
     const std::optional<EndpointVolumes> volumes = note.read();
     if (!volumes)
         return {true, {}};
     const PutBack result = putBack(*volumes, oneTry);
     if (result.isDone)
         note.remove();
+    else
+        complaint = QStringLiteral("The volumes of an earlier run could not be put back yet.");
     return result;
 }
 

@@ -43,8 +43,8 @@ private:
     ostra::audio::EndpointVolumes saved_;
 };
 
-/// Puts back what a note of a former run holds, in one try, and removes the note if that succeeded. Not done, without a try,
-/// while another guardian is at work: that one does it itself.
-PutBack putBackLeftovers(const QString &stateFolder);
+/// Puts back what a note of a former run holds, in one try, and removes the note if that succeeded; else `complaint` says why
+/// not. Not done, without a try, while another guardian is at work: that one does it itself.
+PutBack putBackLeftovers(const QString &stateFolder, QString &complaint);
 
 } // namespace host

@@ -28,10 +28,13 @@ pid_t lockOwner(const QString &stateFolder)
 
 } // namespace
 
-GuardedHost::GuardedHost(QString stateFolder) : stateFolder_(std::move(stateFolder))
+GuardedHost::GuardedHost(QString stateFolder, Log log) : stateFolder_(std::move(stateFolder))
 {
     process_.setChildProcessModifier([] { setpgid(0, 0); });
-    process_.setStandardErrorFile(logPath());
+    if (log == Log::toFile)
+        process_.setStandardErrorFile(logPath());
+    else
+        process_.closeReadChannel(QProcess::StandardError);
 }
 
 GuardedHost::~GuardedHost()

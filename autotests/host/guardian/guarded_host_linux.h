@@ -10,7 +10,12 @@
 /// A host in the midst of a run, in a process group of its own as on a terminal, with its guardian.
 class GuardedHost {
 public:
-    explicit GuardedHost(QString stateFolder);
+    enum class Log {
+        toFile,
+        toNobody, ///< a pipe whose other side is closed
+    };
+
+    explicit GuardedHost(QString stateFolder, Log log = Log::toFile);
     ~GuardedHost();
     GuardedHost(const GuardedHost &) = delete;
     GuardedHost &operator=(const GuardedHost &) = delete;

@@ -51,6 +51,7 @@ private slots:
     void endsByCommand();
     void endsWithThePipe_data();
     void endsWithThePipe();
+    void endsWithItsHost();
     void wantsAFolder();
     void saysThatTheNoteCannotBeWritten();
     void clientStartsAndFinishes();
@@ -124,6 +125,19 @@ void TestGuardianProcess::endsWithThePipe()
     QCOMPARE(readLine(guardian), done);
     QVERIFY(guardian.waitForFinished(limitMilliseconds));
     QCOMPARE(guardian.exitCode(), 0);
+    QVERIFY(!QFile::exists(note().path()));
+}
+
+// No other process may hold the pipe of a killed host open.
+void TestGuardianProcess::endsWithItsHost()
+{
+    QProcess host;
+    host.start(QCoreApplication::applicationDirPath() + QStringLiteral("/../hold_volumes/" HOLD_VOLUMES), {folder()});
+    QCOMPARE(readLine(host), QByteArray("holding"));
+    QVERIFY(QFile::exists(note().path()));
+    host.kill();
+    QVERIFY(host.waitForFinished(limitMilliseconds));
+    QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(host::lockFilePath(folder())), 10'000);
     QVERIFY(!QFile::exists(note().path()));
 }
 

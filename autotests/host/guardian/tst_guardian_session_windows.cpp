@@ -154,6 +154,7 @@ void TestGuardianSessionWindows::triesAgainAfterAFailure()
 
 void TestGuardianSessionWindows::keepsTheNoteWhenAnEndpointRefuses()
 {
+    QString complaint;
     FakeCoreAudio fake;
     addAll(fake);
     {
@@ -169,23 +170,25 @@ void TestGuardianSessionWindows::keepsTheNoteWhenAnEndpointRefuses()
     }
     QVERIFY(note().read());
     fake.endpoints[1]->id = L"two";
-    QCOMPARE(putBackLeftovers(folder()).names, (QStringList{QStringLiteral("Headset"), QStringLiteral("three")}));
+    QCOMPARE(putBackLeftovers(folder(), complaint).names, (QStringList{QStringLiteral("Headset"), QStringLiteral("three")}));
     QCOMPARE(fake.states(), before);
     QVERIFY(!QFile::exists(note().path()));
 }
 
 void TestGuardianSessionWindows::putsBackLeftovers()
 {
+    QString complaint;
     FakeCoreAudio fake;
     addAll(fake);
     {
         GuardianSession session(folder());
         QVERIFY(session.begin());
         raise(fake);
-        QVERIFY(!putBackLeftovers(folder()).isDone); // while it lives
+        QVERIFY(!putBackLeftovers(folder(), complaint).isDone); // while it lives
+        QVERIFY2(complaint.startsWith(QStringLiteral("Another run")), qPrintable(complaint));
         QCOMPARE(fake.endpoints[0]->level, 1.0F);
     }
-    const PutBack result = putBackLeftovers(folder());
+    const PutBack result = putBackLeftovers(folder(), complaint);
     QVERIFY(result.isDone);
     QCOMPARE(result.names, allNames);
     QCOMPARE(fake.states(), before);
@@ -194,11 +197,12 @@ void TestGuardianSessionWindows::putsBackLeftovers()
 
 void TestGuardianSessionWindows::clampsTheLevelsOfANote()
 {
+    QString complaint;
     FakeCoreAudio fake;
     addAll(fake);
     QVERIFY(note().write({{7.5F, false, u"one", {}}, {-3.0F, true, u"two", {}}, {0.5F, true, u"three", {}}}));
     fake.endpoints[1]->level = 0.3F;
-    QVERIFY(putBackLeftovers(folder()).isDone);
+    QVERIFY(putBackLeftovers(folder(), complaint).isDone);
     QCOMPARE(fake.endpoints[0]->level, 1.0F);
     QCOMPARE(fake.endpoints[1]->level, 0.0F);
     verifyEverythingGivenBack(fake);

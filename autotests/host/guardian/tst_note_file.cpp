@@ -151,10 +151,11 @@ void TestNoteFile::keepsOneRefusedNote()
 
 void TestNoteFile::leftoversOfADamagedNoteAreNothingToDo()
 {
+    QString complaint;
     const NoteFile note(folder());
     writeFile(note.path(), "{");
     expectRefusal();
-    const PutBack result = putBackLeftovers(folder());
+    const PutBack result = putBackLeftovers(folder(), complaint);
     QVERIFY(result.isDone);
     QCOMPARE(result.names, QStringList());
     QCOMPARE(QDir(folder()).entryList(QDir::Files), QStringList{QStringLiteral("volume_note.json.refused")});
