@@ -2,6 +2,7 @@
 #include "audio/endpoints/endpoint_volume.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace ostra::audio {
@@ -33,7 +34,7 @@ bool hasSameVolume(const EndpointVolume &one, const EndpointVolume &other) noexc
         return false;
     if (!one.channelVolumes.empty() && one.channelVolumes.size() == other.channelVolumes.size())
         return one.channelVolumes == other.channelVolumes;
-    return one.level == other.level;
+    return std::abs(one.level - other.level) < levelTolerance;
 }
 
 EndpointVolumes changedEndpoints(const EndpointVolumes &saved, const EndpointVolumes &current)

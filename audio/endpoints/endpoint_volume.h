@@ -45,7 +45,12 @@ int applyEndpointVolumes(const EndpointVolumes &list) noexcept;
 /// meets a record without an id, the one at `position`. Null when there is none.
 const EndpointVolume *chooseRecord(const EndpointVolumes &list, std::u16string_view id, std::size_t position) noexcept;
 
-/// Whether both describe the same mute state and, channel by channel where both know their channels, the same level.
+/// Levels this close count as the same: half a step of the scale that users see. Drivers round a level to steps of their own,
+/// so that one which was set comes back a little different.
+inline constexpr float levelTolerance = 0.005F;
+
+/// Whether both describe the same mute state and, channel by channel where both know their channels, the same level. Channels
+/// are compared exactly, levels by `levelTolerance`.
 bool hasSameVolume(const EndpointVolume &one, const EndpointVolume &other) noexcept;
 
 /// The records of `saved` whose endpoint is in `current` with another volume. Both lists carry ids.

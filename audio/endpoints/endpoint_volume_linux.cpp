@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "audio/endpoints/endpoint_volume.h"
 
+#include "audio/endpoints/endpoint_id_linux.h"
 #include "audio/endpoints/pulse_connection_linux.h"
 
 #include <pulse/introspect.h>
@@ -30,22 +31,11 @@ struct Endpoints {
     bool isWhole = true;
 };
 
-// Names are compared and never shown, so each byte becomes a unit of its own, whatever its encoding.
-std::u16string idOf(const char *name)
-{
-    const std::string_view text(name);
-    std::u16string id;
-    id.reserve(text.size());
-    for (const char byte : text)
-        id.push_back(static_cast<unsigned char>(byte));
-    return id;
-}
-
 // The callbacks are called by C code: an answer that cannot be stored makes the list incomplete instead of being thrown.
 template <typename Info>
 void add(Endpoints &endpoints, Direction direction, const Info &info) noexcept
 try {
-    endpoints.list.push_back({direction, info.index, idOf(info.name), info.volume, info.mute != 0});
+    endpoints.list.push_back({direction, info.index, endpointIdOf(info.name), info.volume, info.mute != 0});
 } catch (...) {
     endpoints.isWhole = false;
 }

@@ -8,6 +8,7 @@
 #include <endpointvolume.h>
 #include <mmdeviceapi.h>
 #include <objidl.h>
+#include <propsys.h>
 
 #include <algorithm>
 #include <array>
@@ -34,6 +35,16 @@ struct FakeCoreAudio::Core {
     {
         owner->events.push_back({call, endpoint});
         return callCount++ == failingCall ? failure : S_OK;
+    }
+
+    // A copy that the receiver owes to COM's allocator.
+    LPWSTR handOver(const std::wstring &text)
+    {
+        const std::size_t byteCount = (text.size() + 1) * sizeof(wchar_t);
+        const auto copy = static_cast<LPWSTR>(CoTaskMemAlloc(byteCount));
+        std::memcpy(copy, text.c_str(), byteCount);
+        ids.insert(copy);
+        return copy;
     }
 
     void require(bool condition, const char *what)
@@ -148,6 +159,32 @@ private:
     std::size_t index_;
 };
 
+class Properties final : public Counted<IPropertyStore> {
+public:
+    Properties(Core &core, std::shared_ptr<Endpoint> endpoint, std::size_t index)
+        : Counted(core), endpoint_(std::move(endpoint)), index_(index)
+    {}
+
+    STDMETHODIMP GetValue(REFPROPERTYKEY key, PROPVARIANT *value) override
+    {
+        core().require(key.fmtid == ostra::audio::friendlyNameKey.fmtid && key.pid == 14, "another property was asked for");
+        const HRESULT result = core().note(Call::getProperty, index_);
+        if (FAILED(result) || !endpoint_->name)
+            return result;
+        value->pwszVal = core().handOver(*endpoint_->name);
+        value->vt = VT_LPWSTR;
+        return S_OK;
+    }
+    STDMETHODIMP GetCount(DWORD *) override { return E_NOTIMPL; }
+    STDMETHODIMP GetAt(DWORD, PROPERTYKEY *) override { return E_NOTIMPL; }
+    STDMETHODIMP SetValue(REFPROPERTYKEY, REFPROPVARIANT) override { return E_NOTIMPL; }
+    STDMETHODIMP Commit() override { return E_NOTIMPL; }
+
+private:
+    std::shared_ptr<Endpoint> endpoint_;
+    std::size_t index_;
+};
+
 class Device final : public Counted<IMMDevice> {
 public:
     Device(Core &core, std::shared_ptr<Endpoint> endpoint, std::size_t index)
@@ -171,13 +208,18 @@ public:
         const HRESULT result = core().note(Call::getId, index_);
         if (FAILED(result) || !endpoint_->id)
             return result;
-        const std::size_t byteCount = (endpoint_->id->size() + 1) * sizeof(wchar_t);
-        *id = static_cast<LPWSTR>(CoTaskMemAlloc(byteCount));
-        std::memcpy(*id, endpoint_->id->c_str(), byteCount);
-        core().ids.insert(*id);
+        *id = core().handOver(*endpoint_->id);
         return S_OK;
     }
-    STDMETHODIMP OpenPropertyStore(DWORD, IPropertyStore **) override { return E_NOTIMPL; }
+    STDMETHODIMP OpenPropertyStore(DWORD access, IPropertyStore **properties) override
+    {
+        *properties = nullptr;
+        core().require(access == STGM_READ, "an endpoint's properties were opened for more than reading");
+        const HRESULT result = core().note(Call::openProperties, index_);
+        if (SUCCEEDED(result))
+            *properties = new Properties(core(), endpoint_, index_);
+        return result;
+    }
     STDMETHODIMP GetState(DWORD *) override { return E_NOTIMPL; }
 
 private:
@@ -329,8 +371,18 @@ void bind(Core *core)
 
 const char *nameOf(Call call)
 {
-    constexpr std::array names{"create the enumerator", "EnumAudioEndpoints", "GetCount", "Item",   "GetId", "Activate",
-                               "get the level",         "set the level",      "GetMute",  "SetMute"};
+    constexpr std::array names{"create the enumerator",
+                               "EnumAudioEndpoints",
+                               "GetCount",
+                               "Item",
+                               "GetId",
+                               "Activate",
+                               "get the level",
+                               "set the level",
+                               "GetMute",
+                               "SetMute",
+                               "OpenPropertyStore",
+                               "GetValue"};
     return names.at(static_cast<std::size_t>(call));
 }
 

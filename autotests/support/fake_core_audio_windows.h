@@ -25,6 +25,8 @@ enum class Call {
     setLevel,
     getMute,
     setMute,
+    openProperties,
+    getProperty,
 };
 
 const char *nameOf(Call call);
@@ -33,6 +35,7 @@ struct Endpoint {
     std::optional<std::wstring> id; ///< nullopt: the call succeeds and hands over no text
     float level = 0.0F;
     bool muted = false;
+    std::optional<std::wstring> name = std::nullopt; ///< nullopt: the property is there and empty
 
     bool operator==(const Endpoint &) const = default;
 };

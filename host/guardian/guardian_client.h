@@ -21,13 +21,16 @@ public:
     GuardianClient &operator=(const GuardianClient &) = delete;
 
     /// Puts back what a note of an earlier run still holds, and names those endpoints; empty when there was nothing to do.
+    /// `errorText()` says why it could not, and is empty otherwise. A frozen sound server is waited for some 6 s.
     QStringList restoreLeftovers();
 
     /// Starts the guardian and waits, bounded, until it has noted every level. False with `errorText()` when it could not.
     bool start();
     const QString &errorText() const noexcept { return errorText_; }
 
-    /// Normal end: lets the guardian compare, put back what is left, and end. The endpoints that it had to put back.
+    /// Normal end: lets the guardian compare, put back what is left, and end. The endpoints that it had to put back, those of
+    /// an earlier run that `start` had to put back among them. Only after the run has returned: while the module still
+    /// restores, both would be at it. Waits 20 s at most; `errorText()` is empty unless something could not be put back.
     QStringList finish();
 
 private:

@@ -78,6 +78,7 @@ void TestEndpointVolume::comparesVolumes_data()
 
     QTest::newRow("equal, another id") << record(u"a") << record(u"b") << true;
     QTest::newRow("level") << record(u"a", 0.5F) << record(u"a", 0.51F) << false;
+    QTest::newRow("a driver's rounding") << record(u"a", 0.25F) << record(u"a", 0.2501F) << true;
     QTest::newRow("mute") << record(u"a", 0.5F, false) << record(u"a", 0.5F, true) << false;
     QTest::newRow("balance") << record(u"a", 0.5F, false, {100, 200}) << record(u"a", 0.5F, false, {200, 100}) << false;
     QTest::newRow("above 100 %") << record(u"a", 1.0F, false, {70000, 70000}) << record(u"a", 1.0F, false, {65536, 65536})

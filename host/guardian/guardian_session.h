@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/guardian/note_file.h"
+#include "host/guardian/put_back.h"
+
+#include <QLockFile>
+#include <QString>
+
+namespace host {
+
+/// The guardian's work from the noting to the putting back, without its process and pipes. One at a time per state folder, on
+/// one thread. Its end alone puts nothing back and leaves the note.
+class GuardianSession {
+public:
+    enum class Ending {
+        normal,    ///< the run is over, the module has restored what it could
+        hostsLoss, ///< the host may have been stopped in the midst of a change
+    };
+
+    explicit GuardianSession(const QString &stateFolder);
+
+    /// Takes the folder's lock, puts back what a former run left, notes every volume in memory and on the disk. False with
+    /// `errorText()`: then there is no new note.
+    bool begin();
+    const QString &errorText() const noexcept { return errorText_; }
+    /// Endpoints that a former run had left at another volume.
+    const QStringList &leftovers() const noexcept { return leftovers_; }
+
+    /// Puts back whatever differs. The note is removed when that succeeded, and the lock given back in any case.
+    PutBack end(Ending ending);
+
+private:
+    bool lock();
+    bool noteVolumes();
+    bool readVolumes();
+
+    NoteFile note_;
+    QLockFile lock_;
+    QString folder_;
+    QString errorText_;
+    QStringList leftovers_;
+    ostra::audio::EndpointVolumes saved_;
+};
+
+/// Puts back what a note of a former run holds, in one try, and removes the note if that succeeded; else `complaint` says why
+/// not. Not done, without a try, while another guardian is at work: that one does it itself.
+PutBack putBackLeftovers(const QString &stateFolder, QString &complaint);
+
+} // namespace host
