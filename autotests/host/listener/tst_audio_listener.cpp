@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "autotests/host/listener/listener_process.h"
+
+#include "host/measure/digit_clips.h"
+
+#include <SDL.h>
+
+#include <QObject>
+#include <QTest>
+
+#include <chrono>
+#include <filesystem>
+
+namespace {
+
+const QString monitor = QStringLiteral("Monitor of Speakers");
+
+qint64 steadyMilliseconds()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+QString textOf(const QJsonObject &object, const char *key) { return object.value(QLatin1String(key)).toString(); }
+
+/// Plays clips into the virtual sink as the module does: a device for each, held open for a second.
+class Player {
+public:
+    explicit Player(const char *language)
+        : clips_(measure::readDigitClips(std::filesystem::path(AUDIO_CLIPS_DIR), language).value_or(measure::DigitClips{}))
+    {}
+
+    /// The moment at which the device began to play; -1 when it could not.
+    qint64 play(int digit, float gain = 1) const
+    {
+        const measure::MonoSound &clip = clips_[static_cast<std::size_t>(digit)];
+        SDL_AudioSpec wanted{};
+        wanted.freq = static_cast<int>(clip.sampleRate);
+        wanted.format = AUDIO_F32SYS;
+        wanted.channels = 1;
+        wanted.samples = 4096;
+        const SDL_AudioDeviceID device = SDL_OpenAudioDevice("Speakers", SDL_FALSE, &wanted, nullptr, 0);
+        std::vector<float> samples = clip.samples;
+        for (float &sample : samples)
+            sample *= gain;
+        if (device == 0 || SDL_QueueAudio(device, samples.data(), static_cast<Uint32>(samples.size() * sizeof(float))) != 0)
+            return -1;
+        const qint64 begin = steadyMilliseconds();
+        SDL_PauseAudioDevice(device, SDL_FALSE);
+        SDL_Delay(1000);
+        SDL_CloseAudioDevice(device);
+        SDL_Delay(1000);
+        return begin;
+    }
+
+private:
+    measure::DigitClips clips_;
+};
+
+} // namespace
+
+class TestAudioListener : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+
+    void listsWhatCanBeHeard();
+    void hearsWhatADevicePlays_data();
+    void hearsWhatADevicePlays();
+    void hearsSilenceWhileNothingPlays();
+    void endsWithItsParent();
+    void namesTheSourcesWhereItDoesNotFindOne();
+    void refusesAWrongCommandLine_data();
+    void refusesAWrongCommandLine();
+    void explainsItself();
+};
+
+void TestAudioListener::initTestCase()
+{
+    QCOMPARE(SDL_setenv("SDL_AUDIODRIVER", SDL_DRIVER, 1), 0);
+    QVERIFY2(SDL_InitSubSystem(SDL_INIT_AUDIO) == 0, SDL_GetError());
+}
+
+void TestAudioListener::cleanupTestCase() { SDL_Quit(); }
+
+void TestAudioListener::listsWhatCanBeHeard()
+{
+    ListenerProcess listener({QStringLiteral("--list")});
+    QVERIFY(listener.waitForEnd());
+    QCOMPARE(listener.process().exitCode(), 0);
+    QStringList names;
+    for (const QJsonObject &event : listener.events()) {
+        QCOMPARE(textOf(event, "event"), QStringLiteral("source"));
+        names.append(textOf(event, "name"));
+    }
+    QVERIFY2(names.contains(monitor) && names.contains(QStringLiteral("Monitor of Kopfh\u00F6rer \u8033")),
+             qPrintable(names.join(u'|')));
+}
+
+void TestAudioListener::hearsWhatADevicePlays_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<float>("gain");
+    QTest::newRow("ja_JP") << QStringLiteral("ja_JP") << 1.0F;
+    QTest::newRow("en_US, softly") << QStringLiteral("en_US") << 0.2F;
+}
+
+void TestAudioListener::hearsWhatADevicePlays()
+{
+    QFETCH(const QString, language);
+    QFETCH(const float, gain);
+    ListenerProcess listener(listeningArguments(monitor, language));
+    const QJsonObject ready = listener.waitFor(QStringLiteral("ready"));
+    QCOMPARE(textOf(ready, "source"), monitor);
+    const Player player(language.toLatin1().constData());
+    for (const int digit : {4, 0, 9}) {
+        const qint64 begin = player.play(digit, gain);
+        QVERIFY(begin > 0);
+        const QJsonObject event = listener.waitFor(QStringLiteral("digit"));
+        QCOMPARE(event.value(QLatin1String("digit")).toInt(-1), digit);
+        const auto delay = static_cast<qint64>(event.value(QLatin1String("startMs")).toDouble()) - begin;
+        QVERIFY2(delay > -100 && delay < 1000, qPrintable(QString::number(delay)));
+        QVERIFY(event.value(QLatin1String("score")).toDouble() > 0.8);
+        QVERIFY(!event.value(QLatin1String("clipped")).toBool(true));
+        qInfo("digit %d after %lld ms, %.1f dBFS", digit, delay, event.value(QLatin1String("levelDbfs")).toDouble());
+    }
+    listener.process().closeWriteChannel();
+    QVERIFY(listener.waitForEnd());
+    QCOMPARE(listener.countOf(QStringLiteral("digit")), 3);
+    QCOMPARE(listener.countOf(QStringLiteral("sound")), 0);
+}
+
+void TestAudioListener::hearsSilenceWhileNothingPlays()
+{
+    ListenerProcess listener(listeningArguments(monitor, QStringLiteral("en_US")));
+    for (int count = 0; count < 3; ++count) {
+        const QJsonObject level = listener.waitFor(QStringLiteral("level"));
+        QVERIFY(level.value(QLatin1String("levelDbfs")).toDouble(0) < -100);
+    }
+}
+
+void TestAudioListener::endsWithItsParent()
+{
+    ListenerProcess listener(listeningArguments(monitor, QStringLiteral("en_US")));
+    QVERIFY(!listener.waitFor(QStringLiteral("ready")).isEmpty());
+    listener.process().closeWriteChannel();
+    QVERIFY(listener.waitForEnd());
+    QCOMPARE(listener.process().exitCode(), 0);
+}
+
+void TestAudioListener::namesTheSourcesWhereItDoesNotFindOne()
+{
+    ListenerProcess listener(listeningArguments(QStringLiteral("Monitor of Speaker"), QStringLiteral("en_US")));
+    QVERIFY(listener.waitForEnd());
+    QCOMPARE(listener.process().exitCode(), 3);
+    const QString message = QString::fromUtf8(listener.process().readAllStandardError());
+    QVERIFY2(message.contains(QStringLiteral("'Monitor of Speaker'")) &&
+                 message.contains(QStringLiteral("'Monitor of Speakers'")),
+             qPrintable(message));
+    QVERIFY(listener.events().isEmpty());
+}
+
+void TestAudioListener::refusesAWrongCommandLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("no arguments") << QStringList{};
+    QTest::newRow("unknown option") << QStringList{QStringLiteral("--loud")};
+    QTest::newRow("no such language") << listeningArguments(monitor, QStringLiteral("xx_XX"));
+}
+
+void TestAudioListener::refusesAWrongCommandLine()
+{
+    QFETCH(const QStringList, arguments);
+    ListenerProcess listener(arguments);
+    QVERIFY(listener.waitForEnd());
+    QCOMPARE(listener.process().exitCode(), 2);
+    QVERIFY(listener.process().readAllStandardError().startsWith("audio_listener: "));
+}
+
+void TestAudioListener::explainsItself()
+{
+    ListenerProcess listener({QStringLiteral("--help")});
+    QVERIFY(listener.process().waitForFinished());
+    QCOMPARE(listener.process().exitCode(), 0);
+    const QByteArray text = listener.process().readAllStandardOutput();
+    QVERIFY(text.startsWith("Usage: audio_listener") && text.contains("Exit codes"));
+}
+
+QTEST_GUILESS_MAIN(TestAudioListener)
+#include "tst_audio_listener.moc"

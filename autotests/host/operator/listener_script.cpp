@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "autotests/host/operator/listener_script.h"
+
+#include "host/operator/heard_log.h"
+
+#include <QCoreApplication>
+
+ListenerScript::ListenerScript(bool isReady)
+    : file_(QCoreApplication::applicationDirPath() + QStringLiteral("/listener_script"))
+{
+    if (!file_.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        qFatal("the script cannot be written");
+    if (isReady)
+        say(R"({"event":"ready","steadyMs":1})");
+}
+
+// In one piece, so that the reader never sees half a line.
+void ListenerScript::say(const QByteArray &line)
+{
+    file_.write(line + '\n');
+    file_.flush();
+}
+
+void ListenerScript::digit(int digit, double score)
+{
+    say(QByteArray(R"({"event":"digit","digit":)") + QByteArray::number(digit) + R"(,"score":)" + QByteArray::number(score) +
+        R"(,"margin":0.5,"levelDbfs":-20,"clipped":false,"startMs":)" + QByteArray::number(host::steadyNowMs()) + '}');
+}
+
+void ListenerScript::sound(double levelDbfs)
+{
+    say(R"({"event":"sound","levelDbfs":)" + QByteArray::number(levelDbfs) + R"(,"clipped":true,"startMs":)" +
+        QByteArray::number(host::steadyNowMs()) + '}');
+}
+
+void ListenerScript::level(double levelDbfs)
+{
+    say(R"({"event":"level","levelDbfs":)" + QByteArray::number(levelDbfs) + R"(,"atMs":)" +
+        QByteArray::number(host::steadyNowMs() + 3000) + '}');
+}
+
+void ListenerScript::end(int exitCode) { say("!exit " + QByteArray::number(exitCode)); }

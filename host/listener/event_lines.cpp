@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/listener/event_lines.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <chrono>
+#include <cmath>
+
+namespace host {
+
+namespace {
+
+template <typename Clock>
+double milliseconds(std::chrono::time_point<Clock> time)
+{
+    return std::floor(std::chrono::duration<double, std::milli>(time.time_since_epoch()).count());
+}
+
+double rounded(double value, double steps) { return std::round(value * steps) / steps; }
+
+QByteArray line(const char *event, QJsonObject object)
+{
+    object.insert(QLatin1String("event"), QLatin1String(event));
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+} // namespace
+
+QByteArray sourceLine(const QString &name) { return line("source", {{QStringLiteral("name"), name}}); }
+
+QByteArray readyLine(const QString &source, const QString &language)
+{
+    return line("ready", {{QStringLiteral("source"), source},
+                          {QStringLiteral("language"), language},
+                          {QStringLiteral("sampleRate"), static_cast<int>(captureRate)},
+                          {QStringLiteral("channels"), static_cast<int>(captureChannelCount)},
+                          {QStringLiteral("steadyMs"), milliseconds(std::chrono::steady_clock::now())},
+                          {QStringLiteral("utcMs"), milliseconds(std::chrono::system_clock::now())}});
+}
+
+QByteArray soundLine(const HeardSound &sound)
+{
+    QJsonObject object{{QStringLiteral("startMs"), milliseconds(sound.start)},
+                       {QStringLiteral("durationMs"), static_cast<double>(sound.duration.count())},
+                       {QStringLiteral("levelDbfs"), rounded(sound.levelDbfs, 10)},
+                       {QStringLiteral("clipped"), sound.isClipped}};
+    if (!sound.digit)
+        return line("sound", object);
+    object.insert(QStringLiteral("digit"), *sound.digit);
+    object.insert(QStringLiteral("score"), rounded(sound.score, 10'000));
+    object.insert(QStringLiteral("margin"), rounded(sound.margin, 10'000));
+    return line("digit", object);
+}
+
+QByteArray levelLine(double loudestDbfs, std::uint64_t droppedFrameCount)
+{
+    QJsonObject object{{QStringLiteral("levelDbfs"), rounded(loudestDbfs, 10)},
+                       {QStringLiteral("atMs"), milliseconds(std::chrono::steady_clock::now())}};
+    if (droppedFrameCount > 0)
+        object.insert(QStringLiteral("droppedFrames"), static_cast<double>(droppedFrameCount));
+    return line("level", object);
+}
+
+QByteArray lostLine() { return line("lost", {}); }
+
+} // namespace host

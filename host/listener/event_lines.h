@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/listener/stream_listener.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+
+namespace host {
+
+/// The listener's output: one JSON object a line, without a line end. Moments are milliseconds of the system-wide steady
+/// clock (std::chrono::steady_clock), which every process of the machine shares.
+QByteArray sourceLine(const QString &name);
+/// Also tells the steady clock's and the calendar's milliseconds (since 1970, UTC) of one moment.
+QByteArray readyLine(const QString &source, const QString &language);
+/// "digit" for one of the ten, "sound" for anything else.
+QByteArray soundLine(const HeardSound &sound);
+/// \param droppedFrameCount frames that were lost since the start because the program was too slow; told when above 0.
+QByteArray levelLine(double loudestDbfs, std::uint64_t droppedFrameCount);
+QByteArray lostLine();
+
+} // namespace host

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/listener/listen_loop.h"
+
+#include "host/listener/event_lines.h"
+#include "host/listener/parent_link.h"
+#include "host/listener/stream_listener.h"
+
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <thread>
+
+namespace host {
+
+namespace {
+
+using std::chrono::steady_clock;
+using namespace std::chrono_literals;
+
+constexpr auto pollInterval = 20ms; // the ring holds 5 s
+constexpr auto levelInterval = 1s;
+/// A source that sleeps delivers nothing: it is ready all the same.
+constexpr auto firstSoundLimit = 3s;
+
+volatile std::sig_atomic_t isAskedToEnd = 0;
+
+extern "C" void noteEndSignal(int /*signal*/) { isAskedToEnd = 1; }
+
+class Listening {
+public:
+    Listening(Capture &capture, const measure::DigitClips &clips, const ListenerOptions &options)
+        : capture_(capture), options_(options), listener_(clips, [this](const HeardSound &sound) { write(soundLine(sound)); })
+    {}
+
+    ListenerExit run()
+    {
+        while (isWanted()) {
+            drain();
+            if (capture_.isLost())
+                return end(ListenerExit::lost);
+            tellReady();
+            tellLevel();
+            std::this_thread::sleep_for(pollInterval);
+        }
+        return end(ListenerExit::told);
+    }
+
+private:
+    bool isWanted() const { return isAskedToEnd == 0 && isRead_ && !hasInputEnded(); }
+
+    void write(const QByteArray &line) { isRead_ = writeLine(line) && isRead_; }
+
+    void drain()
+    {
+        while (const SoundBlock *block = capture_.ring().oldest()) {
+            listener_.feed(block->frames(), block->end);
+            capture_.ring().release();
+            hasSound_ = true;
+        }
+    }
+
+    void tellReady()
+    {
+        if (isReady_ || !(hasSound_ || steady_clock::now() - start_ > firstSoundLimit))
+            return;
+        isReady_ = true;
+        write(readyLine(options_.source, options_.language));
+    }
+
+    void tellLevel()
+    {
+        if (!isReady_ || steady_clock::now() - levelTold_ < levelInterval)
+            return;
+        levelTold_ = steady_clock::now();
+        write(levelLine(listener_.takeLoudestDbfs(), capture_.ring().droppedFrameCount()));
+    }
+
+    ListenerExit end(ListenerExit how)
+    {
+        drain();
+        listener_.finish();
+        if (how == ListenerExit::lost)
+            write(lostLine());
+        return how;
+    }
+
+    Capture &capture_;
+    const ListenerOptions &options_;
+    StreamListener listener_;
+    steady_clock::time_point start_ = steady_clock::now();
+    steady_clock::time_point levelTold_ = start_;
+    bool hasSound_ = false;
+    bool isReady_ = false;
+    bool isRead_ = true;
+};
+
+} // namespace
+
+void catchEndSignals()
+{
+    std::signal(SIGTERM, &noteEndSignal);
+    std::signal(SIGINT, &noteEndSignal);
+}
+
+bool writeLine(const QByteArray &line)
+{
+    const auto byteCount = static_cast<std::size_t>(line.size());
+    return std::fwrite(line.constData(), 1, byteCount, stdout) == byteCount && std::fputc('\n', stdout) != EOF &&
+           std::fflush(stdout) == 0;
+}
+
+ListenerExit listen(Capture &capture, const measure::DigitClips &clips, const ListenerOptions &options)
+{
+    return Listening(capture, clips, options).run();
+}
+
+} // namespace host

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/listener/listener_options.h"
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+
+namespace host {
+
+namespace {
+
+const QString help = QStringLiteral("help");
+const QString list = QStringLiteral("list");
+const QString source = QStringLiteral("source");
+const QString clips = QStringLiteral("clips");
+const QString language = QStringLiteral("language");
+
+void addOptions(QCommandLineParser &parser)
+{
+    parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), help}));
+    parser.addOption(QCommandLineOption(list));
+    for (const QString &name : {source, clips, language})
+        parser.addOption(QCommandLineOption(name, {}, QStringLiteral("VALUE")));
+}
+
+std::variant<ListenerOptions, ListenerUsageError> readListening(const QCommandLineParser &parser)
+{
+    for (const QString &name : {source, clips, language}) {
+        if (parser.value(name).isEmpty())
+            return ListenerUsageError{QStringLiteral("'--%1' is missing (try --help)").arg(name)};
+    }
+    return ListenerOptions{ListenerTask::listen, parser.value(source), parser.value(clips), parser.value(language)};
+}
+
+} // namespace
+
+std::variant<ListenerOptions, ListenerUsageError> parseListenerOptions(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    if (!parser.parse(arguments))
+        return ListenerUsageError{QStringLiteral("%1 (try --help)").arg(parser.errorText())};
+    if (!parser.positionalArguments().isEmpty())
+        return ListenerUsageError{QStringLiteral("unexpected '%1' (try --help)").arg(parser.positionalArguments().first())};
+    if (parser.isSet(help))
+        return ListenerOptions{};
+    if (parser.isSet(list))
+        return ListenerOptions{ListenerTask::list, {}, {}, {}};
+    return readListening(parser);
+}
+
+QString listenerHelp()
+{
+    return QStringLiteral(R"(Usage: audio_listener --list
+       audio_listener --source NAME --clips DIR --language CODE
+
+Listens to a capture source and tells which spoken digits it hears, one JSON object a line.
+
+  --list           names the capture sources, also those that hear what a device plays
+  --source NAME    listen to this one: its exact name
+  --clips DIR      folder with one folder of ten clips a language
+  --language CODE  language of the digits, such as en_US
+  --help           this text
+
+Events: "ready", "digit", "sound" (no known digit), "level" (the loudest 50 ms of the last second), "lost".
+Moments ("startMs", "atMs") are milliseconds of the machine's steady clock; "ready" relates it to the calendar.
+Ends at the end of its standard input, or when asked to by a signal.
+
+Exit codes: 0 it was told to end, 2 wrong usage or unreadable clips, 3 no such source, 4 the source was lost.
+)");
+}
+
+} // namespace host

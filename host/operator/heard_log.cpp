@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/operator/heard_log.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace host {
+
+namespace {
+
+constexpr double lowestDbfs = -120.0;
+constexpr qint64 levelSpanMs = 1000;
+
+} // namespace
+
+qint64 steadyNowMs()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+void HeardLog::addSound(const HeardEvent &event) { sounds_.append(event); }
+
+void HeardLog::addLevel(qint64 atMs, double levelDbfs) { levels_.append({atMs, levelDbfs}); }
+
+QList<HeardEvent> HeardLog::soundsBetween(qint64 fromMs, qint64 toMs) const
+{
+    QList<HeardEvent> sounds;
+    std::copy_if(sounds_.begin(), sounds_.end(), std::back_inserter(sounds),
+                 [=](const HeardEvent &event) { return event.startMs >= fromMs && event.startMs <= toMs; });
+    std::stable_sort(sounds.begin(), sounds.end(),
+                     [](const HeardEvent &left, const HeardEvent &right) { return left.startMs < right.startMs; });
+    return sounds;
+}
+
+double HeardLog::loudestBetween(qint64 fromMs, qint64 toMs) const
+{
+    double loudest = lowestDbfs;
+    for (const HeardEvent &event : soundsBetween(fromMs, toMs))
+        loudest = std::max(loudest, event.levelDbfs);
+    for (const Level &level : levels_) {
+        if (level.atMs >= fromMs + levelSpanMs && level.atMs <= toMs + levelSpanMs)
+            loudest = std::max(loudest, level.levelDbfs);
+    }
+    return loudest;
+}
+
+} // namespace host

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/operator/heard_log.h"
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QObject>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+namespace host {
+
+/// The listener's process, found beside the running executable, and what it tells. GUI thread only.
+class ListenerLink : public QObject {
+    Q_OBJECT
+
+public:
+    explicit ListenerLink(QObject *parent = nullptr);
+    ~ListenerLink() override; ///< closes the listener's input, which ends it
+
+    /// Waits until it captures, 30 s at most. False with `errorText()`.
+    bool start(const QStringList &arguments);
+    const QString &errorText() const { return errorText_; }
+
+    /// The process has ended, or its source has vanished.
+    bool isLost() const { return isLost_; }
+    const HeardLog &log() const { return log_; }
+
+private:
+    void readLines();
+    void take(const QJsonObject &event);
+    void noteEnd();
+
+    QProcess process_;
+    HeardLog log_;
+    bool isReady_ = false;
+    bool isLost_ = true;
+    QString errorText_;
+};
+
+} // namespace host

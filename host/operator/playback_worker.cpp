@@ -1,0 +1,296 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/operator/playback_worker.h"
+
+#include "host/operator/real_input.h"
+#include "host/operator/window_photographer.h"
+
+#include <QChildEvent>
+#include <QMovie>
+
+#include <algorithm>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+constexpr qsizetype sequenceLength = 3;
+
+constexpr auto closeButton = "audio_playback_test_header_close";
+constexpr auto failButton = "audio_playback_test_fail_button";
+constexpr auto repeatButton = "audio_playback_test_numpad_repeat_button";
+constexpr auto secondMessage = "audio_playback_test_second_audio_sequence_message";
+constexpr auto thirdTyped = "audio_playback_test_third_input_set";
+constexpr auto unpressedDigit = "audio_playback_test_numpad_button_unpressed_%1";
+
+/// The listener tells a sound up to 2.4 s after its end.
+constexpr qint64 listenerDelayMs = 2'500;
+/// A sequence begins a second after its dialog and takes 7 s; a slow device may take its time to open.
+constexpr qint64 waitLimitMs = 30'000;
+constexpr qint64 playLimitMs = 90'000;
+constexpr qint64 listenerLimitMs = 20'000;
+constexpr qint64 answerLimitMs = 10'000;
+/// A press is repeated when it had no effect for that long.
+constexpr qint64 pressAgainMs = 2'000;
+/// The clocks of dialog and capture agree to a buffer or two.
+constexpr qint64 clockToleranceMs = 200;
+constexpr qint64 longestLatencyMs = 2'000;
+
+} // namespace
+
+PlaybackWorker::PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences)
+    : dialog_(dialog), log_(log), photographer_(photographer), mistypedSequences_(mistypedSequences),
+      stepStartMs_(steadyNowMs()), listenFromMs_(stepStartMs_)
+{
+    dialog->installEventFilter(this);
+    if (QWidget *third = find(thirdTyped))
+        third->installEventFilter(this);
+    photographer_.take(dialog, QStringLiteral("playback-shown"));
+}
+
+void PlaybackWorker::advance(bool isListenerLost)
+{
+    if (!dialog_ || !dialog_->isVisible())
+        return;
+    noteMovie();
+    if (isListenerLost && step_ != Step::closing)
+        return close(QStringLiteral("listener lost"));
+    if (sequence_ == 1 && step_ != Step::closing && isShown(secondMessage))
+        return beginSecondSequence();
+    switch (step_) {
+    case Step::waiting:
+    case Step::playing:
+        return wait();
+    case Step::deciding:
+        return decide();
+    case Step::typing:
+        return type();
+    case Step::answered:
+        if (inStepMs() > answerLimitMs)
+            close(QStringLiteral("the dialog did not take the answer"));
+        return;
+    case Step::closing:
+        if (inStepMs() > pressAgainMs)
+            pressClose();
+        return;
+    }
+}
+
+void PlaybackWorker::enter(Step step)
+{
+    step_ = step;
+    stepStartMs_ = steadyNowMs();
+}
+
+QWidget *PlaybackWorker::find(const char *name) const { return dialog_->findChild<QWidget *>(QLatin1String(name)); }
+
+bool PlaybackWorker::isShown(const char *name) const
+{
+    const QWidget *widget = find(name);
+    return widget != nullptr && widget->isVisible();
+}
+
+bool PlaybackWorker::isRepeatEnabled() const
+{
+    const QWidget *button = find(repeatButton);
+    return button != nullptr && button->isEnabled();
+}
+
+// The button of a digit that has been typed gives way to its pressed twin.
+bool PlaybackWorker::isTyped(int digit) const
+{
+    return !isShown(QString::fromLatin1(unpressedDigit).arg(digit).toLatin1().constData());
+}
+
+void PlaybackWorker::beginSecondSequence()
+{
+    sequence_ = 2;
+    hasRepeated_ = false;
+    listenFromMs_ = steadyNowMs();
+    enter(Step::waiting);
+}
+
+void PlaybackWorker::wait()
+{
+    const bool isIdle = isRepeatEnabled();
+    if (step_ == Step::waiting && !isIdle) {
+        enter(Step::playing);
+    } else if (step_ == Step::playing && isIdle) {
+        playEndMs_ = steadyNowMs();
+        enter(Step::deciding);
+    } else if (inStepMs() > (step_ == Step::waiting ? waitLimitMs : playLimitMs)) {
+        close(QStringLiteral("the dialog did not play its sequence"));
+    }
+}
+
+QList<HeardEvent> PlaybackWorker::digitsOfPlay() const
+{
+    QList<HeardEvent> digits = log_.soundsBetween(listenFromMs_, playEndMs_);
+    digits.removeIf([](const HeardEvent &event) { return !event.digit; });
+    return digits;
+}
+
+void PlaybackWorker::decide()
+{
+    const QList<HeardEvent> digits = digitsOfPlay();
+    QList<int> values;
+    for (const HeardEvent &event : digits) {
+        if (!values.contains(*event.digit)) // the dialog never repeats a digit
+            values.append(*event.digit);
+    }
+    if (digits.size() == sequenceLength && values.size() == sequenceLength) {
+        noteRows();
+        answer_ = values;
+        typedCount_ = 0;
+        return enter(Step::typing);
+    }
+    if (log_.listenedUpToMs() >= playEndMs_ + listenerDelayMs)
+        return hasRepeated_ ? giveUp() : listenAgain();
+    if (inStepMs() > listenerLimitMs)
+        close(QStringLiteral("listener lost"));
+}
+
+void PlaybackWorker::listenAgain()
+{
+    if (!clickOn(find(repeatButton))) {
+        if (inStepMs() > listenerLimitMs)
+            close(QStringLiteral("the dialog could not be answered"));
+        return;
+    }
+    hasRepeated_ = true;
+    listenFromMs_ = steadyNowMs();
+    enter(Step::waiting);
+}
+
+void PlaybackWorker::giveUp()
+{
+    noteRows();
+    if (log_.loudestBetween(listenFromMs_, playEndMs_) >= HeardLog::audibleDbfs)
+        return close(QStringLiteral("not recognised"));
+    if (clickOn(find(failButton)))
+        enter(Step::answered);
+    else if (inStepMs() > listenerLimitMs)
+        close(QStringLiteral("the dialog could not be answered"));
+}
+
+void PlaybackWorker::type()
+{
+    if (typedCount_ > 0 && !isTyped(digitToType(typedCount_ - 1))) {
+        if (inStepMs() > answerLimitMs)
+            close(QStringLiteral("the keypad does not answer"));
+        return;
+    }
+    typeNext();
+}
+
+void PlaybackWorker::typeNext()
+{
+    const int digit = digitToType(typedCount_);
+    const bool isByMouse = typedCount_ % 2 == 0;
+    const QString button = QString::fromLatin1(unpressedDigit).arg(digit);
+    if (!(isByMouse ? clickOn(dialog_->findChild<QWidget *>(button)) : pressDigitKey(dialog_, digit))) {
+        if (inStepMs() > answerLimitMs)
+            close(QStringLiteral("the keypad does not answer"));
+        return;
+    }
+    const qsizetype row = rows_.size() - sequenceLength + typedCount_;
+    rows_[row].typed = digit;
+    ++typedCount_;
+    enter(typedCount_ < sequenceLength ? Step::typing : Step::answered);
+}
+
+// The wrong digit is none of the three: every digit can be typed once only.
+int PlaybackWorker::digitToType(int position) const
+{
+    if (sequence_ > mistypedSequences_ || position + 1 < sequenceLength)
+        return answer_.at(position);
+    int wrong = 0;
+    while (answer_.contains(wrong))
+        ++wrong;
+    return wrong;
+}
+
+void PlaybackWorker::close(const QString &reason)
+{
+    reason_ = reason;
+    pressClose();
+}
+
+void PlaybackWorker::pressClose()
+{
+    clickOn(find(closeButton));
+    enter(Step::closing);
+}
+
+// The three loudest where noises came between, in the order of their beginning; digits before other sounds.
+QList<HeardEvent> PlaybackWorker::rowsOfPlay() const
+{
+    QList<HeardEvent> sounds = log_.soundsBetween(listenFromMs_, playEndMs_);
+    std::stable_sort(sounds.begin(), sounds.end(), [](const HeardEvent &left, const HeardEvent &right) {
+        return std::pair(left.digit.has_value(), left.levelDbfs) > std::pair(right.digit.has_value(), right.levelDbfs);
+    });
+    sounds.resize(std::min(sounds.size(), sequenceLength));
+    std::sort(sounds.begin(), sounds.end(),
+              [](const HeardEvent &left, const HeardEvent &right) { return left.startMs < right.startMs; });
+    return sounds;
+}
+
+void PlaybackWorker::noteRows()
+{
+    rows_.removeIf([this](const HeardDigit &row) { return row.sequence == sequence_; });
+    const QList<HeardEvent> sounds = rowsOfPlay();
+    for (int position = 1; position <= sequenceLength; ++position) {
+        HeardDigit row;
+        row.sequence = sequence_;
+        row.position = position;
+        row.playedAtMs = -1;
+        row.latencyMs = -1;
+        row.levelDbfs = log_.loudestBetween(listenFromMs_, playEndMs_);
+        if (position <= sounds.size()) {
+            const HeardEvent &sound = sounds.at(position - 1);
+            row.playedAtMs = sound.startMs;
+            row.heard = sound.digit;
+            row.score = sound.score;
+            row.margin = sound.margin;
+            row.latencyMs = latencyOf(sound.startMs);
+            row.levelDbfs = sound.levelDbfs;
+            row.clipped = sound.isClipped;
+        }
+        rows_.append(row);
+    }
+}
+
+double PlaybackWorker::latencyOf(qint64 startMs) const
+{
+    double latency = -1;
+    for (const qint64 movieStart : movieStarts_) {
+        const qint64 delay = startMs - movieStart;
+        if (delay >= -clockToleranceMs && delay <= longestLatencyMs)
+            latency = static_cast<double>(std::max<qint64>(0, delay));
+    }
+    return latency;
+}
+
+// What kind of child it was can be told only once it is complete.
+void PlaybackWorker::noteMovie()
+{
+    if (qobject_cast<QMovie *>(newestChild_.object) != nullptr)
+        movieStarts_.append(newestChild_.bornMs);
+    newestChild_ = {};
+}
+
+// The dialog makes its "playing" animation anew, as a child of itself, right before each digit, and holds the thread then: a
+// timer would see it a second too late.
+bool PlaybackWorker::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == dialog_ && event->type() == QEvent::ChildAdded) {
+        newestChild_ = {steadyNowMs(), static_cast<QChildEvent *>(event)->child()};
+    } else if (watched == dialog_ && event->type() == QEvent::Hide) {
+        photographer_.take(dialog_, QStringLiteral("end"));
+    } else if (watched != dialog_ && event->type() == QEvent::Show && dialog_) {
+        photographer_.take(dialog_, QStringLiteral("sequence-%1-typed").arg(sequence_));
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace host

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/core/run_record.h"
+#include "host/operator/heard_log.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+namespace host {
+
+class WindowPhotographer;
+
+/// Works one playback dialog: waits until its three digits have been played, types what was heard, asks for one repetition
+/// where that was not enough, and says so where nothing was heard at all. Sees only what a person sees: which buttons are
+/// enabled, which texts are shown.
+class PlaybackWorker : public QObject {
+    Q_OBJECT
+
+public:
+    /// \param mistypedSequences that many sequences get one wrong digit
+    PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences);
+
+    /// Does what is due. \param isListenerLost closes the dialog instead
+    void advance(bool isListenerLost);
+
+    bool works(const QWidget *dialog) const { return dialog_ == dialog; }
+    /// Rows of the sequences so far; moments on the steady clock.
+    const QList<HeardDigit> &digits() const { return rows_; }
+    /// Why it gave up; empty when it did not.
+    const QString &reason() const { return reason_; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    enum class Step { waiting, playing, deciding, typing, answered, closing };
+
+    void enter(Step step);
+    qint64 inStepMs() const { return steadyNowMs() - stepStartMs_; }
+    QWidget *find(const char *name) const;
+    bool isShown(const char *name) const;
+    bool isRepeatEnabled() const;
+    bool isTyped(int digit) const;
+
+    void beginSecondSequence();
+    void wait();
+    void decide();
+    void listenAgain();
+    void giveUp();
+    void type();
+    void typeNext();
+    void close(const QString &reason);
+    void pressClose();
+
+    QList<HeardEvent> digitsOfPlay() const;
+    void noteRows();
+    QList<HeardEvent> rowsOfPlay() const;
+    int digitToType(int position) const;
+    double latencyOf(qint64 startMs) const;
+
+    void noteMovie();
+
+    struct Child {
+        qint64 bornMs;
+        QPointer<QObject> object;
+    };
+
+    QPointer<QWidget> dialog_;
+    const HeardLog &log_;
+    WindowPhotographer &photographer_;
+    int mistypedSequences_;
+
+    Step step_ = Step::waiting;
+    qint64 stepStartMs_ = 0;
+    int sequence_ = 1;
+    qint64 listenFromMs_ = 0;
+    qint64 playEndMs_ = 0;
+    bool hasRepeated_ = false;
+    QList<int> answer_;
+    int typedCount_ = 0; ///< digits whose keys were pressed
+    QList<HeardDigit> rows_;
+    Child newestChild_{};
+    QList<qint64> movieStarts_; ///< moments at which the dialog said that it plays
+    QString reason_;
+};
+
+} // namespace host

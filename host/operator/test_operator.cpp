@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/operator/test_operator.h"
+
+#include "host/operator/listener_link.h"
+#include "host/operator/playback_worker.h"
+#include "host/operator/real_input.h"
+#include "host/operator/window_photographer.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include <chrono>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+constexpr std::chrono::milliseconds lookInterval{60};
+/// A press is repeated when the prompt is still there after that long.
+constexpr qint64 pressAgainMs = 2'000;
+
+// The listener wants the folder above the language's.
+QString clipsRoot(const OperatorSettings &settings)
+{
+    const QDir folder(settings.clipsFolder);
+    return folder.dirName() == settings.language ? QDir::cleanPath(folder.absoluteFilePath(QStringLiteral("..")))
+                                                 : settings.clipsFolder;
+}
+
+QStringList listenerArguments(const OperatorSettings &settings)
+{
+    return {QStringLiteral("--source"),   settings.source,  QStringLiteral("--clips"), clipsRoot(settings),
+            QStringLiteral("--language"), settings.language};
+}
+
+} // namespace
+
+struct TestOperator::Private {
+    explicit Private(OperatorSettings given) : settings(std::move(given)), photographer(settings.screenshotsFolder) {}
+
+    void look();
+    void lookAt(QWidget *window);
+    void acceptPrompt(QWidget *prompt);
+    void workPlayback(QWidget *dialog);
+    void finishPlayback();
+    void noteQuestion(QWidget *question);
+
+    OperatorSettings settings;
+    WindowPhotographer photographer;
+    ListenerLink listener;
+    QTimer timer;
+    std::unique_ptr<PlaybackWorker> playback;
+    QPointer<QWidget> pressedPrompt;
+    QPointer<QWidget> seenQuestion;
+    qint64 promptPressedMs = 0;
+    qint64 runBeganMs = 0;
+    QList<HeardDigit> digits;
+    QString reason;
+};
+
+void TestOperator::Private::look()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible())
+            lookAt(window);
+    }
+}
+
+void TestOperator::Private::lookAt(QWidget *window)
+{
+    const QString name = window->objectName();
+    if (name == QLatin1String("host_prompt"))
+        acceptPrompt(window);
+    else if (name == QLatin1String("host_question"))
+        noteQuestion(window);
+    else if (name == QLatin1String("AudioPlaybackTestWidget"))
+        workPlayback(window);
+}
+
+void TestOperator::Private::acceptPrompt(QWidget *prompt)
+{
+    const bool isNew = pressedPrompt != prompt;
+    if (!isNew && steadyNowMs() - promptPressedMs < pressAgainMs)
+        return;
+    if (isNew)
+        photographer.take(prompt, QStringLiteral("prompt"));
+    clickOn(prompt->findChild<QWidget *>(QStringLiteral("host_prompt_accept")));
+    pressedPrompt = prompt;
+    promptPressedMs = steadyNowMs();
+}
+
+void TestOperator::Private::workPlayback(QWidget *dialog)
+{
+    if (playback == nullptr || !playback->works(dialog)) {
+        finishPlayback();
+        playback = std::make_unique<PlaybackWorker>(dialog, listener.log(), photographer, settings.mistypedSequences);
+    }
+    playback->advance(listener.isLost());
+}
+
+void TestOperator::Private::finishPlayback()
+{
+    if (playback == nullptr)
+        return;
+    digits.append(playback->digits());
+    if (reason.isEmpty())
+        reason = playback->reason();
+    playback.reset();
+}
+
+// Only the comparison of a recording with its playback can answer it, which is not made here: it is photographed and left open.
+void TestOperator::Private::noteQuestion(QWidget *question)
+{
+    if (seenQuestion == question)
+        return;
+    seenQuestion = question;
+    photographer.take(question, QStringLiteral("question"));
+    reason = QStringLiteral("a question was left open");
+}
+
+TestOperator::TestOperator(OperatorSettings settings, QObject *parent)
+    : QObject(parent), d_(std::make_unique<Private>(std::move(settings)))
+{
+    d_->timer.setInterval(lookInterval);
+    connect(&d_->timer, &QTimer::timeout, this, [this] { d_->look(); });
+}
+
+TestOperator::~TestOperator() = default;
+
+bool TestOperator::start()
+{
+    const bool hasStarted = d_->listener.start(listenerArguments(d_->settings));
+    errorText_ = d_->listener.errorText();
+    return hasStarted;
+}
+
+void TestOperator::beginRun()
+{
+    d_->runBeganMs = steadyNowMs();
+    d_->digits.clear();
+    d_->reason.clear();
+    d_->playback.reset();
+    d_->timer.start();
+}
+
+void TestOperator::endRun(RunRecord &record)
+{
+    d_->timer.stop();
+    d_->finishPlayback();
+    record.isUnattended = true;
+    record.listenedTo = d_->settings.source;
+    record.digits = d_->digits;
+    for (HeardDigit &digit : record.digits) {
+        if (digit.playedAtMs >= 0)
+            digit.playedAtMs -= d_->runBeganMs;
+    }
+    record.screenshots.append(d_->photographer.takeFiles());
+    if (record.reason.isEmpty())
+        record.reason = d_->reason;
+}
+
+} // namespace host
