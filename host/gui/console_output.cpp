@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/gui/console_output.h"
+
+#include "contract/result_codes.h"
+#include "host/core/verdict.h"
+
+#include <cstdio>
+
+namespace host {
+
+namespace {
+
+constexpr int columnWidth = 9;
+
+void write(std::FILE *stream, const QString &text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+    std::fflush(stream);
+}
+
+QString verdictWords(Verdict verdict)
+{
+    switch (verdict) {
+    case Verdict::passed:
+        return QStringLiteral("passed");
+    case Verdict::failed:
+        return QStringLiteral("failed");
+    case Verdict::cannotBePerformed:
+        return QStringLiteral("cannot be performed");
+    case Verdict::stopped:
+        return QStringLiteral("stopped");
+    case Verdict::invalidCall:
+        return QStringLiteral("invalid call");
+    case Verdict::notCompleted:
+        break;
+    }
+    return QStringLiteral("not completed");
+}
+
+QString optionalDigit(const std::optional<int> &digit) { return digit ? QString::number(*digit) : QStringLiteral("-"); }
+
+QString row(const QStringList &cells)
+{
+    QString line;
+    for (const QString &cell : cells)
+        line += cell.rightJustified(columnWidth) + u' ';
+    line.chop(1);
+    return line + u'\n';
+}
+
+QString digitRow(const HeardDigit &digit)
+{
+    return row({QString::number(digit.sequence), QString::number(digit.position), QString::number(digit.playedAtMs),
+                optionalDigit(digit.heard), optionalDigit(digit.typed), QString::number(digit.score, 'f', 3),
+                QString::number(digit.margin, 'f', 3),
+                digit.latencyMs < 0 ? QStringLiteral("-") : QString::number(digit.latencyMs, 'f', 1),
+                QString::number(digit.levelDbfs, 'f', 1), digit.clipped ? QStringLiteral("yes") : QStringLiteral("no")});
+}
+
+QString digitTable(const QList<HeardDigit> &digits)
+{
+    if (digits.isEmpty())
+        return {};
+    QString table = row({QStringLiteral("sequence"), QStringLiteral("position"), QStringLiteral("at ms"),
+                         QStringLiteral("heard"), QStringLiteral("typed"), QStringLiteral("score"), QStringLiteral("margin"),
+                         QStringLiteral("delay ms"), QStringLiteral("dBFS"), QStringLiteral("clipped")});
+    for (const HeardDigit &digit : digits)
+        table += digitRow(digit);
+    return table;
+}
+
+} // namespace
+
+void print(const QString &text) { write(stdout, text); }
+
+void complain(const QString &message) { write(stderr, QStringLiteral("TamrexDiagnostics: %1\n").arg(message)); }
+
+QString runSummary(const RunRecord &record)
+{
+    const Verdict verdict = verdictOf(record);
+    QString text = QStringLiteral("%1 on '%2' (%3): %4, code %5\n")
+                       .arg(record.testNameKey, record.device.name, record.language, verdictWords(verdict))
+                       .arg(codeOf(verdict));
+    if (!record.reason.isEmpty())
+        text += QStringLiteral("reason: %1\n").arg(record.reason);
+    for (const RunMessage &message : record.messages) {
+        const bool isError = message.level == ostra::message_level::error;
+        text += QStringLiteral("%1: %2\n").arg(isError ? QStringLiteral("error") : QStringLiteral("note"), message.text);
+    }
+    return text + digitTable(record.digits);
+}
+
+QString unknownDevice(const QString &name, const QList<Device> &devices)
+{
+    QStringList names;
+    for (const Device &device : devices)
+        names.append(QStringLiteral("'%1'").arg(device.name));
+    const QString known =
+        names.isEmpty() ? QStringLiteral("there is none") : QStringLiteral("known: ") + names.join(QStringLiteral(", "));
+    return QStringLiteral("unknown device '%1' (%2)").arg(name, known);
+}
+
+} // namespace host

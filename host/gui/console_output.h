@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/core/run_record.h"
+
+#include <QString>
+
+namespace host {
+
+/// Writes UTF-8 to standard output at once.
+void print(const QString &text);
+/// One line on standard error, after the program's name.
+void complain(const QString &message);
+
+/// Verdict, messages, and one line for each digit, as an unattended run prints them; English, for scripts and their readers.
+QString runSummary(const RunRecord &record);
+
+/// Complaint about a device that is not there, with the names of those that are.
+QString unknownDevice(const QString &name, const QList<Device> &devices);
+
+} // namespace host

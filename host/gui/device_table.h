@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/core/device_list.h"
+
+#include <QTableWidget>
+
+namespace host {
+
+/// The devices with their properties, one a row. The chosen one stays chosen over a new list, by its name.
+class DeviceTable : public QTableWidget {
+    Q_OBJECT
+
+public:
+    explicit DeviceTable(QWidget *parent = nullptr);
+
+    void setDevices(const QList<Device> &devices);
+    /// Position of the chosen device in the list; -1 when none is chosen.
+    int chosen() const;
+    QString chosenName() const { return devices_.value(chosen()).name; }
+    /// False when the list has no such position.
+    bool choose(qsizetype position);
+    void retranslate();
+
+private:
+    void fillRow(int row, const Device &device);
+    int rowOf(const QString &name, int preferred) const;
+
+    QList<Device> devices_;
+};
+
+} // namespace host

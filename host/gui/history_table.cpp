@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/gui/history_table.h"
+
+#include "host/core/language_setting.h"
+#include "host/gui/key_text.h"
+#include "host/gui/result_panel.h"
+
+#include <QHeaderView>
+#include <QLocale>
+
+namespace host {
+
+namespace {
+
+constexpr int historyColumnCount = 5;
+
+} // namespace
+
+HistoryTable::HistoryTable(QWidget *parent) : QTableWidget(0, historyColumnCount, parent)
+{
+    setObjectName(QStringLiteral("host_history"));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    horizontalHeader()->setStretchLastSection(true);
+}
+
+void HistoryTable::add(const RunRecord &record)
+{
+    records_.prepend(record);
+    insertRow(0);
+    fillRow(0, record);
+}
+
+void HistoryTable::fillRow(int row, const RunRecord &record)
+{
+    const QStringList cells{QLocale(record.language).toString(record.startedUtc.toLocalTime().time(), QLocale::LongFormat),
+                            shownText(record.testNameKey), record.device.name, verdictText(record),
+                            LanguageSetting::nativeName(record.language)};
+    for (int column = 0; column < historyColumnCount; ++column)
+        setItem(row, column, new QTableWidgetItem(cells[column]));
+}
+
+void HistoryTable::retranslate()
+{
+    setHorizontalHeaderLabels(
+        {hostText("TIME"), hostText("TEST"), hostText("DEVICE"), hostText("RESULT"), hostText("LANGUAGE")});
+    setAccessibleName(hostText("HISTORY"));
+    for (int row = 0; row < rowCount(); ++row)
+        fillRow(row, records_[row]);
+}
+
+} // namespace host

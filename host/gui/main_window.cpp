@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/gui/main_window.h"
+
+#include "contract/result_codes.h"
+#include "host/gui/device_table.h"
+#include "host/gui/event_menu.h"
+#include "host/gui/history_table.h"
+#include "host/gui/key_text.h"
+#include "host/gui/result_panel.h"
+#include "host/gui/run_panel.h"
+#include "host/translations/translators.h"
+
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTabWidget>
+#include <QTime>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+// In letters and lines of the window's font, so that the window has one shape at every resolution.
+constexpr int widthInLetters = 150;
+constexpr int heightInLines = 40;
+constexpr int logLineLimit = 5000;
+
+QSize startSize(const QWidget &window)
+{
+    const QFontMetrics metrics = window.fontMetrics();
+    const QSize wanted(widthInLetters * metrics.averageCharWidth(), heightInLines * metrics.lineSpacing());
+    const QSize room = window.screen()->availableSize();
+    return wanted.boundedTo(room * 9 / 10);
+}
+
+} // namespace
+
+MainWindow::MainWindow(TestSession &session, LanguageSetting &language, QString moduleVersion, bool hasEvents)
+    : session_(session), language_(language), moduleVersion_(std::move(moduleVersion)), devicesBox_(new QGroupBox(this)),
+      devices_(new DeviceTable(this)), devicesText_(new QLabel(this)), refresh_(new QPushButton(this)),
+      tests_(new RunPanel(session.tests(), this)), resultBox_(new QGroupBox(this)), result_(new ResultPanel(this)),
+      tabs_(new QTabWidget(this)), log_(new QPlainTextEdit(this)), history_(new HistoryTable(this))
+{
+    setObjectName(QStringLiteral("host_main"));
+    makeMenus(hasEvents);
+    layOut();
+    connectSession();
+    retranslate();
+    setRunning(false);
+    resize(startSize(*this));
+}
+
+void MainWindow::layOut()
+{
+    devicesText_->setObjectName(QStringLiteral("host_devices_text"));
+    refresh_->setObjectName(QStringLiteral("host_refresh"));
+    auto *foot = new QHBoxLayout;
+    foot->addWidget(devicesText_, 1);
+    foot->addWidget(refresh_);
+    auto *deviceColumn = new QVBoxLayout(devicesBox_);
+    deviceColumn->addWidget(devices_);
+    deviceColumn->addLayout(foot);
+    auto *resultColumn = new QVBoxLayout(resultBox_);
+    resultColumn->addWidget(result_);
+    log_->setObjectName(QStringLiteral("host_log"));
+    log_->setReadOnly(true);
+    log_->setTabChangesFocus(true);
+    log_->setMaximumBlockCount(logLineLimit);
+    tabs_->setObjectName(QStringLiteral("host_tabs"));
+    tabs_->addTab(log_, QString());
+    tabs_->addTab(history_, QString());
+    auto *middle = new QHBoxLayout;
+    middle->addWidget(tests_, 1);
+    middle->addWidget(resultBox_, 1);
+    auto *central = new QWidget(this);
+    auto *column = new QVBoxLayout(central);
+    column->addWidget(devicesBox_, 3);
+    column->addLayout(middle, 4);
+    column->addWidget(tabs_, 3);
+    setCentralWidget(central);
+}
+
+void MainWindow::makeMenus(bool hasEvents)
+{
+    fileMenu_ = menuBar()->addMenu(QString());
+    refreshAction_ = fileMenu_->addAction(QString(), QKeySequence(Qt::Key_F5), &session_, &TestSession::refresh);
+    fileMenu_->addSeparator();
+    quitAction_ = fileMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
+    testMenu_ = menuBar()->addMenu(QString());
+    runAction_ = testMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_R), this, &MainWindow::runChosen);
+    // Without a shortcut of its own: its keys are taken for the whole program.
+    stopAction_ = testMenu_->addAction(QString(), this, &MainWindow::stopPressed);
+    makeLanguageMenu();
+    if (hasEvents) {
+        eventMenu_ = menuBar()->addMenu(QString());
+        fillEventMenu(*eventMenu_, this, [this](int bit) { emit eventChosen(bit); });
+    }
+    helpMenu_ = menuBar()->addMenu(QString());
+    aboutAction_ = helpMenu_->addAction(QString(), this, &MainWindow::showAbout);
+}
+
+void MainWindow::makeLanguageMenu()
+{
+    languageMenu_ = menuBar()->addMenu(QString());
+    languageMenu_->setToolTipsVisible(true);
+    languages_ = new QActionGroup(this);
+    const QStringList codes = LanguageSetting::codes();
+    for (const QString &code : codes) {
+        QAction *entry = languageMenu_->addAction(LanguageSetting::nativeName(code));
+        entry->setObjectName(QStringLiteral("host_language_") + code);
+        entry->setData(code);
+        entry->setCheckable(true);
+        entry->setChecked(code == language_.code());
+        languages_->addAction(entry);
+    }
+    connect(languages_, &QActionGroup::triggered, this, [this](QAction *entry) { changeLanguage(entry->data().toString()); });
+}
+
+void MainWindow::connectSession()
+{
+    connect(refresh_, &QPushButton::clicked, &session_, &TestSession::refresh);
+    // Later: a run from within the click would keep the button's own event open until it ends.
+    connect(tests_, &RunPanel::runPressed, this, &MainWindow::runChosen, Qt::QueuedConnection);
+    connect(tests_, &RunPanel::stopPressed, this, &MainWindow::stopPressed);
+    connect(devices_, &QTableWidget::itemSelectionChanged, this, [this] { tests_->setCanRun(devices_->chosen() >= 0); });
+    connect(&session_, &TestSession::devicesAboutToBeRead, this, [this] {
+        devicesText_->setText(hostText("READING_DEVICES"));
+        devicesText_->repaint(); // the event loop stands still until they are read
+    });
+    connect(&session_, &TestSession::devicesRead, this, &MainWindow::showDevices);
+    connect(&session_, &TestSession::runStarted, this, &MainWindow::showStarted);
+    connect(&session_, &TestSession::progressed, tests_, &RunPanel::showProgress);
+    connect(&session_, &TestSession::progressed, this, &MainWindow::logProgress);
+    connect(&session_, &TestSession::messageAdded, this, &MainWindow::logMessage);
+    connect(&session_, &TestSession::stopRequested, this, [this] {
+        tests_->setStopping();
+        stopAction_->setEnabled(false);
+        log(hostText("LOG_STOP_PRESSED"));
+    });
+    connect(&session_, &TestSession::eventRaised, this, [this](int bit) { log(hostText("LOG_EVENT_SIMULATED").arg(bit)); });
+    connect(&session_, &TestSession::volumesUnprotected, this,
+            [this](const QString &reason) { log(hostText("LOG_VOLUMES_UNPROTECTED").arg(reason)); });
+    connect(&session_, &TestSession::runEnded, this, &MainWindow::showEnded);
+}
+
+void MainWindow::choose(qsizetype test, qsizetype device)
+{
+    tests_->choose(test);
+    devices_->choose(device);
+}
+
+void MainWindow::log(const QString &line)
+{
+    log_->appendPlainText(QStringLiteral("%1  %2").arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), line));
+}
+
+void MainWindow::changeLanguage(const QString &code)
+{
+    if (!language_.change(code)) {
+        log(hostText("LOG_LANGUAGE_NOT_SAVED").arg(QDir::toNativeSeparators(language_.folder())));
+        retranslate();
+        return;
+    }
+    installTranslators(code);
+    log(hostText("LOG_LANGUAGE_CHANGED").arg(LanguageSetting::nativeName(code)));
+    session_.refresh();
+}
+
+void MainWindow::runChosen() { session_.run(tests_->chosen(), devices_->chosen(), language_.code()); }
+
+void MainWindow::showDevices(bool isComplete)
+{
+    const QList<Device> &devices = session_.deviceList().devices();
+    const QString before = hasDevices_ ? devices_->chosenName() : QString();
+    devices_->setDevices(devices);
+    hasDevices_ = true;
+    devicesText_->setText(devices.isEmpty() ? hostText("NO_DEVICES") : hostText("DEVICES_FOUND").arg(devices.size()));
+    log(hostText("DEVICES_FOUND").arg(devices.size()));
+    if (!isComplete)
+        log(hostText("LOG_LIST_INCOMPLETE"));
+    if (!before.isEmpty() && devices_->chosen() < 0)
+        log(hostText("LOG_DEVICE_GONE").arg(before));
+    tests_->setCanRun(devices_->chosen() >= 0);
+}
+
+void MainWindow::showStarted(const RunRecord &record)
+{
+    setRunning(true);
+    log(hostText("LOG_RUN_STARTED").arg(shownText(record.testNameKey), record.device.name));
+}
+
+void MainWindow::showEnded(const RunRecord &record)
+{
+    setRunning(false);
+    result_->showRun(record);
+    history_->add(record);
+    log(hostText("LOG_RUN_ENDED").arg(shownText(record.testNameKey), record.device.name, verdictText(record)));
+    if (!record.restoredVolumes.isEmpty())
+        log(hostText("LOG_VOLUMES_PUT_BACK").arg(record.restoredVolumes.join(QStringLiteral(", "))));
+    if (exitCode_)
+        QCoreApplication::exit(*exitCode_);
+}
+
+void MainWindow::logProgress(std::uint32_t percent, const QString &text)
+{
+    const QString shown = shownText(text);
+    const QString line = hostText("LOG_PROGRESS").arg(percent);
+    log(shown.isEmpty() ? line : QStringLiteral("%1 – %2").arg(line, shown));
+}
+
+void MainWindow::logMessage(const QString &text, std::uint32_t level)
+{
+    const QString kind = hostText(level == ostra::message_level::error ? "LEVEL_ERROR" : "LEVEL_NOTE");
+    const QStringList sentences = shownSentences(text);
+    for (const QString &sentence : sentences)
+        log(QStringLiteral("%1: %2").arg(kind, sentence));
+}
+
+void MainWindow::setRunning(bool isRunning)
+{
+    if (isRunning)
+        result_->showRunning();
+    tests_->setRunning(isRunning);
+    devices_->setEnabled(!isRunning);
+    refresh_->setEnabled(!isRunning);
+    refreshAction_->setEnabled(!isRunning);
+    runAction_->setEnabled(!isRunning);
+    stopAction_->setEnabled(isRunning);
+    languages_->setEnabled(!isRunning && language_.canChange());
+    if (eventMenu_ != nullptr)
+        eventMenu_->setEnabled(isRunning);
+}
+
+// An interruption outranks the verdict of the run that it ended, and a verdict the window's close button.
+void MainWindow::quit(int exitCode)
+{
+    exitCode_ = std::max(exitCode_.value_or(0), exitCode);
+    if (session_.isRunning())
+        session_.stop();
+    else
+        QCoreApplication::exit(*exitCode_);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(!session_.isRunning());
+    if (session_.isRunning())
+        log(hostText("PROGRAM_IS_CLOSING"));
+    quit(0);
+}
+
+void MainWindow::showAbout()
+{
+    const QString versions = hostText("ABOUT_VERSIONS").arg(moduleVersion_, QCoreApplication::applicationVersion());
+    QMessageBox::about(this, hostText("ABOUT"), QStringLiteral("%1\n\n%2").arg(windowTitle(), versions));
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QMainWindow::changeEvent(event);
+}
+
+} // namespace host

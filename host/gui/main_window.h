@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/core/language_setting.h"
+#include "host/gui/test_session.h"
+
+#include <QMainWindow>
+
+class QAction;
+class QActionGroup;
+class QGroupBox;
+class QLabel;
+class QMenu;
+class QPlainTextEdit;
+class QPushButton;
+class QTabWidget;
+
+namespace host {
+
+class DeviceTable;
+class HistoryTable;
+class ResultPanel;
+class RunPanel;
+
+/// The program's one window. Shows the session and works it; owns neither.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// `versions` is what the box about the program says; `hasEvents` adds the developers' menu.
+    MainWindow(TestSession &session, LanguageSetting &language, QString moduleVersion, bool hasEvents);
+
+    /// Chooses a device and a test by position.
+    void choose(qsizetype test, qsizetype device);
+    /// Adds a line to the log, with the time.
+    void log(const QString &line);
+    /// Writes the language, translates everything and lists the devices anew: the module reads it only then.
+    void changeLanguage(const QString &code);
+    /// Ends the program, after the run when one is under way.
+    void quit(int exitCode);
+
+signals:
+    void stopPressed();
+    void eventChosen(int bit);
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void makeMenus(bool hasEvents);
+    void makeLanguageMenu();
+    void layOut();
+    void connectSession();
+    void runChosen();
+    void showDevices(bool isComplete);
+    void showStarted(const RunRecord &record);
+    void showEnded(const RunRecord &record);
+    void logProgress(std::uint32_t percent, const QString &text);
+    void logMessage(const QString &text, std::uint32_t level);
+    void setRunning(bool isRunning);
+    void showAbout();
+    void retranslate();
+    void retranslateMenus();
+    void assignMnemonics();
+
+    TestSession &session_;
+    LanguageSetting &language_;
+    QString moduleVersion_;
+    QGroupBox *devicesBox_;
+    DeviceTable *devices_;
+    QLabel *devicesText_;
+    QPushButton *refresh_;
+    RunPanel *tests_;
+    QGroupBox *resultBox_;
+    ResultPanel *result_;
+    QTabWidget *tabs_;
+    QPlainTextEdit *log_;
+    HistoryTable *history_;
+    QMenu *fileMenu_ = nullptr;
+    QMenu *testMenu_ = nullptr;
+    QMenu *languageMenu_ = nullptr;
+    QMenu *eventMenu_ = nullptr;
+    QMenu *helpMenu_ = nullptr;
+    QAction *refreshAction_ = nullptr;
+    QAction *quitAction_ = nullptr;
+    QAction *runAction_ = nullptr;
+    QAction *stopAction_ = nullptr;
+    QAction *aboutAction_ = nullptr;
+    QActionGroup *languages_ = nullptr;
+    std::optional<int> exitCode_; // asked for during a run
+    bool hasDevices_ = false;
+};
+
+} // namespace host

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/gui/device_table.h"
+#include "host/gui/event_menu.h"
+#include "host/gui/history_table.h"
+#include "host/gui/key_text.h"
+#include "host/gui/main_window.h"
+#include "host/gui/mnemonics.h"
+#include "host/gui/result_panel.h"
+#include "host/gui/run_keys.h"
+#include "host/gui/run_panel.h"
+
+#include <QActionGroup>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+
+namespace host {
+
+void MainWindow::retranslate()
+{
+    setWindowTitle(shownText(QStringLiteral("APPLICATION_NAME")));
+    devicesBox_->setTitle(hostText("DEVICES"));
+    devices_->retranslate();
+    const auto count = session_.deviceList().devices().size();
+    devicesText_->setText(count == 0 ? hostText("NO_DEVICES") : hostText("DEVICES_FOUND").arg(count));
+    refresh_->setAccessibleName(hostText("REFRESH_DEVICES"));
+    refresh_->setToolTip(hostText("REFRESH_DEVICES_HINT"));
+    tests_->retranslate();
+    resultBox_->setTitle(hostText("RESULT"));
+    result_->retranslate();
+    tabs_->setTabText(0, hostText("LOG"));
+    tabs_->setTabText(1, hostText("HISTORY"));
+    tabs_->setAccessibleName(hostText("LOG"));
+    log_->setAccessibleName(hostText("LOG"));
+    history_->retranslate();
+    retranslateMenus();
+    assignMnemonics();
+}
+
+void MainWindow::retranslateMenus()
+{
+    const QStringList file = withMnemonics({hostText("REFRESH_DEVICES"), hostText("QUIT")});
+    refreshAction_->setText(file[0]);
+    quitAction_->setText(file[1]);
+    const QStringList test = withMnemonics({hostText("RUN_TEST"), hostText("STOP_TEST")});
+    runAction_->setText(test[0]);
+    stopAction_->setText(QStringLiteral("%1\t%2").arg(test[1], RunKeys::stopKeys()));
+    aboutAction_->setText(withMnemonics({hostText("ABOUT")}).first());
+    for (QAction *entry : languages_->actions()) {
+        entry->setChecked(entry->data().toString() == language_.code());
+        entry->setToolTip(language_.canChange() ? QString() : hostText("LANGUAGE_IS_FIXED"));
+    }
+    if (eventMenu_ != nullptr)
+        retranslateEventMenu(*eventMenu_);
+}
+
+// The menus and the buttons share the letters of the window.
+void MainWindow::assignMnemonics()
+{
+    const QStringList texts =
+        withMnemonics({hostText("MENU_FILE"), hostText("MENU_TEST"), hostText("MENU_LANGUAGE"), hostText("MENU_HELP"),
+                       hostText("REFRESH_DEVICES"), hostText("RUN_TEST"), hostText("STOP_TEST"), hostText("MENU_DEVELOPER")});
+    fileMenu_->setTitle(texts[0]);
+    testMenu_->setTitle(texts[1]);
+    languageMenu_->setTitle(texts[2]);
+    helpMenu_->setTitle(texts[3]);
+    refresh_->setText(texts[4]);
+    tests_->runButton()->setText(texts[5]);
+    tests_->stopButton()->setText(texts[6]);
+    if (eventMenu_ != nullptr)
+        eventMenu_->setTitle(texts[7]);
+}
+
+} // namespace host

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/gui/test_session.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <variant>
+
+namespace host {
+
+/// What the command line asks for. Paths are absolute: the program's current folder changes.
+struct Options {
+    bool isHelp = false;
+    bool isVersion = false;
+    bool isUnattended = false;
+    bool isDeveloper = false;
+    QString test; ///< letter
+    QString device;
+    QString source;
+    QString reportFile;
+    QString language;
+    QString screenshotsFolder;
+    QString configFolder;
+    int mistypedSequences = 0;
+    RunSchedule schedule;
+};
+
+struct OptionsError {
+    QString message; ///< one line
+};
+
+/// `arguments` begin with the program's name. Needs no application object.
+std::variant<Options, OptionsError> readOptions(const QStringList &arguments);
+
+/// What --help prints.
+QString optionsHelp();
+
+} // namespace host

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/gui/program.h"
+
+#include "host/core/language_setting.h"
+#include "host/core/module_library.h"
+#include "host/gui/console_output.h"
+#include "host/gui/device_watcher.h"
+#include "host/gui/dialog_prompter.h"
+#include "host/gui/interrupt_watcher.h"
+#include "host/gui/key_text.h"
+#include "host/gui/main_window.h"
+#include "host/gui/run_bar.h"
+#include "host/gui/run_keys.h"
+#include "host/gui/unattended_run.h"
+#include "host/translations/translators.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QTimer>
+
+namespace host {
+
+namespace {
+
+constexpr int noModuleExitCode = 6;
+constexpr int usageExitCode = 2;
+
+bool settleLanguage(const Options &options, LanguageSetting &language)
+{
+    bool isSettled = options.configFolder.isEmpty() ? language.useOwnFolder() : language.useForeignFolder(options.configFolder);
+    if (!options.language.isEmpty())
+        isSettled = language.change(options.language) && isSettled;
+    installTranslators(language.code());
+    return isSettled;
+}
+
+int refuseWithoutModule(const Options &options, const ModuleLibrary &library)
+{
+    complain(library.errorText());
+    if (!options.isUnattended)
+        QMessageBox::critical(nullptr, shownText(QStringLiteral("APPLICATION_NAME")),
+                              hostText("MODULE_CANNOT_BE_USED") + QStringLiteral("\n\n") + library.errorText());
+    return noModuleExitCode;
+}
+
+void connectRun(TestSession &session, MainWindow &window, RunBar &bar, RunKeys &keys)
+{
+    QObject::connect(&window, &MainWindow::stopPressed, &session, &TestSession::stop);
+    QObject::connect(&bar, &RunBar::stopPressed, &session, &TestSession::stop);
+    QObject::connect(&keys, &RunKeys::stopPressed, &session, &TestSession::stop);
+    QObject::connect(&window, &MainWindow::eventChosen, &session, &TestSession::raiseEvent);
+    QObject::connect(&bar, &RunBar::eventChosen, &session, &TestSession::raiseEvent);
+    QObject::connect(&keys, &RunKeys::eventPressed, &session, &TestSession::raiseEvent);
+    const auto setRunning = [&bar, &keys](bool isRunning) {
+        keys.setRunning(isRunning);
+        bar.setRunning(isRunning);
+    };
+    QObject::connect(&session, &TestSession::runStarted, &bar, [setRunning] { setRunning(true); });
+    QObject::connect(&session, &TestSession::runEnded, &bar, [setRunning] { setRunning(false); });
+    QObject::connect(&session, &TestSession::stopRequested, &bar, &RunBar::setStopping);
+}
+
+/// All that lives as long as the module does. The order is that of dependence.
+class GuiProgram {
+public:
+    GuiProgram(const Options &options, ModuleLibrary &library, LanguageSetting &language)
+        : options_(options), language_(language), session_(*library.module(), prompter_, LanguageSetting::defaultFolder()),
+          window_(session_, language, library.productVersion(), options.isDeveloper), bar_(&window_, options.isDeveloper),
+          keys_(options.isDeveloper)
+    {
+        session_.setSchedule(options.schedule);
+        prompter_.setParents(&window_, &keys_);
+        QCoreApplication::instance()->installEventFilter(&keys_);
+        connectRun(session_, window_, bar_, keys_);
+        QObject::connect(&watcher_, &DeviceWatcher::devicesChanged, &session_, &TestSession::refreshWhenQuiet);
+        QObject::connect(&interrupts_, &InterruptWatcher::interrupted, &window_, &MainWindow::quit);
+    }
+
+    int run(bool isLanguageSettled)
+    {
+        if (!isLanguageSettled)
+            window_.log(hostText("LOG_LANGUAGE_NOT_SAVED").arg(QDir::toNativeSeparators(LanguageSetting::defaultFolder())));
+        const QStringList restored = session_.restoreLeftovers();
+        if (!restored.isEmpty())
+            window_.log(hostText("LOG_VOLUMES_RESTORED").arg(restored.join(QStringLiteral(", "))));
+        window_.show();
+        QTimer::singleShot(0, &window_, [this] { begin(); });
+        return QCoreApplication::exec();
+    }
+
+private:
+    void begin()
+    {
+        session_.refresh();
+        if (!options_.isUnattended)
+            return;
+        UnattendedRun unattended(session_, options_, language_.code());
+        QString problem;
+        if (!unattended.prepare(problem)) {
+            complain(problem);
+            window_.quit(usageExitCode);
+            return;
+        }
+        window_.choose(unattended.test(), unattended.device());
+        window_.quit(unattended.run());
+    }
+
+    Options options_;
+    LanguageSetting &language_;
+    DialogPrompter prompter_;
+    TestSession session_;
+    MainWindow window_;
+    RunBar bar_;
+    RunKeys keys_;
+    DeviceWatcher watcher_;
+    InterruptWatcher interrupts_;
+};
+
+} // namespace
+
+int runGuiProgram(const Options &options)
+{
+    QApplication::setQuitOnLastWindowClosed(false); // the end of a test's dialog must not end the program
+    LanguageSetting language;
+    const bool isLanguageSettled = settleLanguage(options, language);
+    ModuleLibrary library;
+    if (!library.open())
+        return refuseWithoutModule(options, library);
+    GuiProgram program(options, library, language);
+    return program.run(isLanguageSettled);
+}
+
+} // namespace host

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/core/catalogue.h"
+#include "host/core/device_list.h"
+#include "host/core/run_record.h"
+#include "host/guardian/guardian_client.h"
+
+#include <QList>
+#include <QObject>
+#include <QPair>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace ostra {
+class ModuleInterface;
+class SystemComponent;
+class Test;
+} // namespace ostra
+
+namespace host {
+
+class Prompter;
+class RunContext;
+
+/// One test as the windows offer it.
+struct OfferedTest {
+    ostra::EntityId id;
+    QString letter; ///< such as "p"
+    QString nameKey;
+    QString descriptionKey;
+};
+
+/// What shall happen by itself during each run, counted from its start.
+struct RunSchedule {
+    QList<QPair<int, std::chrono::milliseconds>> events; ///< bit and moment
+    std::optional<std::chrono::milliseconds> stopAfter;
+};
+
+/// The module's devices and tests, and the runs since the start. One run at a time, on the GUI thread, where all of it lives:
+/// `run` returns when the test is over, and meanwhile the loops of the test's dialogs keep the program alive.
+class TestSession : public QObject {
+    Q_OBJECT
+
+public:
+    /// Quiet time after which a change of the machine's devices is read: plugging one in makes several.
+    static constexpr std::chrono::milliseconds quietTime{1000};
+
+    /// `module` and `prompter` must outlive the session. `stateFolder` holds the note of the volumes.
+    TestSession(ostra::ModuleInterface &module, Prompter &prompter, const QString &stateFolder, QObject *parent = nullptr);
+    ~TestSession() override;
+
+    const QList<OfferedTest> &tests() const noexcept { return tests_; }
+    /// Position of the test of that letter; -1 when there is none.
+    qsizetype findTest(const QString &letter) const;
+
+    const DeviceList &deviceList() const noexcept { return devices_; }
+    /// Lists the devices anew, after the end of the run when one is under way: its device must stay.
+    void refresh();
+    /// The same once nothing has called this for `quietTime`.
+    void refreshWhenQuiet();
+
+    bool isRunning() const noexcept { return context_ != nullptr; }
+    /// Runs a test on a device, both by position, and returns what happened. `language` goes into the record; `finish` may add
+    /// to it before anybody sees it. Nothing while a run is under way or for a position that does not exist.
+    std::optional<RunRecord> run(qsizetype test, qsizetype device, const QString &language,
+                                 const std::function<void(RunRecord &)> &finish = {});
+    /// Ends the run under way as soon as the test asks.
+    void stop();
+    /// Raises one event bit in the run under way.
+    void raiseEvent(int bit);
+
+    void setSchedule(const RunSchedule &schedule) { schedule_ = schedule; }
+    const QList<RunRecord> &history() const noexcept { return history_; }
+
+    /// Puts back what an interrupted run of an earlier process left behind.
+    QStringList restoreLeftovers() { return guardian_.restoreLeftovers(); }
+
+signals:
+    void devicesAboutToBeRead();
+    /// False: memory ran out, the list has the devices read before.
+    void devicesRead(bool isComplete);
+    void runStarted(const host::RunRecord &record);
+    void progressed(std::uint32_t percent, const QString &text);
+    void messageAdded(const QString &text, std::uint32_t level);
+    void stopRequested();
+    void eventRaised(int bit);
+    /// The volumes are raised without anybody who would restore them after a crash.
+    void volumesUnprotected(const QString &reason);
+    void runEnded(const host::RunRecord &record);
+
+private:
+    ostra::SystemComponent *componentAt(qsizetype device) const;
+    ostra::Test *testAt(qsizetype test) const;
+    RunRecord begin(qsizetype test, qsizetype device, const QString &language) const;
+    std::uint32_t perform(ostra::Test &test, RunContext &context);
+    void schedule(RunContext &context);
+    void end(const RunRecord &record);
+
+    ostra::ModuleInterface &module_;
+    Prompter &prompter_;
+    GuardianClient guardian_;
+    QList<OfferedTest> tests_;
+    DeviceList devices_;
+    QTimer quiet_;
+    RunSchedule schedule_;
+    RunContext *context_ = nullptr; // of the run under way
+    bool isRefreshDue_ = false;
+    QList<RunRecord> history_;
+};
+
+} // namespace host
