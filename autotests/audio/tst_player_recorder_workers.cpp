@@ -127,6 +127,7 @@ private slots:
     void letNoExceptionOfAReceiverOut();
     void recorderOutlivesTheSlotsOtherOwner();
     void openAndCloseOnTheirOwnThread();
+    void giveBackWhatTheLibraryKeepsForTheirThread();
     void aDeadPageIsNotReported();
     void abandonedWorkersKeepTheLibraryRunning();
     void endedWorkersAreNoLongerCounted();
@@ -426,6 +427,27 @@ void TestPlayerRecorderWorkers::openAndCloseOnTheirOwnThread()
     QCOMPARE(uses.back().first, std::string("close 2"));
     for (const auto &[call, user] : uses)
         QVERIFY2(user == workerThread, call.c_str());
+}
+
+void TestPlayerRecorderWorkers::giveBackWhatTheLibraryKeepsForTheirThread()
+{
+    static int cleanUps;
+    static int closedBefore;
+    static FakeSdl *fake;
+    cleanUps = 0;
+    fake = fake_.get();
+    sdl().cleanUpThread = [] {
+        ++cleanUps;
+        closedBefore = fake->count("close");
+    };
+    {
+        PlayerHelper unused(makeRecording(), clearedFlag(), speakers);
+        RecorderHelper worker(std::make_shared<RecordingSlot>(), clearedFlag(), microphone, 0);
+        worker.RecordAudio();
+        worker.RecordAudio();
+    }
+    QCOMPARE(cleanUps, 1);
+    QCOMPARE(closedBefore, 1); // closing may leave an error message with the thread
 }
 
 void TestPlayerRecorderWorkers::aDeadPageIsNotReported()
