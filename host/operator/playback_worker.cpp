@@ -38,13 +38,16 @@ constexpr qint64 longestLatencyMs = 2'000;
 
 } // namespace
 
-PlaybackWorker::PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences)
+PlaybackWorker::PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences,
+                               qint64 listenFromMs)
     : dialog_(dialog), log_(log), photographer_(photographer), mistypedSequences_(mistypedSequences),
-      stepStartMs_(steadyNowMs()), listenFromMs_(stepStartMs_)
+      stepStartMs_(steadyNowMs()), listenFromMs_(listenFromMs)
 {
     dialog->installEventFilter(this);
-    if (QWidget *third = find(thirdTyped))
-        third->installEventFilter(this);
+    for (const char *name : {thirdTyped, secondMessage}) {
+        if (QWidget *widget = find(name))
+            widget->installEventFilter(this);
+    }
     photographer_.take(dialog, QStringLiteral("playback-shown"));
 }
 
@@ -106,7 +109,7 @@ void PlaybackWorker::beginSecondSequence()
 {
     sequence_ = 2;
     hasRepeated_ = false;
-    listenFromMs_ = steadyNowMs();
+    listenFromMs_ = secondShownMs_ > 0 ? secondShownMs_ : steadyNowMs();
     enter(Step::waiting);
 }
 
@@ -283,14 +286,22 @@ void PlaybackWorker::noteMovie()
 // timer would see it a second too late.
 bool PlaybackWorker::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == dialog_ && event->type() == QEvent::ChildAdded) {
+    if (dialog_ && watched == dialog_ && event->type() == QEvent::ChildAdded)
         newestChild_ = {steadyNowMs(), static_cast<QChildEvent *>(event)->child()};
-    } else if (watched == dialog_ && event->type() == QEvent::Hide) {
+    else if (dialog_ && watched == dialog_ && event->type() == QEvent::Hide)
         photographer_.take(dialog_, QStringLiteral("end"));
-    } else if (watched != dialog_ && event->type() == QEvent::Show && dialog_) {
-        photographer_.take(dialog_, QStringLiteral("sequence-%1-typed").arg(sequence_));
-    }
+    else if (dialog_ && watched != dialog_ && event->type() == QEvent::Show)
+        noteShown(watched);
     return QObject::eventFilter(watched, event);
+}
+
+// Noted at once: the next look may come after the second sequence has begun.
+void PlaybackWorker::noteShown(const QObject *widget)
+{
+    if (widget->objectName() == QLatin1String(secondMessage))
+        secondShownMs_ = steadyNowMs();
+    else
+        photographer_.take(dialog_, QStringLiteral("sequence-%1-typed").arg(sequence_));
 }
 
 } // namespace host

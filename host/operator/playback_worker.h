@@ -22,7 +22,9 @@ class PlaybackWorker : public QObject {
 
 public:
     /// \param mistypedSequences that many sequences get one wrong digit
-    PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences);
+    /// \param listenFromMs what began before does not count
+    PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences,
+                   qint64 listenFromMs);
 
     /// Does what is due. \param isListenerLost closes the dialog instead
     void advance(bool isListenerLost);
@@ -63,6 +65,7 @@ private:
     double latencyOf(qint64 startMs) const;
 
     void noteMovie();
+    void noteShown(const QObject *widget);
 
     struct Child {
         qint64 bornMs;
@@ -78,6 +81,7 @@ private:
     qint64 stepStartMs_ = 0;
     int sequence_ = 1;
     qint64 listenFromMs_ = 0;
+    qint64 secondShownMs_ = 0;
     qint64 playEndMs_ = 0;
     bool hasRepeated_ = false;
     QList<int> answer_;

@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -22,6 +23,8 @@ namespace {
 constexpr std::chrono::milliseconds lookInterval{60};
 /// A press is repeated when the prompt is still there after that long.
 constexpr qint64 pressAgainMs = 2'000;
+/// On a slow start a dialog's first digit may hold the thread before the dialog is seen.
+constexpr qint64 unseenMs = 3'000;
 
 // The listener wants the folder above the language's.
 QString clipsRoot(const OperatorSettings &settings)
@@ -97,7 +100,9 @@ void TestOperator::Private::workPlayback(QWidget *dialog)
 {
     if (playback == nullptr || !playback->works(dialog)) {
         finishPlayback();
-        playback = std::make_unique<PlaybackWorker>(dialog, listener.log(), photographer, settings.mistypedSequences);
+        const qint64 listenFromMs = std::max(runBeganMs, steadyNowMs() - unseenMs);
+        playback =
+            std::make_unique<PlaybackWorker>(dialog, listener.log(), photographer, settings.mistypedSequences, listenFromMs);
     }
     playback->advance(listener.isLost());
 }

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/reports/run_limits.h"
+
+namespace host {
+
+namespace {
+
+QStringList limitsOfMonitor()
+{
+    return {QStringLiteral(
+                "A monitor hears what the sound server passes on: this run proves the digital path up to the sound server, "
+                "not the amplifier, the cable or the loudspeaker."),
+            QStringLiteral("The levels are those of the digital signal, not of a sound.")};
+}
+
+QStringList limitsOfMicrophone()
+{
+    return {
+        QStringLiteral(
+            "A microphone hears the room: a digit that was not recognised may be the fault of the microphone, of its "
+            "place or of noise, and what was recognised may have come from another loudspeaker."),
+        QStringLiteral("The levels depend on the microphone and its distance: they do not measure how loud the device is.")};
+}
+
+QStringList limitsOfListening(const RunRecord &record)
+{
+    QStringList limits = isMonitor(record.listenedTo) ? limitsOfMonitor() : limitsOfMicrophone();
+    limits.append(QStringLiteral("Digits were compared below 4 kHz: what the device does to higher tones is not known."));
+    limits.append(
+        QStringLiteral("A latency reaches from the dialog's display to the capture: it includes opening the device and "
+                       "the capture's own delay."));
+    return limits;
+}
+
+QStringList limitsOfPlayback(const RunRecord &record)
+{
+    QStringList limits = record.isUnattended
+                             ? limitsOfListening(record)
+                             : QStringList{QStringLiteral("A person said what was heard: nothing was measured.")};
+    limits.append(QStringLiteral("One device was tested: the machine's other outputs were not."));
+    limits.append(QStringLiteral("Only the first second of each clip was played."));
+    limits.append(QStringLiteral("The device was tested at full volume only."));
+    limits.append(QStringLiteral("All channels play the same speech: a silent or swapped channel can go unnoticed."));
+    return limits;
+}
+
+QStringList limitsOfMicrophoneTest(const RunRecord &record)
+{
+    QStringList limits{QStringLiteral("One microphone was tested: the machine's other inputs were not."),
+                       QStringLiteral("A recording that sounds wrong can be the fault of the device that plays it.")};
+    if (!record.isUnattended)
+        limits.append(QStringLiteral("A person compared the sounds: nothing was measured."));
+    return limits;
+}
+
+} // namespace
+
+bool isMonitor(const QString &source)
+{
+    return source.startsWith(QStringLiteral("Monitor of ")) || source.endsWith(QStringLiteral(".monitor"));
+}
+
+QStringList runLimits(const RunRecord &record)
+{
+    QStringList limits = record.testLetter == QLatin1String("m") ? limitsOfMicrophoneTest(record) : limitsOfPlayback(record);
+    if (record.wasStopped)
+        limits.append(QStringLiteral("The run was stopped: it says nothing about the device."));
+    return limits;
+}
+
+} // namespace host
