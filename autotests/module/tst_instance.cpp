@@ -106,8 +106,10 @@ private slots:
     void startsWithoutComponents();
     void tearsDownInOrderAndReadsEveryCountAnew();
     void toleratesMissingObjectsAtTearDown();
-    void testsAnswerThatTheyCannotBePerformedYet_data();
-    void testsAnswerThatTheyCannotBePerformedYet();
+    void bothTestsAnswerTheirFlags_data();
+    void bothTestsAnswerTheirFlags();
+    void thePlaybackTestWantsACompleteContext();
+    void theMicrophoneTestAnswersThatItCannotBePerformedYet();
     void productVersionIsConstant();
 };
 
@@ -295,26 +297,18 @@ void TestInstance::toleratesMissingObjectsAtTearDown()
     QCOMPARE(destructions, (std::vector<std::string>{"test", "interface"}));
 }
 
-void TestInstance::testsAnswerThatTheyCannotBePerformedYet_data()
+void TestInstance::bothTestsAnswerTheirFlags_data()
 {
     QTest::addColumn<unsigned>("index");
     QTest::newRow("playback") << 0U;
     QTest::newRow("microphone") << 1U;
 }
 
-void TestInstance::testsAnswerThatTheyCannotBePerformedYet()
+void TestInstance::bothTestsAnswerTheirFlags()
 {
     QFETCH(unsigned, index);
     const FakeSdl fake;
     Test *test = GetModuleInterfaceInstance()->diagnosticAt(0)->testAt(index);
-    const std::string key = "THIS_TEST_CANNOT_BE_PERFORMED_BECAUSE_THE_DEVICE_COULD_NOT_BE_IDENTIFIED_OR_HAS_BEEN_DISCONNECTED";
-    FakeContext context;
-    QCOMPARE(test->run(&context), 3U);
-    QCOMPARE(context.calls, (std::vector<std::string>{"report 100 " + key, "message " + key + " 0 0"}));
-    FakeContext bare;
-    bare.hasServices = false;
-    QCOMPARE(test->run(&bare), 3U);
-    QCOMPARE(test->run(nullptr), 3U);
     QVERIFY(!test->isSupported(nullptr));
     QVERIFY(test->firstFlag());
     QVERIFY(!test->secondFlag());
@@ -323,6 +317,35 @@ void TestInstance::testsAnswerThatTheyCannotBePerformedYet()
     QVERIFY(test->firstList().empty());
     QVERIFY(test->secondList().empty());
     QVERIFY(test->configure({{1, "x"}}, 2));
+    ReleaseModuleInterfaceInstance();
+}
+
+void TestInstance::thePlaybackTestWantsACompleteContext()
+{
+    const FakeSdl fake;
+    Test *test = GetModuleInterfaceInstance()->diagnosticAt(0)->testAt(0);
+    FakeContext withoutComponent;
+    QCOMPARE(test->run(&withoutComponent), 6U);
+    QCOMPARE(withoutComponent.calls, std::vector<std::string>{});
+    FakeContext bare;
+    bare.hasServices = false;
+    QCOMPARE(test->run(&bare), 6U);
+    QCOMPARE(test->run(nullptr), 6U);
+    ReleaseModuleInterfaceInstance();
+}
+
+void TestInstance::theMicrophoneTestAnswersThatItCannotBePerformedYet()
+{
+    const FakeSdl fake;
+    Test *test = GetModuleInterfaceInstance()->diagnosticAt(0)->testAt(1);
+    const std::string key = "THIS_TEST_CANNOT_BE_PERFORMED_BECAUSE_THE_DEVICE_COULD_NOT_BE_IDENTIFIED_OR_HAS_BEEN_DISCONNECTED";
+    FakeContext context;
+    QCOMPARE(test->run(&context), 3U);
+    QCOMPARE(context.calls, (std::vector<std::string>{"report 100 " + key, "message " + key + " 0 0"}));
+    FakeContext bare;
+    bare.hasServices = false;
+    QCOMPARE(test->run(&bare), 3U);
+    QCOMPARE(test->run(nullptr), 3U);
     ReleaseModuleInterfaceInstance();
 }
 

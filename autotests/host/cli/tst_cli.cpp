@@ -113,6 +113,7 @@ private slots:
     void refusesWrongUsage();
     void listsDevicesAsOneJsonDocument();
     void listsDevicesAsATable();
+    void needsNoDisplay();
     void readsTheConfigurationOfTheNamedFolder();
     void informsAsText();
     void informsAsJson();
@@ -244,6 +245,19 @@ void TestCli::listsDevicesAsATable()
         names.append(line.left(column - (hasWideCharacter ? 1 : 0)).mid(2).trimmed());
     }
     QCOMPARE(ofTheCard(names), cardDevices);
+}
+
+// The module has dialogs, but a window system that cannot be had is none of this program's business.
+void TestCli::needsNoDisplay()
+{
+    QProcessEnvironment environment = cliEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("none-such"));
+    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    environment.remove(QStringLiteral("DISPLAY"));
+    const CliRun run = runCli({QStringLiteral("list"), QStringLiteral("--json")}, environment);
+    QCOMPARE(run.errors, QByteArray());
+    QCOMPARE(run.code, 0);
+    QVERIFY(!parsed(run.output).isEmpty());
 }
 
 void TestCli::readsTheConfigurationOfTheNamedFolder()
