@@ -27,6 +27,7 @@ DeviceTable::DeviceTable(QWidget *parent) : QTableWidget(0, 1 + static_cast<int>
     setTabKeyNavigation(false); // Tab leaves the table, the arrows walk in it
     setWordWrap(false);
     verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);

@@ -25,6 +25,7 @@ HistoryTable::HistoryTable(QWidget *parent) : QTableWidget(0, historyColumnCount
     setTabKeyNavigation(false);
     setWordWrap(false);
     verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setStretchLastSection(true);

@@ -36,7 +36,7 @@ namespace {
 
 // In letters and lines of the window's font, so that the window has one shape at every resolution.
 constexpr int widthInLetters = 150;
-constexpr int heightInLines = 40;
+constexpr int heightInLines = 50;
 constexpr int logLineLimit = 5000;
 
 QSize startSize(const QWidget &window)

@@ -64,7 +64,7 @@ void connectRun(TestSession &session, MainWindow &window, RunBar &bar, RunKeys &
 /// All that lives as long as the module does. The order is that of dependence.
 class GuiProgram {
 public:
-    GuiProgram(const Options &options, ModuleLibrary &library, LanguageSetting &language)
+    GuiProgram(const Options &options, ModuleLibrary &library, LanguageSetting &language, const InterruptWatcher &interrupts)
         : options_(options), language_(language), session_(*library.module(), prompter_, LanguageSetting::defaultFolder()),
           window_(session_, language, library.productVersion(), options.isDeveloper), bar_(&window_, options.isDeveloper),
           keys_(options.isDeveloper)
@@ -74,7 +74,7 @@ public:
         QCoreApplication::instance()->installEventFilter(&keys_);
         connectRun(session_, window_, bar_, keys_);
         QObject::connect(&watcher_, &DeviceWatcher::devicesChanged, &session_, &TestSession::refreshWhenQuiet);
-        QObject::connect(&interrupts_, &InterruptWatcher::interrupted, &window_, &MainWindow::quit);
+        QObject::connect(&interrupts, &InterruptWatcher::interrupted, &window_, &MainWindow::quit);
     }
 
     int run(bool isLanguageSettled)
@@ -114,7 +114,6 @@ private:
     RunBar bar_;
     RunKeys keys_;
     DeviceWatcher watcher_;
-    InterruptWatcher interrupts_;
 };
 
 } // namespace
@@ -122,12 +121,13 @@ private:
 int runGuiProgram(const Options &options)
 {
     QApplication::setQuitOnLastWindowClosed(false); // the end of a test's dialog must not end the program
+    const InterruptWatcher interrupts;              // before anything that takes its time
     LanguageSetting language;
     const bool isLanguageSettled = settleLanguage(options, language);
     ModuleLibrary library;
     if (!library.open())
         return refuseWithoutModule(options, library);
-    GuiProgram program(options, library, language);
+    GuiProgram program(options, library, language, interrupts);
     return program.run(isLanguageSettled);
 }
 

@@ -53,6 +53,9 @@ RunPanel::RunPanel(QList<OfferedTest> tests, QWidget *parent)
 
 void RunPanel::layOut()
 {
+    constexpr int buttonWidthInLetters = 14;
+    for (QPushButton *button : {run_, stop_})
+        button->setMinimumWidth(buttonWidthInLetters * fontMetrics().averageCharWidth());
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(run_);
     buttons->addWidget(stop_);
