@@ -69,7 +69,7 @@ void TestGuardianMessage::findsTheCommand_data()
     QTest::newRow("after a line without end to speak of") << QByteArrayList{QByteArray(100'000, 'x'), "\nfinish\n"} << true;
     QTest::newRow("followed by more") << QByteArrayList{"finish\nmore"} << true;
     QTest::newRow("without the line's end") << QByteArrayList{"finish"} << false;
-    QTest::newRow("as a line's end") << QByteArrayList{"refinish\n"} << false;
+    QTest::newRow("as a line's end") << QByteArrayList{"xfinish\n"} << false;
     QTest::newRow("as a line's beginning") << QByteArrayList{"finished\n"} << false;
     QTest::newRow("another case") << QByteArrayList{"FINISH\n"} << false;
     QTest::newRow("nothing") << QByteArrayList{} << false;
