@@ -80,8 +80,8 @@ QString runSummary(const RunRecord &record)
 {
     const Verdict verdict = verdictOf(record);
     QString text = QStringLiteral("%1 on '%2' (%3): %4, code %5\n")
-                       .arg(record.testNameKey, record.device.name, record.language, verdictWords(verdict))
-                       .arg(codeOf(verdict));
+                       .arg(record.testNameKey, record.device.name, record.language, verdictWords(verdict),
+                            QString::number(codeOf(verdict)));
     if (!record.reason.isEmpty())
         text += QStringLiteral("reason: %1\n").arg(record.reason);
     for (const RunMessage &message : record.messages) {

@@ -32,7 +32,7 @@ QString readable(const QString &text)
 {
     if (!isShapedAsKey(text))
         return text;
-    const QString words = text.toLower().replace(u'_', u' ').trimmed();
+    const QString words = text.toLower().replace(u'_', u' ').simplified();
     return words.left(1).toUpper() + words.mid(1);
 }
 

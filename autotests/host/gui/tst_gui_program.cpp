@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <functional>
+
+namespace {
+
+constexpr int patienceMilliseconds = 60'000;
+
+struct Outcome {
+    int code = -1; ///< -1: did not start, crashed or hung
+    QByteArray output;
+    QByteArray errors;
+};
+
+QString programPath()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../../../bundle/TamrexDiagnostics"));
+}
+
+} // namespace
+
+/// The program itself, from the bundle, with a state folder of its own.
+class TestGuiProgram : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void answersWithoutADisplay_data();
+    void answersWithoutADisplay();
+    void refusesAnUnknownDeviceByNamingTheOthers();
+    void cannotPerformWhatNobodyHears();
+    void writesItsLanguage();
+    void leavesAForeignConfigurationAlone();
+    void endsOnASignal_data();
+    void endsOnASignal();
+
+private:
+    Outcome run(const QStringList &arguments, const std::function<void(QProcess &)> &whileRunning = {});
+    QString ownConfiguration() const { return state_->filePath(QStringLiteral("Tamrex/TamrexDiagnostics/config.ini")); }
+
+    std::unique_ptr<QTemporaryDir> state_;
+};
+
+void TestGuiProgram::init()
+{
+    state_ = std::make_unique<QTemporaryDir>();
+    QVERIFY(state_->isValid());
+}
+
+Outcome TestGuiProgram::run(const QStringList &arguments, const std::function<void(QProcess &)> &whileRunning)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), state_->path());
+    process.setProcessEnvironment(environment);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(programPath(), arguments);
+    if (!process.waitForStarted(patienceMilliseconds))
+        return {};
+    if (whileRunning)
+        whileRunning(process);
+    if (!process.waitForFinished(patienceMilliseconds) || process.exitStatus() != QProcess::NormalExit) {
+        process.kill();
+        process.waitForFinished();
+        return {-1, process.readAllStandardOutput(), process.readAllStandardError() + process.errorString().toUtf8()};
+    }
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+void TestGuiProgram::answersWithoutADisplay_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("output");
+    QTest::addColumn<QByteArray>("errors");
+    QTest::newRow("help") << QStringLiteral("--help") << 0 << QByteArray("Usage: TamrexDiagnostics") << QByteArray();
+    QTest::newRow("version") << QStringLiteral("--version") << 0 << QByteArray("TamrexDiagnostics 5.12.0.92") << QByteArray();
+    QTest::newRow("usage") << QStringLiteral("--nonsense") << 2 << QByteArray()
+                           << QByteArray("TamrexDiagnostics: unknown option 'nonsense' (try --help)");
+    QTest::newRow("language") << QStringLiteral("--language=xx") << 2 << QByteArray()
+                              << QByteArray("TamrexDiagnostics: unknown language 'xx' (known: pt_BR,");
+}
+
+void TestGuiProgram::answersWithoutADisplay()
+{
+    QFETCH(const QString, argument);
+    qputenv("QT_QPA_PLATFORM", "no-such-platform");
+    const Outcome outcome = run({argument});
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTEST(outcome.code, "code");
+    QFETCH(const QByteArray, output);
+    QFETCH(const QByteArray, errors);
+    QVERIFY2(outcome.output.startsWith(output) && outcome.output.isEmpty() == output.isEmpty(), outcome.output.constData());
+    QVERIFY2(outcome.errors.startsWith(errors) && outcome.errors.isEmpty() == errors.isEmpty(), outcome.errors.constData());
+}
+
+void TestGuiProgram::refusesAnUnknownDeviceByNamingTheOthers()
+{
+    const Outcome outcome =
+        run({QStringLiteral("--unattended"), QStringLiteral("--test"), QStringLiteral("p"), QStringLiteral("--device"),
+             QStringLiteral("Nobody"), QStringLiteral("--listen"), QStringLiteral("x")});
+    QCOMPARE(outcome.code, 2);
+    QVERIFY2(outcome.errors.contains("unknown device 'Nobody' (known: "), outcome.errors.constData());
+    QVERIFY2(outcome.errors.contains("'Speakers'"), outcome.errors.constData());
+}
+
+void TestGuiProgram::cannotPerformWhatNobodyHears()
+{
+    const Outcome outcome = run({QStringLiteral("--unattended"), QStringLiteral("--test"), QStringLiteral("p"),
+                                 QStringLiteral("--device"), QStringLiteral("Speakers"), QStringLiteral("--listen"),
+                                 QStringLiteral("nobody"), QStringLiteral("--language"), QStringLiteral("en_US")});
+    QCOMPARE(outcome.code, 3);
+    QVERIFY2(outcome.output.startsWith("AUDIO_PLAYBACK_TEST on 'Speakers' (en_US): cannot be performed, code 3\nreason: "),
+             outcome.output.constData());
+}
+
+void TestGuiProgram::writesItsLanguage()
+{
+    const auto isWritten = [this] { return QFileInfo::exists(ownConfiguration()); };
+    const Outcome outcome = run({QStringLiteral("--language"), QStringLiteral("nl_NL")}, [&](QProcess &process) {
+        QVERIFY(QTest::qWaitFor(isWritten, patienceMilliseconds));
+        process.terminate();
+    });
+    QFile file(ownConfiguration());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("[LANGUAGE]\nDEFAULT_LANGUAGE=nl_NL\n"));
+    QCOMPARE(outcome.code, 143);
+}
+
+void TestGuiProgram::leavesAForeignConfigurationAlone()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("config.ini")));
+    const QByteArray text("[LANGUAGE]\nDEFAULT_LANGUAGE=german\n");
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    file.close();
+    const Outcome outcome = run({QStringLiteral("--unattended"), QStringLiteral("--test"), QStringLiteral("m"),
+                                 QStringLiteral("--device"), QStringLiteral("Speakers"), QStringLiteral("--listen"),
+                                 QStringLiteral("nobody"), QStringLiteral("--config"), folder.path()});
+    QVERIFY2(outcome.output.contains("(de_DE)"), outcome.output.constData());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), text);
+    QVERIFY(!QFileInfo::exists(ownConfiguration()));
+}
+
+void TestGuiProgram::endsOnASignal_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("code");
+    QTest::newRow("Ctrl-C") << SIGINT << 130;
+    QTest::newRow("polite kill") << SIGTERM << 143;
+}
+
+void TestGuiProgram::endsOnASignal()
+{
+    QFETCH(const int, number);
+    const auto isWritten = [this] { return QFileInfo::exists(ownConfiguration()); };
+    const Outcome outcome = run({}, [&](QProcess &process) {
+        QVERIFY(QTest::qWaitFor(isWritten, patienceMilliseconds));
+        ::kill(static_cast<pid_t>(process.processId()), number);
+    });
+    QTEST(outcome.code, "code");
+}
+
+QTEST_GUILESS_MAIN(TestGuiProgram)
+#include "tst_gui_program.moc"

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "autotests/host/gui/fake_module.h"
+#include "host/core/language_setting.h"
+#include "host/gui/dialog_prompter.h"
+#include "host/gui/host_prompts.h"
+#include "host/gui/main_window.h"
+#include "host/translations/translators.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QObject>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+// Texts that are wrapped need the height for the width that they got.
+QSize roomNeeded(const QWidget &widget)
+{
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    if (label != nullptr && label->wordWrap())
+        return {0, label->heightForWidth(label->width())};
+    return widget.sizeHint();
+}
+
+void verifyFits(const QWidget &window)
+{
+    const QRect room = window.screen()->availableGeometry();
+    QVERIFY2(room.contains(window.frameGeometry()), qPrintable(window.objectName()));
+    QList<const QWidget *> widgets;
+    for (const QLabel *label : window.findChildren<QLabel *>())
+        widgets.append(label);
+    for (const QAbstractButton *button : window.findChildren<QAbstractButton *>())
+        widgets.append(button);
+    for (const QWidget *widget : widgets) {
+        if (!widget->isVisible() || widget->objectName().startsWith(QStringLiteral("qt_")) ||
+            !widget->objectName().startsWith(QStringLiteral("host_")))
+            continue;
+        const QSize needed = roomNeeded(*widget);
+        const bool isRoomy = widget->width() >= needed.width() && widget->height() >= needed.height();
+        QVERIFY2(isRoomy, qPrintable(QStringLiteral("%1: %2x%3 of %4x%5")
+                                         .arg(widget->objectName())
+                                         .arg(widget->width())
+                                         .arg(widget->height())
+                                         .arg(needed.width())
+                                         .arg(needed.height())));
+        QVERIFY(widget->window()->rect().contains(QRect(widget->mapTo(widget->window(), QPoint()), widget->size())));
+    }
+}
+
+void expose(QWidget &window)
+{
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
+}
+
+// For a look at it: the folder that this variable names gets the pictures.
+void photograph(QWidget &window, const QString &code)
+{
+    const QString folder = qEnvironmentVariable("HOST_LAYOUT_PICTURES");
+    if (!folder.isEmpty())
+        window.grab().save(QStringLiteral("%1/%2_%3_%4.png").arg(folder, window.objectName(), code).arg(window.logicalDpiX()));
+}
+
+} // namespace
+
+/// One screen and resolution a run, set from outside.
+class TestHostLayout : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void fits_data();
+    void fits();
+
+private:
+    QString before_ = QDir::currentPath();
+};
+
+void TestHostLayout::initTestCase()
+{
+    if (qEnvironmentVariableIsSet("QT_FONT_DPI"))
+        QCOMPARE(QApplication::primaryScreen()->logicalDotsPerInch(), qEnvironmentVariable("QT_FONT_DPI").toDouble());
+}
+
+void TestHostLayout::cleanup() { QVERIFY(QDir::setCurrent(before_)); }
+
+void TestHostLayout::fits_data()
+{
+    QTest::addColumn<QString>("code");
+    const QStringList codes = host::LanguageSetting::codes();
+    for (const QString &code : codes)
+        QTest::addRow("%s", qPrintable(code)) << code;
+}
+
+void TestHostLayout::fits()
+{
+    QFETCH(const QString, code);
+    const QTemporaryDir folder;
+    host::installTranslators(code);
+    host::LanguageSetting language;
+    QVERIFY(language.useOwnFolder(folder.path()) && language.change(code));
+    FakeModule module;
+    module.names = {"Speakers", "A device with quite a long name, such as the second monitor's headphone socket", "HDMI"};
+    module.playback = [](ostra::TestContext &context) {
+        context.reporter()->report(100, "AUDIO_PLAYBACK_TEST_WRONG_SEQUENCE");
+        context.messages()->addMessage("AUDIO_PLAYBACK_TEST_WRONG_SEQUENCE", 2, 0);
+        context.messages()->addMessage("POSSIBLE_DEFECTIVE_COMPONENTS: MICROPHONE, CAMERA_MICROPHONE_MODULE, SPEAKERS", 0, 0);
+        return ostra::result::failed;
+    };
+    host::DialogPrompter prompter;
+    host::TestSession session(module.interface(), prompter, folder.path());
+    host::MainWindow window(session, language, QStringLiteral("4.42.0.92"), true);
+    session.refresh();
+    expose(window);
+    verifyFits(window);
+    session.run(0, 1, code);
+    QCoreApplication::processEvents();
+    verifyFits(window);
+    photograph(window, code);
+    host::InstructionsPrompt instructions(
+        QStringLiteral("AUDIO_PLAYBACK_TEST"), QStringLiteral("AUDIO_PLAYBACK_TEST_INSTRUCTIONS"),
+        {QStringLiteral("Speakers"), QStringLiteral("Headphones"), QStringLiteral("Microphone")}, &window);
+    expose(instructions);
+    verifyFits(instructions);
+    photograph(instructions, code);
+    instructions.hide();
+    host::QuestionPrompt question(QStringLiteral("MICROPHONE_INTERACTIVE_TEST"),
+                                  QStringLiteral("DID_YOU_HEAR_THE_SAME_SOUND_YOU_RECORDED"), &window);
+    expose(question);
+    verifyFits(question);
+    photograph(question, code);
+}
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_ENABLE_HIGHDPI_SCALING", "0"); // as the program does
+    QApplication application(argc, argv);
+    TestHostLayout test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_host_layout.moc"

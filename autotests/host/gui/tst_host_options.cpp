@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/gui/options.h"
+
+#include <QDir>
+#include <QObject>
+#include <QTest>
+
+namespace {
+
+std::variant<host::Options, host::OptionsError> read(const QString &line)
+{
+    return host::readOptions(QStringList{QStringLiteral("TamrexDiagnostics")} + line.split(u' ', Qt::SkipEmptyParts));
+}
+
+} // namespace
+
+class TestHostOptions : public QObject {
+    Q_OBJECT
+
+private slots:
+    void startsThePlainWindowWithoutArguments();
+    void readsAnUnattendedRun();
+    void readsSeveralEvents();
+    void makesPathsAbsolute();
+    void answersHelpBeforeAnythingElse();
+    void refusesWhatItCannotDo_data();
+    void refusesWhatItCannotDo();
+    void explainsEveryOption();
+};
+
+void TestHostOptions::startsThePlainWindowWithoutArguments()
+{
+    const auto read_ = read({});
+    const auto *options = std::get_if<host::Options>(&read_);
+    QVERIFY(options != nullptr);
+    QVERIFY(!options->isUnattended && !options->isDeveloper && !options->isHelp);
+    QVERIFY(options->schedule.events.isEmpty() && !options->schedule.stopAfter);
+}
+
+void TestHostOptions::readsAnUnattendedRun()
+{
+    const auto result = read(
+        QStringLiteral("--unattended --test p --device Speakers --listen mic1 --mistype 2 --language de_DE --stop-after 1500"));
+    const auto *options = std::get_if<host::Options>(&result);
+    QVERIFY(options != nullptr);
+    QVERIFY(options->isUnattended);
+    QCOMPARE(options->test, QStringLiteral("p"));
+    QCOMPARE(options->device, QStringLiteral("Speakers"));
+    QCOMPARE(options->source, QStringLiteral("mic1"));
+    QCOMPARE(options->mistypedSequences, 2);
+    QCOMPARE(options->language, QStringLiteral("de_DE"));
+    QCOMPARE(options->schedule.stopAfter, std::chrono::milliseconds(1500));
+}
+
+void TestHostOptions::readsSeveralEvents()
+{
+    const auto result = read(QStringLiteral("--developer --simulate-event 0@10 --simulate-event 31@2000"));
+    const auto *options = std::get_if<host::Options>(&result);
+    QVERIFY(options != nullptr);
+    QVERIFY(options->isDeveloper);
+    const QList<QPair<int, std::chrono::milliseconds>> events{{0, std::chrono::milliseconds(10)},
+                                                              {31, std::chrono::milliseconds(2000)}};
+    QCOMPARE(options->schedule.events, events);
+}
+
+void TestHostOptions::makesPathsAbsolute()
+{
+    const auto result =
+        read(QStringLiteral("--unattended --test m --device 0 --listen x --report r.json --screenshots pictures --config ."));
+    const auto *options = std::get_if<host::Options>(&result);
+    QVERIFY(options != nullptr);
+    QCOMPARE(options->reportFile, QDir::current().absoluteFilePath(QStringLiteral("r.json")));
+    QCOMPARE(options->screenshotsFolder, QDir::current().absoluteFilePath(QStringLiteral("pictures")));
+    QVERIFY(QDir::isAbsolutePath(options->configFolder));
+}
+
+void TestHostOptions::answersHelpBeforeAnythingElse()
+{
+    for (const char *line : {"--help", "-h", "--test q --help", "--unattended --help extra"}) {
+        const auto result = read(QLatin1String(line));
+        const auto *options = std::get_if<host::Options>(&result);
+        QVERIFY2(options != nullptr && options->isHelp, line);
+    }
+}
+
+void TestHostOptions::refusesWhatItCannotDo_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("part");
+    const auto row = [](const char *name, const char *line, const char *part) {
+        QTest::newRow(name) << QString::fromLatin1(line) << QString::fromLatin1(part);
+    };
+    row("unknown option", "--nonsense", "'nonsense'");
+    row("positional", "list", "'list'");
+    row("no test", "--unattended --device 0 --listen x", "--test p");
+    row("unknown test", "--unattended --test q --device 0 --listen x", "'q' (known: p, m)");
+    row("no device", "--unattended --test p --listen x", "--device NAME");
+    row("no source", "--unattended --test p --device 0", "--listen SOURCE");
+    row("test without unattended", "--test p", "'--test' goes with '--unattended' only");
+    row("report without unattended", "--report x", "'--report' goes with");
+    row("mistype without unattended", "--mistype 1", "'--mistype' goes with");
+    row("mistype no number", "--unattended --test p --device 0 --listen x --mistype -1", "not '-1'");
+    row("unknown language", "--language de", "unknown language 'de' (known: pt_BR, en_US");
+    row("language and config", "--language de_DE --config .", "exclude each other");
+    row("no such folder", "--config no/such/folder", "'no/such/folder' is no folder");
+    row("event without moment", "--simulate-event 3", "'3' is no event");
+    row("event bit too high", "--simulate-event 32@1", "'32@1' is no event");
+    row("event of words", "--simulate-event a@b", "'a@b' is no event");
+    row("event with too much", "--simulate-event 1@2@3", "'1@2@3' is no event");
+    row("stop at no number", "--stop-after soon", "not 'soon'");
+    row("stop too late to count", "--stop-after 99999999999", "not '99999999999'");
+    row("missing value", "--language", "missing value");
+}
+
+void TestHostOptions::refusesWhatItCannotDo()
+{
+    QFETCH(const QString, line);
+    QFETCH(const QString, part);
+    const auto result = read(line);
+    const auto *error = std::get_if<host::OptionsError>(&result);
+    QVERIFY(error != nullptr);
+    QVERIFY2(error->message.contains(part), qPrintable(error->message));
+    QVERIFY(error->message.endsWith(QStringLiteral("(try --help)")) || error->message.contains(QStringLiteral("--config")));
+    QVERIFY(!error->message.contains(u'\n'));
+}
+
+void TestHostOptions::explainsEveryOption()
+{
+    const QString help = host::optionsHelp();
+    for (const char *option : {"unattended", "test", "device", "listen", "report", "language", "screenshots", "config",
+                               "mistype", "simulate-event", "stop-after", "developer", "help", "version"})
+        QVERIFY2(help.contains(QStringLiteral("  --") + QLatin1String(option)), option);
+    const QStringList lines = help.split(u'\n');
+    for (const QString &line : lines)
+        QVERIFY2(line.size() <= 110, qPrintable(line));
+}
+
+QTEST_GUILESS_MAIN(TestHostOptions)
+#include "tst_host_options.moc"

@@ -1,0 +1,341 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/gui/main_window.h"
+
+#include "autotests/host/gui/fake_module.h"
+#include "host/gui/dialog_prompter.h"
+#include "host/gui/key_text.h"
+#include "host/translations/translators.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QActionGroup>
+#include <QDir>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QObject>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int patienceMilliseconds = 10'000;
+
+/// The window on a module of the test's own.
+struct Program {
+    explicit Program(bool hasEvents = false) : window(session, language, QStringLiteral("4.42.0.92"), hasEvents)
+    {
+        session.refresh();
+        window.show();
+    }
+
+    template <typename Widget>
+    Widget *find(const char *name)
+    {
+        return window.findChild<Widget *>(QLatin1String(name));
+    }
+    QString log() { return find<QPlainTextEdit>("host_log")->toPlainText(); }
+    QString verdict() { return find<QLabel>("host_result_verdict")->text(); }
+    QStringList messages()
+    {
+        QStringList texts;
+        const auto *list = find<QListWidget>("host_result_messages");
+        for (int row = 0; row < list->count(); ++row)
+            texts.append(list->item(row)->text());
+        return texts;
+    }
+
+    QTemporaryDir folder;
+    struct Language : host::LanguageSetting {
+        explicit Language(const QString &path) { useOwnFolder(path); }
+    } language{folder.path()};
+    FakeModule module;
+    host::DialogPrompter prompter;
+    host::TestSession session{module.interface(), prompter, folder.path()};
+    host::MainWindow window;
+};
+
+} // namespace
+
+class TestMainWindow : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(host::installTranslators(QStringLiteral("en_US"))); }
+    void init() { before_ = QDir::currentPath(); }
+    void cleanup() { QVERIFY(QDir::setCurrent(before_)); }
+    void listsDevicesWithTheirProperties();
+    void keepsTheChosenDeviceByName();
+    void choosesNothingWhenTheChosenDeviceIsGone();
+    void cannotRunWithoutADevice();
+    void runsTheChosenTest();
+    void neverShowsAPassThatIsNone_data();
+    void neverShowsAPassThatIsNone();
+    void showsMessagesAsSentencesWithTheirLevel();
+    void logsTheRun();
+    void keepsTheHistoryNewestFirst();
+    void showsProgress();
+    void changesTheLanguageAndReadsTheDevicesAgain();
+    void cannotChangeAForeignLanguage();
+    void closesAfterTheRun();
+    void namesEveryControl();
+    void hasUniqueMnemonics();
+    void tabsInTheOrderOfSight();
+
+private:
+    QString before_;
+};
+
+void TestMainWindow::listsDevicesWithTheirProperties()
+{
+    Program program;
+    const auto *table = program.find<QTableWidget>("host_devices");
+    QCOMPARE(table->rowCount(), 2);
+    QCOMPARE(table->columnCount(), 5);
+    QCOMPARE(table->item(1, 0)->text(), QStringLiteral("Headphones"));
+    QCOMPARE(table->item(1, 1)->text(), QStringLiteral("2"));
+    QCOMPARE(table->item(1, 2)->text(), QStringLiteral("48000"));
+    QCOMPARE(table->item(1, 3)->text(), QStringLiteral("fake"));
+    QCOMPARE(table->item(1, 4)->text(), host::hostText("VALUE_NOT_KNOWN"));
+    QCOMPARE(table->horizontalHeaderItem(2)->text(), host::shownText(QStringLiteral("SAMPLE_RATE")));
+    QVERIFY(!table->horizontalHeaderItem(2)->text().contains(u'_'));
+}
+
+void TestMainWindow::keepsTheChosenDeviceByName()
+{
+    Program program;
+    program.window.choose(0, 1);
+    program.module.names = {"USB", "Speakers", "Line", "Headphones"};
+    program.session.refresh();
+    const auto *table = program.find<QTableWidget>("host_devices");
+    QCOMPARE(table->currentRow(), 3);
+    QVERIFY(table->item(3, 0)->isSelected());
+}
+
+void TestMainWindow::choosesNothingWhenTheChosenDeviceIsGone()
+{
+    Program program;
+    program.window.choose(0, 1);
+    program.module.names = {"Speakers"};
+    program.session.refresh();
+    QVERIFY(program.find<QTableWidget>("host_devices")->selectedItems().isEmpty());
+    QVERIFY(!program.find<QPushButton>("host_run")->isEnabled());
+    QVERIFY(program.log().contains(host::hostText("LOG_DEVICE_GONE").arg(QStringLiteral("Headphones"))));
+}
+
+void TestMainWindow::cannotRunWithoutADevice()
+{
+    Program program;
+    QVERIFY(program.find<QPushButton>("host_run")->isEnabled());
+    program.module.names.clear();
+    program.session.refresh();
+    QVERIFY(!program.find<QPushButton>("host_run")->isEnabled());
+    QCOMPARE(program.find<QLabel>("host_devices_text")->text(), host::hostText("NO_DEVICES"));
+}
+
+void TestMainWindow::runsTheChosenTest()
+{
+    Program program;
+    bool wasRun = false;
+    bool couldStop = false;
+    bool couldRun = true;
+    program.module.microphone = [&](ostra::TestContext &) {
+        wasRun = true;
+        couldStop = program.find<QPushButton>("host_stop")->isEnabled();
+        couldRun = program.find<QPushButton>("host_run")->isEnabled();
+        return ostra::result::passed;
+    };
+    program.find<QListWidget>("host_tests")->setCurrentRow(1);
+    QTest::mouseClick(program.find<QPushButton>("host_run"), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(wasRun, patienceMilliseconds);
+    QVERIFY(couldStop && !couldRun);
+    QVERIFY(!program.find<QPushButton>("host_stop")->isEnabled());
+    QCOMPARE(program.verdict(), host::hostText("VERDICT_PASSED"));
+}
+
+void TestMainWindow::neverShowsAPassThatIsNone_data()
+{
+    QTest::addColumn<FakeModule::Body>("body");
+    QTest::addColumn<bool>("isStopped");
+    QTest::newRow("error message") << FakeModule::Body([](ostra::TestContext &context) {
+        context.messages()->addMessage("KEY", 2, 0);
+        return 0U;
+    }) << false;
+    QTest::newRow("stopped") << FakeModule::Body([](ostra::TestContext &) { return 0U; }) << true;
+    for (const std::uint32_t code : {1U, 2U, 3U, 4U, 6U, 7U})
+        QTest::addRow("code %u", code) << FakeModule::Body([code](ostra::TestContext &) { return code; }) << false;
+}
+
+void TestMainWindow::neverShowsAPassThatIsNone()
+{
+    QFETCH(const FakeModule::Body, body);
+    QFETCH(const bool, isStopped);
+    Program program;
+    program.module.playback = [&](ostra::TestContext &context) {
+        if (isStopped)
+            program.session.stop();
+        return body(context);
+    };
+    program.session.run(0, 0, program.language.code());
+    QVERIFY(program.verdict() != host::hostText("VERDICT_PASSED"));
+    QVERIFY(program.find<QTableWidget>("host_history")->item(0, 3)->text() != host::hostText("VERDICT_PASSED"));
+    QVERIFY(program.verdict() != host::hostText("NO_RESULT_YET"));
+}
+
+void TestMainWindow::showsMessagesAsSentencesWithTheirLevel()
+{
+    Program program;
+    program.module.playback = [](ostra::TestContext &context) {
+        context.messages()->addMessage("FIRST_THING._|SECOND_THING.", 2, 0);
+        context.messages()->addMessage("POSSIBLE_DEFECTS: LEFT_EAR, RIGHT_EAR", 0, 0);
+        return ostra::result::failed;
+    };
+    program.session.run(0, 0, program.language.code());
+    const QString error = host::hostText("LEVEL_ERROR") + QStringLiteral(": ");
+    const QString note = host::hostText("LEVEL_NOTE") + QStringLiteral(": ");
+    const QStringList expected{error + QStringLiteral("First thing."), error + QStringLiteral("Second thing."),
+                               note + QStringLiteral("Possible defects: Left ear, Right ear")};
+    QCOMPARE(program.messages(), expected);
+    QVERIFY(!program.find<QListWidget>("host_result_messages")->item(0)->icon().isNull());
+}
+
+void TestMainWindow::logsTheRun()
+{
+    Program program;
+    program.module.playback = [](ostra::TestContext &context) {
+        context.reporter()->report(0, "");
+        context.reporter()->report(100, "SOME_KEY");
+        context.messages()->addMessage("OTHER_KEY", 0, 0);
+        return ostra::result::notCompleted;
+    };
+    program.session.run(0, 0, program.language.code());
+    const QString log = program.log();
+    QVERIFY(log.contains(host::hostText("LOG_PROGRESS").arg(100) + QStringLiteral(" – Some key")));
+    QVERIFY(log.contains(host::hostText("LEVEL_NOTE") + QStringLiteral(": Other key")));
+    QVERIFY(log.contains(QStringLiteral("Speakers")));
+    QVERIFY(log.indexOf(QStringLiteral("Some key")) < log.indexOf(QStringLiteral("Other key")));
+}
+
+void TestMainWindow::keepsTheHistoryNewestFirst()
+{
+    Program program;
+    program.session.run(0, 0, QStringLiteral("en_US"));
+    program.session.run(1, 1, QStringLiteral("de_DE"));
+    const auto *history = program.find<QTableWidget>("host_history");
+    QCOMPARE(history->rowCount(), 2);
+    QCOMPARE(history->item(0, 2)->text(), QStringLiteral("Headphones"));
+    QCOMPARE(history->item(1, 2)->text(), QStringLiteral("Speakers"));
+    QCOMPARE(history->item(0, 4)->text(), QStringLiteral("Deutsch"));
+}
+
+void TestMainWindow::showsProgress()
+{
+    Program program;
+    int shown = -1;
+    program.module.playback = [&](ostra::TestContext &context) {
+        context.reporter()->report(40, "");
+        shown = program.find<QProgressBar>("host_progress")->value();
+        return ostra::result::passed;
+    };
+    program.session.run(0, 0, program.language.code());
+    QCOMPARE(shown, 40);
+}
+
+void TestMainWindow::changesTheLanguageAndReadsTheDevicesAgain()
+{
+    Program program;
+    const int before = program.module.refreshCount;
+    auto *entry = program.window.findChild<QAction *>(QStringLiteral("host_language_ja_JP"));
+    entry->trigger();
+    QCOMPARE(program.language.code(), QStringLiteral("ja_JP"));
+    QCOMPARE(program.module.refreshCount, before + 1);
+    QVERIFY(entry->isChecked());
+    program.module.playback = [&](ostra::TestContext &) {
+        return entry->isEnabled() ? ostra::result::failed : ostra::result::passed; // not while a test runs
+    };
+    QCOMPARE(program.session.run(0, 0, program.language.code())->code, 0U);
+}
+
+void TestMainWindow::cannotChangeAForeignLanguage()
+{
+    const QTemporaryDir folder;
+    host::LanguageSetting language;
+    QVERIFY(language.useForeignFolder(folder.path()));
+    FakeModule module;
+    host::DialogPrompter prompter;
+    host::TestSession session(module.interface(), prompter, folder.path());
+    const host::MainWindow window(session, language, {}, false);
+    QVERIFY(!window.findChild<QAction *>(QStringLiteral("host_language_de_DE"))->isEnabled());
+}
+
+void TestMainWindow::closesAfterTheRun()
+{
+    Program program;
+    bool stayedOpen = false;
+    bool wasStopped = false;
+    program.module.playback = [&](ostra::TestContext &context) {
+        stayedOpen = !program.window.close();
+        wasStopped = context.continueOnOutcome();
+        return ostra::result::passed;
+    };
+    program.session.run(0, 0, program.language.code());
+    QVERIFY(stayedOpen && wasStopped);
+    QVERIFY(program.window.close());
+}
+
+void TestMainWindow::namesEveryControl()
+{
+    Program program(true);
+    const auto widgets = program.window.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const bool isOwn = widget->objectName().startsWith(QStringLiteral("host_"));
+        if (!isOwn || widget->focusPolicy() == Qt::NoFocus)
+            continue;
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY(accessible != nullptr);
+        QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), qPrintable(widget->objectName()));
+        QVERIFY2(!accessible->text(QAccessible::Name).contains(u'_'), qPrintable(widget->objectName()));
+    }
+}
+
+void TestMainWindow::hasUniqueMnemonics()
+{
+    Program program(true);
+    QStringList mnemonics;
+    const auto menus = program.window.menuBar()->actions();
+    for (const QAction *menu : menus)
+        mnemonics.append(QKeySequence::mnemonic(menu->text()).toString());
+    for (const char *button : {"host_refresh", "host_run", "host_stop"})
+        mnemonics.append(QKeySequence::mnemonic(program.find<QPushButton>(button)->text()).toString());
+    QCOMPARE(mnemonics.size(), 8);
+    QVERIFY(!mnemonics.contains(QString()));
+    QCOMPARE(mnemonics.removeDuplicates(), 0);
+}
+
+void TestMainWindow::tabsInTheOrderOfSight()
+{
+    Program program;
+    QVERIFY(QTest::qWaitForWindowExposed(&program.window));
+    program.find<QTableWidget>("host_devices")->setFocus();
+    QStringList order;
+    for (int step = 0; step < 20 && !order.contains(program.window.focusWidget()->objectName()); ++step) {
+        order.append(program.window.focusWidget()->objectName());
+        QTest::keyClick(program.window.focusWidget(), Qt::Key_Tab);
+    }
+    order.removeAll(QStringLiteral("qt_tabwidget_tabbar"));
+    const QStringList expected{QStringLiteral("host_devices"),         QStringLiteral("host_refresh"),
+                               QStringLiteral("host_tests"),           QStringLiteral("host_run"),
+                               QStringLiteral("host_result_messages"), QStringLiteral("host_log")};
+    QCOMPARE(order, expected);
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_main_window.moc"
