@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QFont>
+#include <QLayout>
+#include <QList>
 
 #include <array>
 
@@ -22,9 +24,9 @@ constexpr int dialogHeight = 424;
 constexpr int keySide = 34;
 constexpr int inputSide = 30;
 constexpr int iconSide = 20;
-constexpr int closeSide = 26;
-constexpr int indicatorWidth = 96;
-constexpr int indicatorHeight = 40;
+constexpr int closeSide = 22;
+constexpr int indicatorWidth = 77;
+constexpr int indicatorHeight = 32;
 constexpr double textHeight = 8.0 * 96.0 / 72.0; // eight points
 constexpr double titleHeight = 9.0 * 96.0 / 72.0;
 constexpr double digitHeight = 12.0 * 96.0 / 72.0;
@@ -69,6 +71,7 @@ void scaleButtons(const Ui::AudioPlaybackTestWidget &form, double factor)
     for (QPushButton *input : inputs(form)) {
         input->setFixedSize(scaled(inputSide, inputSide, factor));
         input->setFont(font);
+        input->setAttribute(Qt::WA_TransparentForMouseEvents); // they look like buttons and only tell
     }
 }
 
@@ -93,6 +96,13 @@ void scaleTexts(const Ui::AudioPlaybackTestWidget &form, double factor)
     form.audio_playback_test_header_label->setFont(scaledFont(titleHeight, factor));
 }
 
+void scaleSpacing(const QDialog &dialog, double factor)
+{
+    const QList<QLayout *> layouts = dialog.findChildren<QLayout *>();
+    for (QLayout *layout : layouts)
+        layout->setSpacing(static_cast<int>(layout->spacing() * factor));
+}
+
 void setToolTip(QPushButton &button, const char *key)
 {
     button.setToolTip(text(key));
@@ -107,6 +117,9 @@ void nameIcons(const Ui::AudioPlaybackTestWidget &form)
     form.audio_playback_test_non_executed_audio_sequence_icon->setAccessibleName(text("SECOND_SEQUENCE"));
     form.audio_playback_test_current_audio_sequence_icon_2->setAccessibleName(text("SECOND_SEQUENCE"));
     form.audio_playback_test_sound_indicator_gif->setAccessibleName(text("AUDIO_PLAYBACK_TEST"));
+    for (QPushButton *input : inputs(form)) // a digit that is set is its own name
+        input->setAccessibleName(input->objectName().endsWith(QStringLiteral("_set")) ? QString()
+                                                                                      : text("SELECT_OR_TYPE_NUMBER"));
 }
 
 } // namespace
@@ -117,6 +130,7 @@ void scale(const Ui::AudioPlaybackTestWidget &form, QDialog &dialog, double scal
     scaleButtons(form, scaleFactor);
     scaleIcons(form, scaleFactor);
     scaleTexts(form, scaleFactor);
+    scaleSpacing(dialog, scaleFactor);
     form.audio_playback_test_header_close->setCursor(Qt::PointingHandCursor);
     form.audio_playback_test_fail_button->setCursor(Qt::PointingHandCursor);
 }
