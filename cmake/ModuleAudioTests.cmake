@@ -12,6 +12,8 @@ if(WIN32)
 endif()
 # For the ENVIRONMENT of tests that let SDL talk to a sound server, and of no other: nothing of ours may hide behind it.
 set(MODULE_AUDIO_SDL_LEAKS "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/autotests/support/lsan.supp:print_suppressions=0")
+# The same for whole programs with real windows.
+set(MODULE_AUDIO_HOST_LEAKS "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/autotests/support/lsan_host.supp:print_suppressions=0")
 
 # ma_add_test_command(<name> COMMAND ... [LABELS ...] [SOUND "<arguments of tools/virtual-sound-card run>"] [ENVIRONMENT ...]
 #                     [TIMEOUT s] [FOLDER dir] [SERIAL])
