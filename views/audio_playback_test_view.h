@@ -107,9 +107,9 @@ private:
     std::vector<int> expected_;
     std::vector<int> entered_;
     bool isFirstAttempt_ = true;
-    QTimer playDelayTimer_;
-    QTimer playbackStepTimer_;
-    QTimer systemEventTimer_;
+    QTimer playDelayTimer_{this};
+    QTimer playbackStepTimer_{this};
+    QTimer systemEventTimer_{this};
     std::size_t clipIndex_ = 0;
     bool isReadyToPlay_ = true;
     bool repeatHadFocus_ = false;
