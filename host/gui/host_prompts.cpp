@@ -112,10 +112,12 @@ QuestionPrompt::QuestionPrompt(const QString &title, const QString &text, QWidge
     QVBoxLayout *layout = makeLayout(*this);
     addTitle(*layout, shownText(title), QStringLiteral("host_question_title"));
     QLabel *question = addText(*layout, shownSentences(text).join(u'\n'), QStringLiteral("host_question_text"));
-    question->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
+    question->setFocusPolicy(Qt::StrongFocus);
     const Buttons buttons = addButtons(*layout, "QUESTION_YES", "QUESTION_NO", QStringLiteral("host_question_buttons"));
     buttons.first->setObjectName(QStringLiteral("host_question_yes"));
     buttons.second->setObjectName(QStringLiteral("host_question_no"));
+    buttons.first->setAutoDefault(false); // neither answer is suggested
+    buttons.second->setAutoDefault(false);
     question->setFocus(); // a key pressed too soon must not answer
     connect(buttons.first, &QPushButton::clicked, this, [this] { done(static_cast<int>(prompt_answer::yes)); });
     connect(buttons.second, &QPushButton::clicked, this, [this] { done(static_cast<int>(prompt_answer::no)); });
@@ -123,14 +125,13 @@ QuestionPrompt::QuestionPrompt(const QString &title, const QString &text, QWidge
 
 void QuestionPrompt::closeEvent(QCloseEvent *event) { event->ignore(); }
 
-// What arrives here was meant for no button: the base would answer with the first one on Enter.
 void QuestionPrompt::keyPressEvent(QKeyEvent *event)
 {
-    const bool wouldAnswer = event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return ||
-                             event->key() == Qt::Key_Enter || event->matches(QKeySequence::Cancel);
-    if (wouldAnswer)
-        event->accept();
-    else
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    if (isEnter && button != nullptr)
+        button->click();
+    else if (!isEnter && !event->matches(QKeySequence::Cancel))
         QDialog::keyPressEvent(event);
 }
 
