@@ -28,7 +28,7 @@ QStringList limitsOfListening(const RunRecord &record)
     limits.append(QStringLiteral("Digits were compared below 4 kHz: what the device does to higher tones is not known."));
     limits.append(
         QStringLiteral("A latency reaches from the dialog's display to the capture: it includes opening the device and "
-                       "the capture's own delay."));
+                       "is good to a tenth of a second, by which a sound server works ahead or behind."));
     return limits;
 }
 

@@ -121,6 +121,7 @@ void TestTestOperator::mistypesAsToldAndForgetsTheFirstSequence()
     const RunRecord record = run(dialog, settings(1));
     QCOMPARE(dialog.outcome(), Outcome::passed);
     QCOMPARE(dialog.typed(), (QList<int>{1, 2, 0, 4, 5, 6}));
+    QCOMPARE(dialog.playCount(), 2); // neither sequence was asked for again
     QCOMPARE(heardIn(record), (QList<int>{1, 2, 3, 4, 5, 6}));
     QCOMPARE(typedIn(record), dialog.typed());
     QCOMPARE(record.digits.at(3).sequence, 2);
