@@ -57,6 +57,8 @@ private slots:
     void reportsATooShortRecordingEvenWithoutDevice();
     void keepsTheDeviceOpenUntilItDies();
     void closesTheDeviceBeforeItOpensTheNext();
+    void playsUntilThePause_data();
+    void playsUntilThePause();
     void aLateCallbackFindsNothingToPlay();
 
 private:
@@ -318,6 +320,31 @@ void TestAudioPlayer::closesTheDeviceBeforeItOpensTheNext()
     player.play("Headphones", makeRecording(16));
     std::erase_if(fake.calls, [](const std::string &call) { return call.starts_with("status"); });
     QCOMPARE(fake.calls, (Calls{"pause 2 1", "close 2", "open Headphones 0 obtained", "pause 3 0", "delay 500", "pause 3 1"}));
+}
+
+void TestAudioPlayer::playsUntilThePause_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::newRow("stopped") << int(SDL_AUDIO_PLAYING);
+    QTest::newRow("device lost") << int(SDL_AUDIO_STOPPED);
+}
+
+void TestAudioPlayer::playsUntilThePause()
+{
+    QFETCH(const int, status);
+    FakeSdl fake;
+    fake.status = static_cast<SDL_AudioStatus>(status);
+    Bytes heard(3, mark);
+    fake.onCall = [&](const std::string &call) {
+        if (call == "pause 2 1") // waits for the callback that is running
+            fake.callBack(heard);
+    };
+    AudioPlayer player(std::make_shared<std::atomic<bool>>(false));
+    if (status == SDL_AUDIO_STOPPED)
+        verifyDisconnected(player);
+    else
+        player.play("Speakers", makeRecording(16));
+    QCOMPARE(heard, (Bytes{1, 2, 3}));
 }
 
 void TestAudioPlayer::aLateCallbackFindsNothingToPlay()

@@ -46,6 +46,7 @@ private slots:
     void keepsTheDeviceOpenUntilItDies();
     void recordsAgainOnTheOpenDevice();
     void opensAgainAfterAFailedOpening();
+    void keepsWhatArrivesUntilThePause();
     void aLateCallbackFindsNothingToWriteTo_data();
     void aLateCallbackFindsNothingToWriteTo();
 
@@ -342,6 +343,21 @@ void TestAudioRecorder::opensAgainAfterAFailedOpening()
     stopAtFirstDelay(fake, flag);
     QVERIFY(recorder.record("Mic", 0));
     QCOMPARE(fake.count("open"), 2);
+}
+
+void TestAudioRecorder::keepsWhatArrivesUntilThePause()
+{
+    FakeSdl fake;
+    fake.tracksStatus = true;
+    fake.onCall = [&fake](const std::string &call) {
+        if (call == "pause 2 1") { // waits for the callback that is running
+            Bytes heard{7, 8, 9};
+            fake.callBack(heard);
+        }
+    };
+    AudioRecorder recorder(std::make_shared<std::atomic<bool>>(false));
+    const Bytes recorded = contentOf(*recorder.record("Mic", 0));
+    QCOMPARE(Bytes(recorded.begin(), recorded.begin() + 4), (Bytes{7, 8, 9, 0}));
 }
 
 void TestAudioRecorder::aLateCallbackFindsNothingToWriteTo_data()

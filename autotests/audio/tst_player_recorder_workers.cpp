@@ -500,10 +500,15 @@ void TestPlayerRecorderWorkers::endedWorkersAreNoLongerCounted()
 // The last one: this worker counts until the process ends.
 void TestPlayerRecorderWorkers::missingMemoryStillCountsAnAbandonedWorker()
 {
-    const StopFlag flag = makeStopFlag();
-    refusing_allocator::allocationsUntilFailure = 0;
-    abandonWorker(flag);
-    refusing_allocator::allocationsUntilFailure = -1;
+    std::vector<StopFlag> flags;
+    for (bool wasRefused = false; !wasRefused;) { // until the list has to grow
+        flags.push_back(makeStopFlag());
+        refusing_allocator::allocationsUntilFailure = 0;
+        abandonWorker(flags.back());
+        wasRefused = refusing_allocator::allocationsUntilFailure < 0;
+        refusing_allocator::allocationsUntilFailure = -1;
+    }
+    flags.clear();
     QCOMPARE(abandonedWorkerCount(), 1);
 }
 
