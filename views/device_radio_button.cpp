@@ -3,6 +3,7 @@
 
 #include <QFontMetrics>
 #include <QKeySequence>
+#include <QStyle>
 #include <QStyleOptionButton>
 
 namespace ostra {
@@ -31,7 +32,9 @@ QFontMetrics DeviceRadioButton::boldMetrics() const
 
 int DeviceRadioButton::frameWidth() const
 {
-    return QRadioButton::sizeHint().width() - fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    QStyleOptionButton option;
+    QRadioButton::initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_RadioButton, &option, QSize(0, fontMetrics().height()), this).width();
 }
 
 QSize DeviceRadioButton::sizeHint() const

@@ -5,6 +5,7 @@
 #include "contract/event_mask.h"
 #include "contract/test_context.h"
 #include "utils/dpi.h"
+#include "views/microphone_form.h"
 #include "views/play_audio.h"
 #include "views/record_audio.h"
 #include "views/select_device.h"
@@ -14,9 +15,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMouseEvent>
 
-#include <algorithm>
 #include <chrono>
 
 namespace ostra {
@@ -24,9 +23,6 @@ namespace ostra {
 namespace {
 
 constexpr std::chrono::milliseconds systemEventInterval{500};
-
-// Logical pixels at 96 DPI; the width of the playback test's dialog, so that the two look alike.
-constexpr QSize sizeAtScaleOne(466, 260);
 
 } // namespace
 
@@ -48,7 +44,8 @@ InteractionDialog::InteractionDialog(const QString &outputDeviceName, QWidget *p
     ui_->microphone_test_popups_space->setCurrentWidget(selectDevice_);
     connect(this, &QDialog::finished, this, &InteractionDialog::closing);
     connect(this, &InteractionDialog::closing, this, &InteractionDialog::stopJobs);
-    fitToContents();
+    const utils::Dpi *dpi = utils::Dpi::instance();
+    microphone_form::scale(*this, dpi == nullptr ? 1.0 : dpi->scaleFactor());
     qApp->installEventFilter(this);
     isReady_ = true;
 }
@@ -62,6 +59,7 @@ InteractionDialog::~InteractionDialog()
 void InteractionDialog::prepareHeader()
 {
     QPushButton *close = ui_->microphone_test_header_close;
+    drag_ = std::make_unique<HeaderDrag>(*this, *ui_->microphone_test_header, *close);
     connect(close, &QPushButton::clicked, this, &InteractionDialog::Close);
     prepareButton(*close);
     close->setAccessibleName(translated("CANCEL")); // it shows an icon only
@@ -90,16 +88,6 @@ void InteractionDialog::connectJobSignals(QObject *page, const char *nextSlot)
     connect(page, SIGNAL(CancelTest()), this, SLOT(Cancel()));
     connect(page, SIGNAL(AbortTest()), this, SLOT(Abort()));
     connect(page, SIGNAL(DisconnectedDevice()), this, SLOT(AbortDeviceDisconnected()));
-}
-
-void InteractionDialog::fitToContents()
-{
-    const utils::Dpi *dpi = utils::Dpi::instance();
-    const double scale = dpi == nullptr ? 1.0 : dpi->scaleFactor();
-    ensurePolished();
-    const int width = std::max(static_cast<int>(sizeAtScaleOne.width() * scale), minimumSizeHint().width());
-    const int height = std::max(static_cast<int>(sizeAtScaleOne.height() * scale), minimumSizeHint().height());
-    setFixedSize(width, height);
 }
 
 void InteractionDialog::stopJobs()
@@ -155,18 +143,21 @@ void InteractionDialog::CheckSystemEvent()
     if (!isCancelledByEvent())
         return;
     QTimer::singleShot(0, this, [this] {
-        if (isVisible() || !hasFinished())
+        if (isReady_)
             done(result());
     });
 }
 
+void InteractionDialog::done(int result)
+{
+    isReady_ = false; // the end changes the window, and a change asks for events
+    InputDialog::done(result);
+}
+
 void InteractionDialog::changeEvent(QEvent *event)
 {
-    // The end of the dialog changes its window and comes back here.
-    if (!hasFinished() && isCancelledByEvent()) {
-        isReady_ = false;
+    if (isCancelledByEvent())
         done(dialog_result::cancelled);
-    }
     InputDialog::changeEvent(event);
 }
 
@@ -194,34 +185,11 @@ void InteractionDialog::keyPressEvent(QKeyEvent *event)
         done(dialog_result::cancelled);
 }
 
-bool InteractionDialog::isDragStart(const QPoint &position) const
-{
-    const QWidget *header = ui_->microphone_test_header;
-    const QPoint inHeader = header->mapFrom(this, position);
-    return header->rect().contains(inHeader) && !ui_->microphone_test_header_close->geometry().contains(inHeader);
-}
+void InteractionDialog::mousePressEvent(QMouseEvent *event) { drag_->press(*event); }
 
-void InteractionDialog::mousePressEvent(QMouseEvent *event)
-{
-    const QPoint position = event->position().toPoint();
-    if (!isDragStart(position))
-        return;
-    isDragging_ = true;
-    dragOffset_ = position;
-    setCursor(Qt::ClosedHandCursor);
-}
+void InteractionDialog::mouseMoveEvent(QMouseEvent *event) { drag_->move(*event); }
 
-void InteractionDialog::mouseMoveEvent(QMouseEvent *event)
-{
-    if (isDragging_)
-        move(event->globalPosition().toPoint() - dragOffset_);
-}
-
-void InteractionDialog::mouseReleaseEvent(QMouseEvent * /*event*/)
-{
-    isDragging_ = false;
-    setCursor(Qt::ArrowCursor);
-}
+void InteractionDialog::mouseReleaseEvent(QMouseEvent * /*event*/) { drag_->release(); }
 
 void InteractionDialog::showEvent(QShowEvent *event)
 {

@@ -3,8 +3,8 @@
 
 #include "audio/audio_recording.h"
 #include "tests/dialog/input_dialog.h"
+#include "views/header_drag.h"
 
-#include <QPoint>
 #include <QString>
 #include <QTimer>
 
@@ -49,6 +49,7 @@ public:
     /// Whether a recording or playback failed.
     bool isAborted() const noexcept { return isAborted_; }
 
+    void done(int result) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
@@ -79,10 +80,8 @@ private:
     void prepareWindow();
     void connectPages();
     void connectJobSignals(QObject *page, const char *nextSlot);
-    void fitToContents();
     void stopJobs();
     bool isCancelledByEvent() const;
-    bool isDragStart(const QPoint &position) const;
 
     std::unique_ptr<Ui::InteractionDialog> ui_;
     QTimer systemEventTimer_;
@@ -91,11 +90,10 @@ private:
     RecordAudio *recordAudio_;
     PlayAudio *playAudio_;
     EventSource *events_;
-    QPoint dragOffset_;
-    bool isDragging_ = false;
+    std::unique_ptr<HeaderDrag> drag_;
     bool isDeviceDisconnected_ = false;
     bool isAborted_ = false;
-    bool isReady_ = false; ///< constructed, so that events of the machine may close it
+    bool isReady_ = false; ///< constructed and not ended, so that events of the machine may close it
     bool isApplicationQuitting_ = false;
 };
 
