@@ -27,7 +27,7 @@ void PlayerHelper::StopPlayAudio() { stopFlag_->exchange(false); }
 int PlayerHelper::playRecording() noexcept
 {
     return statusOf([this] {
-        apartment_.enter();
+        threadUse_.enter();
         const std::shared_ptr<AudioRecording> recording = recording_;
         if (!recording)
             return worker_status::failed;

@@ -4,7 +4,7 @@
 #include "audio/audio_player.h"
 #include "audio/audio_recording.h"
 #include "audio/stop_flag.h"
-#include "audio/worker_apartment.h"
+#include "audio/worker_thread_use.h"
 
 #include <QObject>
 #include <QString>
@@ -39,7 +39,7 @@ private:
 
     StopFlag stopFlag_;
     std::shared_ptr<AudioRecording> recording_;
-    WorkerApartment apartment_; // before the engine, which closes its device within it
+    WorkerThreadUse threadUse_; // before the engine, which closes its device within it
     AudioPlayer player_;
     QString deviceName_;
 };

@@ -29,7 +29,7 @@ void RecorderHelper::StopRecordAudio() { stopFlag_->exchange(false); }
 int RecorderHelper::recordIntoSlot() noexcept
 {
     return statusOf([this] {
-        apartment_.enter();
+        threadUse_.enter();
         std::shared_ptr<AudioRecording> recording = recorder_.record(deviceName_.toStdString(), seconds_);
         if (!recording)
             return worker_status::failed;

@@ -4,7 +4,7 @@
 #include "audio/audio_recorder.h"
 #include "audio/audio_recording.h"
 #include "audio/stop_flag.h"
-#include "audio/worker_apartment.h"
+#include "audio/worker_thread_use.h"
 
 #include <QObject>
 #include <QString>
@@ -42,7 +42,7 @@ private:
 
     StopFlag stopFlag_;
     std::shared_ptr<RecordingSlot> slot_;
-    WorkerApartment apartment_; // before the engine, which closes its device within it
+    WorkerThreadUse threadUse_; // before the engine, which closes its device within it
     AudioRecorder recorder_;
     QString deviceName_;
     std::uint16_t seconds_;

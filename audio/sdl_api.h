@@ -25,6 +25,7 @@ struct SdlApi {
     decltype(&SDL_LoadWAV_RW) loadWav = &SDL_LoadWAV_RW;
     decltype(&SDL_FreeWAV) freeWav = &SDL_FreeWAV;
     decltype(&SDL_Delay) delay = &SDL_Delay;
+    decltype(&SDL_TLSCleanup) cleanUpThread = &SDL_TLSCleanup;
 };
 
 /// The calls in force. Written by tests only, before any thread of the module runs.

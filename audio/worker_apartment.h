@@ -1,28 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <thread>
-
 namespace ostra::audio {
 
-/// What a thread needs before it may open and close sound devices. On Windows a COM apartment: the sound library does not
-/// enter one on the thread that opens a device, and a fresh thread has none. Elsewhere nothing.
-///
-/// A member of a worker, placed before its engine, so that the apartment lasts until the engine has closed its device. When it
-/// is destroyed on another thread than the one that entered, that thread keeps its apartment until it ends.
-class WorkerApartment {
-public:
-    WorkerApartment() = default;
-    ~WorkerApartment();
-    WorkerApartment(const WorkerApartment &) = delete;
-    WorkerApartment &operator=(const WorkerApartment &) = delete;
+/// Enters the multithreaded COM apartment on the calling thread: on Windows the sound library does not do so on the thread that
+/// opens a device, and a fresh thread lives in none. Elsewhere there is nothing to enter. True when the entry is to be balanced
+/// by `leaveApartment`; false also on a thread that lives in an apartment of another kind, where COM works as it is. Any other
+/// failure shows when a device cannot be opened.
+bool enterApartment() noexcept;
 
-    /// Enters the multithreaded apartment on the calling thread, once; a thread that lives in one of another kind stays there.
-    /// A failure shows when a device cannot be opened.
-    void enter() noexcept;
-
-private:
-    std::thread::id thread_; ///< the thread whose entry is ours to end; none at first
-};
+/// Balances one entry of the calling thread.
+void leaveApartment() noexcept;
 
 } // namespace ostra::audio

@@ -3,8 +3,8 @@
 
 namespace ostra::audio {
 
-WorkerApartment::~WorkerApartment() = default;
+bool enterApartment() noexcept { return false; }
 
-void WorkerApartment::enter() noexcept { thread_ = std::this_thread::get_id(); }
+void leaveApartment() noexcept {}
 
 } // namespace ostra::audio

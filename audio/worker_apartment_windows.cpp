@@ -7,19 +7,8 @@
 
 namespace ostra::audio {
 
-WorkerApartment::~WorkerApartment()
-{
-    if (thread_ == std::this_thread::get_id())
-        CoUninitialize();
-}
+bool enterApartment() noexcept { return SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED)); }
 
-void WorkerApartment::enter() noexcept
-{
-    if (thread_ == std::this_thread::get_id())
-        return;
-    // Only a success counts as an entry; RPC_E_CHANGED_MODE means that COM works here without us.
-    if (SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED)))
-        thread_ = std::this_thread::get_id();
-}
+void leaveApartment() noexcept { CoUninitialize(); }
 
 } // namespace ostra::audio

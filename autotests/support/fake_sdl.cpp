@@ -8,7 +8,18 @@ namespace {
 
 FakeSdl *current = nullptr; // the library's calls carry no user data
 
-void record(std::string call) { current->calls.push_back(std::move(call)); }
+void record(std::string call)
+{
+    current->calls.push_back(std::move(call));
+    if (current->onCall)
+        current->onCall(current->calls.back());
+}
+
+void track(SDL_AudioStatus status)
+{
+    if (current->tracksStatus)
+        current->status = status;
+}
 
 int fakeCount(int isCapture)
 {
@@ -30,11 +41,23 @@ SDL_AudioDeviceID fakeOpen(const char *name, int isCapture, const SDL_AudioSpec 
     record("open " + std::string(name) + " " + std::to_string(isCapture) + (obtained != nullptr ? " obtained" : "") +
            (changes != 0 ? " changes" : ""));
     current->openedSpec = *desired;
+    if (obtained != nullptr)
+        *obtained = current->obtainedSpec.value_or(*desired);
+    track(current->nextDeviceId == 0 ? SDL_AUDIO_STOPPED : SDL_AUDIO_PAUSED);
     return current->nextDeviceId;
 }
 
-void fakeClose(SDL_AudioDeviceID id) { record("close " + std::to_string(id)); }
-void fakePause(SDL_AudioDeviceID id, int on) { record("pause " + std::to_string(id) + " " + std::to_string(on)); }
+void fakeClose(SDL_AudioDeviceID id)
+{
+    record("close " + std::to_string(id));
+    track(SDL_AUDIO_STOPPED);
+}
+
+void fakePause(SDL_AudioDeviceID id, int on)
+{
+    record("pause " + std::to_string(id) + " " + std::to_string(on));
+    track(on != 0 ? SDL_AUDIO_PAUSED : SDL_AUDIO_PLAYING);
+}
 
 SDL_AudioStatus fakeStatus(SDL_AudioDeviceID id)
 {
@@ -108,6 +131,11 @@ FakeSdl::~FakeSdl()
 {
     ostra::audio::sdl() = previous_;
     current = nullptr;
+}
+
+void FakeSdl::callBack(std::vector<std::uint8_t> &stream) const
+{
+    openedSpec.callback(openedSpec.userdata, stream.data(), static_cast<int>(stream.size()));
 }
 
 int FakeSdl::count(const std::string &prefix) const

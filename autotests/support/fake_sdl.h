@@ -3,6 +3,8 @@
 
 #include "audio/sdl_api.h"
 
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,9 +26,16 @@ public:
     SDL_AudioStatus status = SDL_AUDIO_STOPPED;
     int queueResult = 0;
     bool loadsFallback = true;
-    SDL_AudioSpec openedSpec{}; ///< as the last opening asked for it
+    SDL_AudioSpec openedSpec{};                ///< as the last opening asked for it, with its callback
+    std::optional<SDL_AudioSpec> obtainedSpec; ///< what an opening tells that it got; nullopt: what was asked for
+    bool tracksStatus = false;                 ///< let openings, pauses and closings set `status` as the real library does
 
     std::vector<std::string> calls;
+    /// Called with each of them, on the thread that made it, before it takes effect.
+    std::function<void(const std::string &call)> onCall;
+
+    /// Calls the callback of the last opening as the library's thread would, whether the device is paused or not.
+    void callBack(std::vector<std::uint8_t> &stream) const;
 
     /// How many recorded calls begin with `prefix`.
     int count(const std::string &prefix) const;

@@ -25,6 +25,10 @@ void *operator new(std::size_t byteCount)
     throw std::bad_alloc();
 }
 
+void *operator new[](std::size_t byteCount) { return operator new(byteCount); } // a sanitizer brings one of its own
+
 void operator delete(void *memory, const std::nothrow_t & /*tag*/) noexcept { std::free(memory); }
 void operator delete(void *memory) noexcept { std::free(memory); }
 void operator delete(void *memory, std::size_t /*byteCount*/) noexcept { std::free(memory); }
+void operator delete[](void *memory) noexcept { std::free(memory); }
+void operator delete[](void *memory, std::size_t /*byteCount*/) noexcept { std::free(memory); }
