@@ -197,9 +197,7 @@ void TestAudioWidgetWrapper::closeDialogWorksFromAnotherThread()
 {
     Stage stage;
     std::thread other;
-    const int result = stage.resultOf([&] {
-        other = std::thread([&] { stage.wrapper->closeDialog(); });
-    });
+    const int result = stage.resultOf([&] { other = std::thread([&] { stage.wrapper->closeDialog(); }); });
     other.join();
     QCOMPARE(result, 0);
 }
@@ -251,7 +249,7 @@ void TestAudioWidgetWrapper::anEventBeforeTheLoopIsNoPass()
 {
     Stage stage;
     stage.host.flags = 1;
-    const int result = stage.wrapper->exec(nullptr, nullptr); // does not wait for a dialog that has finished
+    const int result = stage.wrapper->exec(nullptr, nullptr);                  // does not wait for a dialog that has finished
     QVERIFY2(result == 2 || result == 0, qPrintable(QString::number(result))); // the test cancels either way
     QVERIFY(MicrophoneHost::dialog() == nullptr || !MicrophoneHost::dialog()->isVisible());
 }

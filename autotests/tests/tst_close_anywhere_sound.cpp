@@ -6,11 +6,12 @@
 #include "audio/audio_component.h"
 #include "audio/sdl_api.h"
 #include "audio/sound_driver.h"
-#include "autotests/support/volume_truth.h"
 #include "autotests/tests/microphone_host.h"
+#include "autotests/tests/sound_truth.h"
 #include "autotests/views/page_probe.h"
 #include "views/play_audio.h"
 #include "views/record_audio.h"
+#include "views/select_device.h"
 
 #include <QCloseEvent>
 #include <QElapsedTimer>
@@ -35,7 +36,8 @@ void begin(InteractionDialog &dialog, Phase phase)
 {
     if (phase == Phase::choosing)
         return;
-    named<QPushButton>(dialog, "microphone_test_next_button")->click();
+    // By page: the three have buttons of the same names.
+    named<QPushButton>(*dialog.findChild<SelectDevice *>(), "microphone_test_next_button")->click();
     auto *record = dialog.findChild<RecordAudio *>();
     named<QPushButton>(*record, "microphone_test_record_button")->click();
     if (phase == Phase::recording)
@@ -44,6 +46,7 @@ void begin(InteractionDialog &dialog, Phase phase)
         record->OnTimerTick();
     QTRY_VERIFY_WITH_TIMEOUT(!record->job().isBusy(), 10000);
     record->OnTimerTick();
+    QVERIFY(dialog.findChild<PlayAudio *>()->isVisible());
 }
 
 void end(MicrophoneHost &host, InteractionDialog &dialog, End kind)
@@ -107,7 +110,9 @@ void TestCloseAnywhereSound::leavesNothingBehind_data()
     QTest::addColumn<Phase>("phase");
     QTest::addColumn<int>("moment");
     QTest::addColumn<End>("kind");
-    const auto row = [](const char *name, Phase phase, int moment, End kind) { QTest::newRow(name) << phase << moment << kind; };
+    const auto row = [](const char *name, Phase phase, int moment, End kind) {
+        QTest::newRow(name) << phase << moment << kind;
+    };
     row("choosing, close button", Phase::choosing, 0, End::closeButton);
     row("recording at once, escape", Phase::recording, 0, End::escape);
     row("recording at once, quit", Phase::recording, 0, End::quit);
@@ -129,13 +134,16 @@ void TestCloseAnywhereSound::leavesNothingBehind()
     QFETCH(const int, moment);
     QFETCH(const End, kind);
     audio::AudioComponent device(SDL_GetAudioDeviceName(0, 0));
-    const auto before = volume_truth::levels();
+    const std::string levels = sound_truth::levels();
+    const int streamCount = sound_truth::openStreamCount(); // the card keeps itself awake
+    int streamCountAtEnd = 0;
     MicrophoneHost host;
     host.device = &device;
     QElapsedTimer sinceEnd;
     host.action = [&](InteractionDialog &dialog) {
         begin(dialog, phase);
         QTimer::singleShot(moment, &dialog, [&] {
+            streamCountAtEnd = sound_truth::openStreamCount();
             sinceEnd.start();
             end(host, dialog, kind);
         });
@@ -148,14 +156,17 @@ void TestCloseAnywhereSound::leavesNothingBehind()
     });
     QCoreApplication::exec(); // an application that runs a loop can be ended
     const qint64 took = sinceEnd.elapsed();
-    QVERIFY(sinceEnd.isValid());
+    QVERIFY2(sinceEnd.isValid(), host.calls.join("\n").constData());
     const bool isPass = kind == End::program; // a program may close it
     QCOMPARE(code, isPass ? 0U : 4U);
     QVERIFY2(took < closeLimit, qPrintable(QString::number(took)));
     QVERIFY(MicrophoneHost::dialog() == nullptr);
     QCOMPARE(audio::abandonedWorkerCount(), 0);
-    QCOMPARE(volume_truth::openStreamCount(), 0);
-    QVERIFY(volume_truth::levels() == before);
+    if (sound_truth::canTell() && moment >= 150)
+        QCOMPARE(streamCountAtEnd, streamCount + 1);
+    QCOMPARE(sound_truth::openStreamCount(), streamCount);
+    QCOMPARE(sound_truth::levels(), levels);
+    qInfo("ended in %lld ms", static_cast<long long>(took));
 }
 
 QTEST_MAIN(TestCloseAnywhereSound)

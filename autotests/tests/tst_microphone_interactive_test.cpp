@@ -29,10 +29,7 @@ constexpr const char *internalKey = "AN_INTERNAL_ERROR_OCCURRED._|THIS_DOES_NOT_
 const QByteArray dialogCall = "dialog | 1 3 0";
 const QByteArray questionCall = "question MICROPHONE_INTERACTIVE_TEST|DID_YOU_HEAR_THE_SAME_SOUND_YOU_RECORDED 5 2 0";
 
-QByteArrayList ending(const char *key)
-{
-    return {QByteArray("report 100 ") + key, QByteArray("message ") + key + " 0 0"};
-}
+QByteArrayList ending(const char *key) { return {QByteArray("report 100 ") + key, QByteArray("message ") + key + " 0 0"}; }
 
 const QByteArrayList beginning{"events", "can receive", dialogCall, "events"};
 const QByteArrayList end{"report 100 "};
@@ -86,7 +83,7 @@ void TestMicrophoneInteractiveTest::cleanup()
 void TestMicrophoneInteractiveTest::keepsItsIdentityAndFlags()
 {
     MicrophoneInteractiveTest test(identity);
-    QCOMPARE(test.identity().key(), identity.key());
+    QCOMPARE(test.identity().key, identity.key);
     QVERIFY(test.firstFlag());
     QVERIFY(!test.secondFlag());
     QVERIFY(test.thirdFlag() && test.fourthFlag());
@@ -99,6 +96,14 @@ void TestMicrophoneInteractiveTest::supportsAudioDevicesWhileThereIsAMicrophone(
     MicrophoneInteractiveTest test(identity);
     audio::AudioComponent device("Speakers");
     class Other final : public SystemComponent {
+    public:
+        Other() : SystemComponent("Speakers") {}
+        void *reserved4() override { return nullptr; }
+        bool reserved5() override { return true; }
+        bool reserved6() override { return true; }
+        void reserved7() override {}
+        bool reserved8() override { return true; }
+        void reserved9() override {}
     } other;
     QVERIFY(test.isSupported(&device));
     QVERIFY(!test.isSupported(&other));
@@ -200,9 +205,8 @@ void TestMicrophoneInteractiveTest::withoutInputItCannotBePerformed()
     host.canReceive = false;
     MicrophoneInteractiveTest test(identity);
     QCOMPARE(test.run(&host), 3U);
-    QCOMPARE(host.calls,
-             (QByteArrayList{"events", "can receive"} +
-              ending("THIS_TEST_CANNOT_BE_PERFORMED_BECAUSE_THE_DEVICE_CAN_NOT_RECEIVE_INPUT")));
+    QCOMPARE(host.calls, (QByteArrayList{"events", "can receive"} +
+                          ending("THIS_TEST_CANNOT_BE_PERFORMED_BECAUSE_THE_DEVICE_CAN_NOT_RECEIVE_INPUT")));
 }
 
 void TestMicrophoneInteractiveTest::withoutAMicrophoneItIsNotCompleted()
@@ -323,7 +327,10 @@ void TestMicrophoneInteractiveTest::runsOnAnotherThread()
         class Reporter final : public ProgressReporter {
         public:
             explicit Reporter(MicrophoneHost &host) : host_(host) {}
-            void report(std::uint32_t percent, std::string text) override { host_.reporter()->report(percent, std::move(text)); }
+            void report(std::uint32_t percent, std::string text) override
+            {
+                host_.reporter()->report(percent, std::move(text));
+            }
             void requestInput(InputRequest *request) override
             {
                 QMetaObject::invokeMethod(
