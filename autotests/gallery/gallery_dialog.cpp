@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/gallery/gallery_dialog.h"
 
+#include "resources/icons.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -97,7 +99,7 @@ QWidget *card(const char *name, const QString &text)
 
 GalleryDialog::GalleryDialog(QWidget *parent) : AccessibleDialogBase(parent)
 {
-    Q_INIT_RESOURCE(gallery);
+    ostra::initIcons();
     setWindowTitle(QStringLiteral("Gallery"));
     auto *whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
