@@ -42,6 +42,7 @@ InteractionDialog::InteractionDialog(const QString &outputDeviceName, QWidget *p
     for (QWidget *page : std::initializer_list<QWidget *>{selectDevice_, recordAudio_, playAudio_})
         ui_->microphone_test_popups_space->addWidget(page);
     ui_->microphone_test_popups_space->setCurrentWidget(selectDevice_);
+    selectDevice_->takeFocus();
     connect(this, &QDialog::finished, this, &InteractionDialog::closing);
     connect(this, &InteractionDialog::closing, this, &InteractionDialog::stopJobs);
     const utils::Dpi *dpi = utils::Dpi::instance();

@@ -15,6 +15,9 @@ SelectDevice::SelectDevice(QWidget *parent) : QWidget(parent), ui_(formOf<Ui::Se
     setAttribute(
         Qt::WA_StyledBackground); // a plain widget of a class of its own paints no background of a stylesheet otherwise
     ui_->microphone_test_select_mic_device_label->setText(translated("SELECT_A_MICROPHONE_DEVICE"));
+    // Set by the scroll area; it would lie on the stylesheet's background.
+    ui_->microphone_test_selection_radio_buttons_list->setAutoFillBackground(false);
+    ui_->microphone_test_selection_radio_buttons_space->viewport()->setAutoFillBackground(false);
     prepareButtons();
     listMicrophones();
 }
@@ -41,6 +44,12 @@ void SelectDevice::listMicrophones()
     }
     if (!choices_.buttons().isEmpty())
         choices_.buttons().constFirst()->setChecked(true);
+}
+
+void SelectDevice::takeFocus()
+{
+    QWidget *checked = choices_.checkedButton();
+    (checked != nullptr ? checked : ui_->microphone_test_cancel_button)->setFocus();
 }
 
 void SelectDevice::onBtnNextClicked()

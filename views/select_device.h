@@ -22,6 +22,9 @@ public:
     explicit SelectDevice(QWidget *parent = nullptr);
     ~SelectDevice() override;
 
+    /// Gives the focus to the checked microphone, so that it is not on a button that ends the dialog.
+    void takeFocus();
+
 signals:
     void NextWidget();
     /// Before each `NextWidget()`.

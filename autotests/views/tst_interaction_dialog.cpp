@@ -133,6 +133,8 @@ private slots:
     void isNotDraggedByAnythingElse();
     void isCentredOnAParentThatItGetsLater();
     void pagesCoverTheWholeDialog();
+    void nothingCoversTheBackgroundOfTheList();
+    void theFocusBeginsOnThePage();
     void noButtonIsADefaultOne();
     void screenReadersGetTheNameOfTheCloseButton();
 };
@@ -662,6 +664,29 @@ void TestInteractionDialog::pagesCoverTheWholeDialog()
         for (int x = 0; x < behind.width(); ++x)
             QVERIFY2(qAlpha(behind.pixel(x, y)) == 255, qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
     }
+}
+
+void TestInteractionDialog::nothingCoversTheBackgroundOfTheList()
+{
+    Stage stage;
+    stage.dialog->setStyleSheet(
+        QStringLiteral("QWidget#microphone_test_selection_radio_buttons_space { background-color: #123456; }"));
+    stage.dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(stage.dialog.get()));
+    QWidget *list = named<QWidget>(*stage.dialog, "microphone_test_selection_radio_buttons_space");
+    const QImage image = stage.dialog->grab().toImage();
+    const QPoint corner = list->mapTo(stage.dialog.get(), list->rect().bottomRight() - QPoint(12, 4));
+    QCOMPARE(image.pixelColor(corner), QColor(0x12, 0x34, 0x56));
+}
+
+void TestInteractionDialog::theFocusBeginsOnThePage()
+{
+    Stage stage;
+    stage.dialog->show();
+    stage.dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(stage.dialog.get()));
+    QVERIFY(stage.dialog->focusWidget() != nullptr);
+    QVERIFY2(stage.select().isAncestorOf(stage.dialog->focusWidget()), "a Space would close the dialog");
 }
 
 void TestInteractionDialog::noButtonIsADefaultOne()
