@@ -10,9 +10,10 @@ class MicrophoneInteractiveTest final : public Test {
 public:
     using Test::Test;
 
-    /// False until the dialog exists: a test that cannot run must not look as if it could.
+    /// For an output device of this module while the machine has a microphone.
     bool isSupported(SystemComponent *component) override;
-    /// Answers "cannot be performed" with the key of an unidentified device; nothing is played, recorded or judged.
+    /// Answers 0, 1, 3 or 4. Every endpoint is at full volume while the dialog runs. A context that lacks a service ends the
+    /// run with 4 and nothing said. Throws nothing.
     std::uint32_t run(TestContext *context) override;
     bool firstFlag() override { return true; }
 };

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/audio_widget_wrapper.h"
+
+#include "contract/test_context.h"
+#include "views/interaction_dialog.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include <utility>
+
+namespace ostra {
+
+namespace {
+
+// Runs `action` on the thread of `object` before it returns.
+template <typename Action>
+void runInThreadOf(QObject &object, Action action)
+{
+    if (object.thread() == QThread::currentThread())
+        action();
+    else
+        QMetaObject::invokeMethod(&object, action, Qt::BlockingQueuedConnection);
+}
+
+// The dialog belongs to the application's thread and asks the host's objects until it is destroyed: so it is not left to
+// itself when a test that ran on another thread is over.
+void deleteWithDialog(AudioWidgetWrapper *wrapper)
+{
+    QCoreApplication *application = QCoreApplication::instance();
+    if (wrapper->hasDialog() && application != nullptr)
+        runInThreadOf(*application, [wrapper] { delete wrapper; });
+    else
+        delete wrapper;
+}
+
+} // namespace
+
+AudioWidgetWrapper::AudioWidgetWrapper(QString outputDeviceName, TestContext &context)
+    : outputDeviceName_(std::move(outputDeviceName)), context_(context), outcome_(dialog_result::cancelled)
+{
+    if (const QCoreApplication *application = QCoreApplication::instance())
+        moveToThread(application->thread());
+}
+
+AudioWidgetWrapper::~AudioWidgetWrapper()
+{
+    if (dialog_) {
+        dialog_->disconnect(this); // what it tells while it goes reaches nobody
+        delete dialog_;
+    }
+}
+
+void AudioWidgetWrapper::makeDialog(QWidget *parent, QObject *argument)
+{
+    dialog_ = new InteractionDialog(outputDeviceName_, parent, argument, context_.events());
+    hasDialog_ = true;
+    dialog_->setCancellationWatcher(&context_);
+    dialog_->setResult(dialog_result::none);
+    dialog_->setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void AudioWidgetWrapper::watchDialog()
+{
+    InteractionDialog *dialog = dialog_;
+    connect(dialog, &QObject::destroyed, this, [this] {
+        dialog_.clear();
+        hasDialog_ = false;
+    });
+    // Kept at once: the dialog may be gone when its loop returns.
+    connect(dialog, &QDialog::finished, this, [this, dialog] {
+        hasFinished_ = true;
+        isDeviceLost_ = dialog->isDeviceDisconnected();
+        hasInternalError_ = dialog->isAborted();
+    });
+    connect(this, &AudioWidgetWrapper::CloseDialog, dialog, [dialog] {
+        if (dialog->result() == dialog_result::none)
+            dialog->close();
+    });
+}
+
+int AudioWidgetWrapper::runDialog(QWidget *parent, QObject *argument)
+{
+    delete dialog_;
+    makeDialog(parent, argument);
+    watchDialog();
+    dialog_->raiseOnce();
+    const int result = dialog_->exec();
+    // Result 0 of a dialog that never finished would be taken for a pass.
+    const int outcome = hasFinished_ ? result : dialog_result::cancelled;
+    endDialog();
+    return outcome;
+}
+
+void AudioWidgetWrapper::endDialog()
+{
+    if (dialog_ && !hasFinished_)
+        dialog_->done(dialog_result::cancelled);
+    // The loop does not let a dialog delete itself. One that the host's watcher stopped is still open, until `closeDialog`.
+    if (dialog_ && dialog_->isHidden())
+        dialog_->deleteLater();
+}
+
+int AudioWidgetWrapper::exec(QWidget *parent, QObject *argument)
+{
+    try {
+        outcome_ = runDialog(parent, argument);
+    } catch (...) { // out of memory; the host's frames are between here and the test
+        hasInternalError_ = true;
+        outcome_ = dialog_result::closed;
+    }
+    return outcome_;
+}
+
+void AudioWidgetWrapper::closeDialog()
+{
+    if (hasDialog_)
+        runInThreadOf(*this, [this] { emit CloseDialog(); });
+}
+
+std::shared_ptr<AudioWidgetWrapper> makeAudioWidgetWrapper(QString outputDeviceName, TestContext &context)
+{
+    return {new AudioWidgetWrapper(std::move(outputDeviceName), context), &deleteWithDialog};
+}
+
+} // namespace ostra
