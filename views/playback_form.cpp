@@ -12,6 +12,7 @@
 #include <QList>
 
 #include <array>
+#include <initializer_list>
 
 namespace ostra::playback_form {
 
