@@ -20,7 +20,7 @@ Commands:
   -Maudio -Q         chooses all tests of the audio diagnostic (also: --quick)
   -Maudio -Q"pm"     chooses tests by letter (also: --quick="p", -Q"p,m", names separated by commas)
 
-Tests that need a user do not run on the command line; the graphical host, which will run them, is yet to come.
+Tests that need a user do not run on the command line; the graphical host, TamrexDiagnostics, runs them.
 A device id is a device's exact name or its number, both as list shows them; a name goes before a number.
 After "--" a device name may begin with "-".
 
