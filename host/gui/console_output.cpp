@@ -3,14 +3,13 @@
 
 #include "contract/result_codes.h"
 #include "host/core/verdict.h"
+#include "host/reports/digit_table.h"
 
 #include <cstdio>
 
 namespace host {
 
 namespace {
-
-constexpr int columnWidth = 9;
 
 void write(std::FILE *stream, const QString &text)
 {
@@ -38,38 +37,6 @@ QString verdictWords(Verdict verdict)
     return QStringLiteral("not completed");
 }
 
-QString optionalDigit(const std::optional<int> &digit) { return digit ? QString::number(*digit) : QStringLiteral("-"); }
-
-QString row(const QStringList &cells)
-{
-    QString line;
-    for (const QString &cell : cells)
-        line += cell.rightJustified(columnWidth) + u' ';
-    line.chop(1);
-    return line + u'\n';
-}
-
-QString digitRow(const HeardDigit &digit)
-{
-    return row({QString::number(digit.sequence), QString::number(digit.position), QString::number(digit.playedAtMs),
-                optionalDigit(digit.heard), optionalDigit(digit.typed), QString::number(digit.score, 'f', 3),
-                QString::number(digit.margin, 'f', 3),
-                digit.latencyMs < 0 ? QStringLiteral("-") : QString::number(digit.latencyMs, 'f', 1),
-                QString::number(digit.levelDbfs, 'f', 1), digit.clipped ? QStringLiteral("yes") : QStringLiteral("no")});
-}
-
-QString digitTable(const QList<HeardDigit> &digits)
-{
-    if (digits.isEmpty())
-        return {};
-    QString table = row({QStringLiteral("sequence"), QStringLiteral("position"), QStringLiteral("at ms"),
-                         QStringLiteral("heard"), QStringLiteral("typed"), QStringLiteral("score"), QStringLiteral("margin"),
-                         QStringLiteral("delay ms"), QStringLiteral("dBFS"), QStringLiteral("clipped")});
-    for (const HeardDigit &digit : digits)
-        table += digitRow(digit);
-    return table;
-}
-
 } // namespace
 
 void print(const QString &text) { write(stdout, text); }
@@ -88,7 +55,7 @@ QString runSummary(const RunRecord &record)
         const bool isError = message.level == ostra::message_level::error;
         text += QStringLiteral("%1: %2\n").arg(isError ? QStringLiteral("error") : QStringLiteral("note"), message.text);
     }
-    return text + digitTable(record.digits);
+    return text + digitTable(record);
 }
 
 QString unknownDevice(const QString &name, const QList<Device> &devices)
