@@ -45,6 +45,7 @@ struct RunRecord {
     QString language; ///< code such as "en_US"
     QDateTime startedUtc;
     QDateTime endedUtc;
+    bool wasModuleCalled = true;  ///< false: the host had to refuse, and `moduleCode` says nothing
     std::uint32_t moduleCode = 4; ///< what the module returned
     std::uint32_t code = 4;       ///< the verdict: 4 when the run was stopped, else `moduleCode`
     bool wasStopped = false;
@@ -56,6 +57,7 @@ struct RunRecord {
     QList<HeardDigit> digits;
     QStringList screenshots;     ///< files, absolute paths
     QStringList restoredVolumes; ///< endpoints whose level the guardian had to put back
+    QString volumeComplaint;     ///< what the guardian could not do; empty when all went well
 };
 
 } // namespace host

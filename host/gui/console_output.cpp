@@ -51,6 +51,8 @@ QString runSummary(const RunRecord &record)
                             QString::number(codeOf(verdict)));
     if (!record.reason.isEmpty())
         text += QStringLiteral("reason: %1\n").arg(record.reason);
+    if (!record.volumeComplaint.isEmpty())
+        text += QStringLiteral("volumes: %1\n").arg(record.volumeComplaint);
     for (const RunMessage &message : record.messages) {
         const bool isError = message.level == ostra::message_level::error;
         text += QStringLiteral("%1: %2\n").arg(isError ? QStringLiteral("error") : QStringLiteral("note"), message.text);

@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTimer>
 
 namespace host {
@@ -26,9 +27,15 @@ namespace {
 constexpr int noModuleExitCode = 6;
 constexpr int usageExitCode = 2;
 
-bool settleLanguage(const Options &options, LanguageSetting &language)
+// A run with nobody there leaves no trace in the settings: the windows of another host would go on in one language and speak
+// another.
+bool settleLanguage(const Options &options, LanguageSetting &language, const QTemporaryDir &passing)
 {
-    bool isSettled = options.configFolder.isEmpty() ? language.useOwnFolder() : language.useForeignFolder(options.configFolder);
+    const QString own = options.isUnattended && !options.language.isEmpty() && passing.isValid()
+                            ? passing.path()
+                            : LanguageSetting::defaultFolder();
+    bool isSettled =
+        options.configFolder.isEmpty() ? language.useOwnFolder(own) : language.useForeignFolder(options.configFolder);
     if (!options.language.isEmpty())
         isSettled = language.change(options.language) && isSettled;
     installTranslators(language.code());
@@ -123,7 +130,8 @@ int runGuiProgram(const Options &options)
     QApplication::setQuitOnLastWindowClosed(false); // the end of a test's dialog must not end the program
     const InterruptWatcher interrupts;              // before anything that takes its time
     LanguageSetting language;
-    const bool isLanguageSettled = settleLanguage(options, language);
+    const QTemporaryDir passing;
+    const bool isLanguageSettled = settleLanguage(options, language, passing);
     ModuleLibrary library;
     if (!library.open())
         return refuseWithoutModule(options, library);

@@ -17,15 +17,29 @@ UnattendedRun::UnattendedRun(TestSession &session, const Options &options, QStri
     : session_(session), options_(options), language_(std::move(language))
 {}
 
+// The listed device whose monitor that source is by its name; empty when it is none of them.
+QString UnattendedRun::deviceOfMonitor(const QString &source) const
+{
+    for (const Device &device : session_.deviceList().devices()) {
+        if (source == QStringLiteral("Monitor of ") + device.name)
+            return device.name;
+    }
+    return {};
+}
+
 bool UnattendedRun::prepare(QString &problem)
 {
+    problem.clear();
     test_ = session_.findTest(options_.test);
     device_ = session_.deviceList().find(options_.device);
     if (test_ < 0)
         problem = QStringLiteral("the module has no test '%1'").arg(options_.test);
     else if (device_ < 0)
         problem = unknownDevice(options_.device, session_.deviceList().devices());
-    return test_ >= 0 && device_ >= 0;
+    else if (const QString other = deviceOfMonitor(options_.source); !other.isEmpty() && other != options_.device)
+        problem = QStringLiteral("'%1' hears another device than '%2', which would be blamed for its silence")
+                      .arg(options_.source, options_.device);
+    return problem.isEmpty();
 }
 
 int UnattendedRun::run()
@@ -63,7 +77,8 @@ RunRecord UnattendedRun::unheard(const QString &reason) const
     record.language = language_;
     record.startedUtc = QDateTime::currentDateTimeUtc();
     record.endedUtc = record.startedUtc;
-    record.moduleCode = record.code = ostra::result::cannotBePerformed;
+    record.wasModuleCalled = false;
+    record.code = ostra::result::cannotBePerformed;
     record.reason = reason;
     record.isUnattended = true;
     record.listenedTo = options_.source;

@@ -24,6 +24,7 @@ public:
 
 private:
     std::optional<RunRecord> perform();
+    QString deviceOfMonitor(const QString &source) const;
     RunRecord unheard(const QString &reason) const;
     bool writeReport(const RunRecord &record) const;
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/reports/run_report.h"
 
-#include "host/reports/run_limits.h"
-
 #include "contract/result_codes.h"
+#include "host/core/verdict.h"
+#include "host/reports/run_limits.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -85,9 +85,10 @@ QJsonObject bodyOf(const RunRecord &record)
             {QStringLiteral("language"), record.language},
             {QStringLiteral("startedUtc"), momentOf(record.startedUtc)},
             {QStringLiteral("endedUtc"), momentOf(record.endedUtc)},
-            {QStringLiteral("verdict"), QJsonObject{{QStringLiteral("code"), static_cast<qint64>(record.code)},
-                                                    {QStringLiteral("name"), resultName(record.code)}}},
-            {QStringLiteral("moduleCode"), static_cast<qint64>(record.moduleCode)},
+            {QStringLiteral("verdict"), QJsonObject{{QStringLiteral("code"), static_cast<qint64>(codeOf(verdictOf(record)))},
+                                                    {QStringLiteral("name"), resultName(codeOf(verdictOf(record)))}}},
+            {QStringLiteral("moduleCode"),
+             record.wasModuleCalled ? QJsonValue(static_cast<qint64>(record.moduleCode)) : QJsonValue()},
             {QStringLiteral("stopped"), record.wasStopped},
             {QStringLiteral("reason"), record.reason},
             {QStringLiteral("progress"), progressOf(record)},
@@ -96,6 +97,7 @@ QJsonObject bodyOf(const RunRecord &record)
             {QStringLiteral("listenedTo"), record.listenedTo},
             {QStringLiteral("digits"), digitsOf(record)},
             {QStringLiteral("restoredVolumes"), QJsonArray::fromStringList(record.restoredVolumes)},
+            {QStringLiteral("volumeComplaint"), record.volumeComplaint},
             {QStringLiteral("screenshots"), QJsonArray::fromStringList(record.screenshots)}};
 }
 

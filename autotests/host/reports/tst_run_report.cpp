@@ -84,6 +84,7 @@ private slots:
     void tellsWhatIsNotKnownAsNull();
     void namesEachVerdict_data();
     void namesEachVerdict();
+    void isNeverAPassThatTheExitCodeDenies();
     void putsTheLimitsLast();
     void choosesTheLimits_data();
     void choosesTheLimits();
@@ -146,30 +147,46 @@ void TestRunReport::tellsWhatIsNotKnownAsNull()
 void TestRunReport::namesEachVerdict_data()
 {
     QTest::addColumn<unsigned>("code");
+    QTest::addColumn<int>("told");
     QTest::addColumn<QString>("name");
-    QTest::newRow("0") << 0U << QStringLiteral("passed");
-    QTest::newRow("1") << 1U << QStringLiteral("failed");
-    QTest::newRow("3") << 3U << QStringLiteral("cannot be performed");
-    QTest::newRow("4") << 4U << QStringLiteral("not completed");
-    QTest::newRow("6") << 6U << QStringLiteral("invalid call");
-    QTest::newRow("5") << 5U << QStringLiteral("unknown");
+    QTest::newRow("0") << 0U << 0 << QStringLiteral("passed");
+    QTest::newRow("1") << 1U << 1 << QStringLiteral("failed");
+    QTest::newRow("3") << 3U << 3 << QStringLiteral("cannot be performed");
+    QTest::newRow("4") << 4U << 4 << QStringLiteral("not completed");
+    QTest::newRow("6") << 6U << 6 << QStringLiteral("invalid call");
+    QTest::newRow("5") << 5U << 4 << QStringLiteral("not completed"); // no module may return it
 }
 
 void TestRunReport::namesEachVerdict()
 {
     QFETCH(const unsigned, code);
+    QFETCH(const int, told);
     QFETCH(const QString, name);
     RunRecord record = playbackRecord();
     record.code = code;
-    record.wasStopped = true;
+    record.messages.clear();
     record.reason = QStringLiteral("listener lost");
     const QJsonObject report = parsed(record);
     const QJsonObject verdict = report.value(QLatin1String("verdict")).toObject();
-    QCOMPARE(verdict.value(QLatin1String("code")).toInt(), static_cast<int>(code));
+    QCOMPARE(verdict.value(QLatin1String("code")).toInt(), told);
     QCOMPARE(verdict.value(QLatin1String("name")).toString(), name);
     QCOMPARE(report.value(QLatin1String("moduleCode")).toInt(), 1);
-    QVERIFY(report.value(QLatin1String("stopped")).toBool());
     QCOMPARE(report.value(QLatin1String("reason")).toString(), QStringLiteral("listener lost"));
+}
+
+void TestRunReport::isNeverAPassThatTheExitCodeDenies()
+{
+    RunRecord record = playbackRecord();
+    record.code = 0;
+    QVERIFY(!record.messages.isEmpty()); // one that explains a failure
+    QCOMPARE(parsed(record).value(QLatin1String("verdict")).toObject().value(QLatin1String("code")).toInt(), 4);
+    record.messages.clear();
+    record.wasStopped = true;
+    const QJsonObject stopped = parsed(record);
+    QCOMPARE(stopped.value(QLatin1String("verdict")).toObject().value(QLatin1String("code")).toInt(), 4);
+    QVERIFY(stopped.value(QLatin1String("stopped")).toBool());
+    record.wasModuleCalled = false;
+    QVERIFY(parsed(record).value(QLatin1String("moduleCode")).isNull());
 }
 
 void TestRunReport::putsTheLimitsLast()
