@@ -79,7 +79,7 @@ sal::Timer *get_timer()
 sal::ModuleLoader *get_module()
 {
     static fake_sal::NoModules service;
-    return &service;
+    return fake_sal::state().hasModuleLoader ? &service : nullptr;
 }
 
 sal::TemporaryPath *get_temporary_path()

@@ -151,6 +151,8 @@ void TestStyleRules::qtReadsWhatIsWritten_data()
     QTest::newRow("selectors") << QByteArray("QWidget > .QLabel#a-b_c[x=\"y\"]:hover, * QFrame::item{x:1}") << QByteArray();
     QTest::newRow("values") << QByteArray("A{a:-1.5px +2em 30% #abc rgb(1, 2, 3);b:url( \"x\" ) 'y';c:a, b/c;d:e !important}")
                             << QByteArray();
+    QTest::newRow("signs without a colour")
+        << QByteArray("A{a:x#a, red;b:#zz;c:#12345;d:#1234567;e:#12345678;f:#fff#ffg}") << QByteArray();
     QTest::newRow("beyond ASCII") << QByteArray("QLabel#\xC3\xA4{x:1}A{b:\xC3\xA4;c:\"\xE2\x82\xAC\xC3\xA4\"}") << QByteArray();
 }
 

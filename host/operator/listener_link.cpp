@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QJsonDocument>
 
 namespace host {
 
@@ -13,21 +12,6 @@ namespace {
 constexpr int startLimitMs = 35'000;
 constexpr int endLimitMs = 3'000;
 constexpr int pollMs = 100;
-
-double number(const QJsonObject &object, const char *key) { return object.value(QLatin1String(key)).toDouble(); }
-
-HeardEvent soundOf(const QJsonObject &object)
-{
-    HeardEvent event;
-    event.startMs = static_cast<qint64>(number(object, "startMs"));
-    if (const int digit = object.value(QLatin1String("digit")).toInt(-1); digit >= 0 && digit <= 9)
-        event.digit = digit;
-    event.score = number(object, "score");
-    event.margin = number(object, "margin");
-    event.levelDbfs = number(object, "levelDbfs");
-    event.isClipped = object.value(QLatin1String("clipped")).toBool();
-    return event;
-}
 
 } // namespace
 
@@ -77,20 +61,27 @@ void ListenerLink::noteEnd()
 void ListenerLink::readLines()
 {
     while (process_.canReadLine())
-        take(QJsonDocument::fromJson(process_.readLine()).object());
+        take(readListenerLine(process_.readLine()));
 }
 
-void ListenerLink::take(const QJsonObject &object)
+void ListenerLink::take(const ListenerLine &line)
 {
-    const QString event = object.value(QLatin1String("event")).toString();
-    if (event == QLatin1String("digit") || event == QLatin1String("sound"))
-        log_.addSound(soundOf(object));
-    else if (event == QLatin1String("level"))
-        log_.addLevel(static_cast<qint64>(number(object, "atMs")), number(object, "levelDbfs"));
-    else if (event == QLatin1String("ready"))
+    switch (line.kind) {
+    case ListenerLine::Kind::sound:
+        log_.addSound(line.sound);
+        break;
+    case ListenerLine::Kind::level:
+        log_.addLevel(line.sound.startMs, line.sound.levelDbfs);
+        break;
+    case ListenerLine::Kind::ready:
         isReady_ = true;
-    else if (event == QLatin1String("lost"))
+        break;
+    case ListenerLine::Kind::lost:
         isLost_ = true;
+        break;
+    case ListenerLine::Kind::unknown:
+        break;
+    }
 }
 
 } // namespace host

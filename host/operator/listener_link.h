@@ -2,9 +2,8 @@
 #pragma once
 
 #include "host/operator/heard_log.h"
+#include "host/operator/listener_line.h"
 
-#include <QByteArray>
-#include <QJsonObject>
 #include <QObject>
 #include <QProcess>
 #include <QString>
@@ -30,7 +29,7 @@ public:
 
 private:
     void readLines();
-    void take(const QJsonObject &event);
+    void take(const ListenerLine &line);
     void noteEnd();
 
     QProcess process_;
