@@ -86,11 +86,24 @@ void ListenerLink::take(const QJsonObject &object)
     if (event == QLatin1String("digit") || event == QLatin1String("sound"))
         log_.addSound(soundOf(object));
     else if (event == QLatin1String("level"))
-        log_.addLevel(static_cast<qint64>(number(object, "atMs")), number(object, "levelDbfs"));
+        takeLevel(object);
     else if (event == QLatin1String("ready"))
-        isReady_ = true;
+        takeReady(object);
     else if (event == QLatin1String("lost"))
         isLost_ = true;
+}
+
+void ListenerLink::takeLevel(const QJsonObject &object)
+{
+    const auto atMs = static_cast<qint64>(number(object, "atMs"));
+    log_.addLevel(atMs, number(object, "levelDbfs"));
+    log_.addArrival(atMs, number(object, "frames"), number(object, "droppedFrames"));
+}
+
+void ListenerLink::takeReady(const QJsonObject &object)
+{
+    log_.addArrival(static_cast<qint64>(number(object, "steadyMs")), 0, 0);
+    isReady_ = true;
 }
 
 } // namespace host

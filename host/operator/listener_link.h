@@ -31,6 +31,8 @@ public:
 private:
     void readLines();
     void take(const QJsonObject &event);
+    void takeLevel(const QJsonObject &event);
+    void takeReady(const QJsonObject &event);
     void noteEnd();
 
     QProcess process_;

@@ -120,6 +120,7 @@ void PlaybackWorker::wait()
         enter(Step::playing);
     } else if (step_ == Step::playing && isIdle) {
         playEndMs_ = steadyNowMs();
+        plays_.append({listenFromMs_, playEndMs_});
         enter(Step::deciding);
     } else if (inStepMs() > (step_ == Step::waiting ? waitLimitMs : playLimitMs)) {
         close(QStringLiteral("the dialog did not play its sequence"));
@@ -168,12 +169,24 @@ void PlaybackWorker::listenAgain()
 void PlaybackWorker::giveUp()
 {
     noteRows();
-    if (log_.loudestBetween(listenFromMs_, playEndMs_) >= HeardLog::audibleDbfs)
-        return close(QStringLiteral("not recognised"));
+    if (const QString reason = whyNotSilent(); !reason.isEmpty())
+        return close(reason);
     if (clickOn(find(failButton)))
         enter(Step::answered);
     else if (inStepMs() > listenerLimitMs)
         close(QStringLiteral("the dialog could not be answered"));
+}
+
+// Why the device cannot be called silent; empty where it can.
+QString PlaybackWorker::whyNotSilent() const
+{
+    for (const Play &play : plays_) {
+        if (!log_.hasListenedBetween(play.fromMs, play.toMs))
+            return QStringLiteral("listener lost");
+    }
+    if (log_.loudestBetween(listenFromMs_, playEndMs_) >= HeardLog::audibleDbfs)
+        return QStringLiteral("not recognised");
+    return {};
 }
 
 void PlaybackWorker::type()

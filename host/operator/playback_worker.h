@@ -53,6 +53,7 @@ private:
     void decide();
     void listenAgain();
     void giveUp();
+    QString whyNotSilent() const;
     void type();
     void typeNext();
     void close(const QString &reason);
@@ -67,6 +68,10 @@ private:
     void noteMovie();
     void noteShown(const QObject *widget);
 
+    struct Play {
+        qint64 fromMs;
+        qint64 toMs;
+    };
     struct Child {
         qint64 bornMs;
         QPointer<QObject> object;
@@ -84,6 +89,7 @@ private:
     qint64 secondShownMs_ = 0;
     qint64 playEndMs_ = 0;
     bool hasRepeated_ = false;
+    QList<Play> plays_; ///< those that are over, of both sequences
     QList<int> answer_;
     int typedCount_ = 0; ///< digits whose keys were pressed
     QList<HeardDigit> rows_;

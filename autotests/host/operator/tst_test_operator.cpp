@@ -78,6 +78,8 @@ private slots:
     void mistypesBothSequences();
     void asksOnceForARepetition();
     void saysThatNothingWasHeard();
+    void blamesNobodyWhereItCouldNotListen_data();
+    void blamesNobodyWhereItCouldNotListen();
     void closesWhereTheSoundIsNoDigit();
     void doesNotTypeADigitTwice();
     void closesWhenTheListenerDies();
@@ -166,6 +168,30 @@ void TestTestOperator::saysThatNothingWasHeard()
     QCOMPARE(heardIn(record), (QList<int>{-1, -1, -1}));
     QCOMPARE(record.digits.at(0).levelDbfs, -120.0);
     QVERIFY(record.reason.isEmpty()); // the module's own verdict
+}
+
+void TestTestOperator::blamesNobodyWhereItCouldNotListen_data()
+{
+    QTest::addColumn<double>("share");
+    QTest::addColumn<int>("droppedFrameCount");
+    QTest::newRow("nothing arrived") << 0.0 << 0;
+    QTest::newRow("half of it arrived") << 0.5 << 0;
+    QTest::newRow("a frame was dropped") << 1.0 << 1;
+}
+
+// A capture that delivers nothing sounds like a silent device.
+void TestTestOperator::blamesNobodyWhereItCouldNotListen()
+{
+    QFETCH(const double, share);
+    QFETCH(const int, droppedFrameCount);
+    ListenerScript script;
+    StandInDialog dialog({{5, 6, 8}}, [&](int digit) {
+        if (digit < 0)
+            script.level(-120, share, droppedFrameCount);
+    });
+    const RunRecord record = run(dialog, settings());
+    QCOMPARE(dialog.outcome(), Outcome::closed);
+    QCOMPARE(record.reason, QStringLiteral("listener lost"));
 }
 
 void TestTestOperator::closesWhereTheSoundIsNoDigit()
