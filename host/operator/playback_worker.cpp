@@ -8,6 +8,8 @@
 #include <QMovie>
 
 #include <algorithm>
+#include <limits>
+#include <tuple>
 #include <utility>
 
 namespace host {
@@ -35,6 +37,19 @@ constexpr qint64 pressAgainMs = 2'000;
 /// The clocks of dialog and capture agree to a buffer or two.
 constexpr qint64 clockToleranceMs = 200;
 constexpr qint64 longestLatencyMs = 2'000;
+
+/// How well the digits of a play were heard: digits, sounds of any kind, loudest level.
+std::tuple<qsizetype, qsizetype, double> clarityOf(const QList<HeardDigit> &rows)
+{
+    std::tuple<qsizetype, qsizetype, double> clarity{0, 0, -std::numeric_limits<double>::infinity()};
+    auto &[digitCount, soundCount, levelDbfs] = clarity;
+    for (const HeardDigit &row : rows) {
+        digitCount += row.heard ? 1 : 0;
+        soundCount += row.playedAtMs >= 0 ? 1 : 0;
+        levelDbfs = std::max(levelDbfs, row.levelDbfs);
+    }
+    return clarity;
+}
 
 } // namespace
 
@@ -143,7 +158,7 @@ void PlaybackWorker::decide()
             values.append(*event.digit);
     }
     if (digits.size() == sequenceLength && values.size() == sequenceLength) {
-        noteRows();
+        noteRows(rowsOfPlay());
         answer_ = values;
         typedCount_ = 0;
         return enter(Step::typing);
@@ -156,6 +171,7 @@ void PlaybackWorker::decide()
 
 void PlaybackWorker::listenAgain()
 {
+    noteBetterRows();
     if (!clickOn(find(repeatButton))) {
         if (inStepMs() > listenerLimitMs)
             close(QStringLiteral("the dialog could not be answered"));
@@ -168,7 +184,7 @@ void PlaybackWorker::listenAgain()
 
 void PlaybackWorker::giveUp()
 {
-    noteRows();
+    noteBetterRows();
     if (const QString reason = whyNotSilent(); !reason.isEmpty())
         return close(reason);
     if (clickOn(find(failButton)))
@@ -184,9 +200,10 @@ QString PlaybackWorker::whyNotSilent() const
         if (!log_.hasListenedBetween(play.fromMs, play.toMs))
             return QStringLiteral("listener lost");
     }
-    if (log_.loudestBetween(listenFromMs_, playEndMs_) >= HeardLog::audibleDbfs)
-        return QStringLiteral("not recognised");
-    return {};
+    const bool wasHeard = std::any_of(plays_.begin(), plays_.end(), [this](const Play &play) {
+        return log_.loudestBetween(play.fromMs, play.toMs) >= HeardLog::audibleDbfs;
+    });
+    return wasHeard ? QStringLiteral("not recognised") : QString();
 }
 
 void PlaybackWorker::type()
@@ -239,7 +256,7 @@ void PlaybackWorker::pressClose()
 }
 
 // The three loudest where noises came between, in the order of their beginning; digits before other sounds.
-QList<HeardEvent> PlaybackWorker::rowsOfPlay() const
+QList<HeardEvent> PlaybackWorker::loudestOfPlay() const
 {
     QList<HeardEvent> sounds = log_.soundsBetween(listenFromMs_, playEndMs_);
     std::stable_sort(sounds.begin(), sounds.end(), [](const HeardEvent &left, const HeardEvent &right) {
@@ -251,10 +268,10 @@ QList<HeardEvent> PlaybackWorker::rowsOfPlay() const
     return sounds;
 }
 
-void PlaybackWorker::noteRows()
+QList<HeardDigit> PlaybackWorker::rowsOfPlay() const
 {
-    rows_.removeIf([this](const HeardDigit &row) { return row.sequence == sequence_; });
-    const QList<HeardEvent> sounds = rowsOfPlay();
+    QList<HeardDigit> rows;
+    const QList<HeardEvent> sounds = loudestOfPlay();
     for (int position = 1; position <= sequenceLength; ++position) {
         HeardDigit row;
         row.sequence = sequence_;
@@ -272,8 +289,25 @@ void PlaybackWorker::noteRows()
             row.levelDbfs = sound.levelDbfs;
             row.clipped = sound.isClipped;
         }
-        rows_.append(row);
+        rows.append(row);
     }
+    return rows;
+}
+
+void PlaybackWorker::noteRows(const QList<HeardDigit> &rows)
+{
+    rows_.removeIf([this](const HeardDigit &row) { return row.sequence == sequence_; });
+    rows_.append(rows);
+}
+
+// A repetition that was heard worse leaves the rows of the play before it.
+void PlaybackWorker::noteBetterRows()
+{
+    QList<HeardDigit> before = rows_;
+    before.removeIf([this](const HeardDigit &row) { return row.sequence != sequence_; });
+    const QList<HeardDigit> rows = rowsOfPlay();
+    if (before.isEmpty() || clarityOf(rows) >= clarityOf(before))
+        noteRows(rows);
 }
 
 double PlaybackWorker::latencyOf(qint64 startMs) const

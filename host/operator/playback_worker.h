@@ -60,8 +60,10 @@ private:
     void pressClose();
 
     QList<HeardEvent> digitsOfPlay() const;
-    void noteRows();
-    QList<HeardEvent> rowsOfPlay() const;
+    QList<HeardEvent> loudestOfPlay() const;
+    QList<HeardDigit> rowsOfPlay() const;
+    void noteRows(const QList<HeardDigit> &rows);
+    void noteBetterRows();
     int digitToType(int position) const;
     double latencyOf(qint64 startMs) const;
 

@@ -78,6 +78,9 @@ private slots:
     void mistypesBothSequences();
     void asksOnceForARepetition();
     void saysThatNothingWasHeard();
+    void doesNotCallADeviceSilentThatWasHeard_data();
+    void doesNotCallADeviceSilentThatWasHeard();
+    void keepsTheRowsOfTheBetterPlay();
     void blamesNobodyWhereItCouldNotListen_data();
     void blamesNobodyWhereItCouldNotListen();
     void closesWhereTheSoundIsNoDigit();
@@ -168,6 +171,47 @@ void TestTestOperator::saysThatNothingWasHeard()
     QCOMPARE(heardIn(record), (QList<int>{-1, -1, -1}));
     QCOMPARE(record.digits.at(0).levelDbfs, -120.0);
     QVERIFY(record.reason.isEmpty()); // the module's own verdict
+}
+
+void TestTestOperator::doesNotCallADeviceSilentThatWasHeard_data()
+{
+    QTest::addColumn<int>("heardCount");
+    QTest::addColumn<int>("mistyped");
+    QTest::newRow("silent after two digits") << 2 << 0;
+    QTest::newRow("silent in the second sequence") << 3 << 1;
+}
+
+// The listener is muted in the midst of it: what was heard before counts.
+void TestTestOperator::doesNotCallADeviceSilentThatWasHeard()
+{
+    QFETCH(const int, heardCount);
+    QFETCH(const int, mistyped);
+    ListenerScript script;
+    int played = 0;
+    StandInDialog dialog({{5, 6, 8}, {1, 2, 3}}, [&](int digit) {
+        if (digit < 0)
+            return script.level(-120);
+        if (++played <= heardCount)
+            script.digit(digit);
+    });
+    const RunRecord record = run(dialog, settings(mistyped));
+    QCOMPARE(dialog.outcome(), Outcome::closed);
+    QCOMPARE(record.reason, QStringLiteral("not recognised"));
+}
+
+void TestTestOperator::keepsTheRowsOfTheBetterPlay()
+{
+    ListenerScript script;
+    int played = 0;
+    StandInDialog dialog({{5, 6, 8}}, [&](int digit) {
+        if (digit < 0)
+            return script.level(-30);
+        ++played;
+        played == 2 || played > 4 ? script.sound(-30) : script.digit(digit); // two digits at first, one later
+    });
+    const RunRecord record = run(dialog, settings());
+    QCOMPARE(dialog.playCount(), 2);
+    QCOMPARE(heardIn(record), (QList<int>{5, -1, 8}));
 }
 
 void TestTestOperator::blamesNobodyWhereItCouldNotListen_data()
