@@ -51,6 +51,18 @@ RunRecord run(StandInDialog &dialog, const OperatorSettings &given)
     return record;
 }
 
+class RaiseCounter : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 QList<int> heardIn(const RunRecord &record)
 {
     QList<int> heard;
@@ -81,6 +93,7 @@ private slots:
     void doesNotCallADeviceSilentThatWasHeard_data();
     void doesNotCallADeviceSilentThatWasHeard();
     void keepsTheRowsOfTheBetterPlay();
+    void raisesItsDialogOverAnotherWindow();
     void blamesNobodyWhereItCouldNotListen_data();
     void blamesNobodyWhereItCouldNotListen();
     void closesWhereTheSoundIsNoDigit();
@@ -330,6 +343,27 @@ void TestTestOperator::doesNotReachThroughWhatCoversAButton()
     QVERIFY(dialog.typed().isEmpty());
     delete cover;
     QTRY_COMPARE_WITH_TIMEOUT(dialog.outcome(), Outcome::passed, limitMs);
+}
+
+void TestTestOperator::raisesItsDialogOverAnotherWindow()
+{
+    ListenerScript script;
+    RaiseCounter raises;
+    QList<int> raisesBefore;
+    QWidget other;
+    StandInDialog dialog({{5, 6, 8}}, [&](int digit) {
+        if (digit >= 0)
+            return script.digit(digit);
+        script.level(-20);
+        raisesBefore.append(raises.count);
+        other.setGeometry(dialog.geometry());
+        other.show();
+    });
+    dialog.installEventFilter(&raises);
+    const RunRecord record = run(dialog, settings());
+    QCOMPARE(dialog.outcome(), Outcome::passed);
+    QCOMPARE(raisesBefore, QList<int>{0});
+    QVERIFY(raises.count > 0);
 }
 
 void TestTestOperator::worksNothingOutsideARun()
