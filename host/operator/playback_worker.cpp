@@ -54,9 +54,9 @@ std::tuple<qsizetype, qsizetype, double> clarityOf(const QList<HeardDigit> &rows
 } // namespace
 
 PlaybackWorker::PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences,
-                               qint64 listenFromMs)
+                               qint64 listenFromMs, const QStringList &endpoints)
     : dialog_(dialog), log_(log), photographer_(photographer), mistypedSequences_(mistypedSequences),
-      stepStartMs_(steadyNowMs()), listenFromMs_(listenFromMs)
+      stepStartMs_(steadyNowMs()), listenFromMs_(listenFromMs), volumes_(endpoints)
 {
     dialog->installEventFilter(this);
     for (const char *name : {thirdTyped, secondMessage}) {
@@ -131,6 +131,8 @@ void PlaybackWorker::beginSecondSequence()
 void PlaybackWorker::wait()
 {
     const bool isIdle = isRepeatEnabled();
+    if (!isIdle)
+        volumes_.look();
     if (step_ == Step::waiting && !isIdle) {
         enter(Step::playing);
     } else if (step_ == Step::playing && isIdle) {
@@ -203,7 +205,9 @@ QString PlaybackWorker::whyNotSilent() const
     const bool wasHeard = std::any_of(plays_.begin(), plays_.end(), [this](const Play &play) {
         return log_.loudestBetween(play.fromMs, play.toMs) >= HeardLog::audibleDbfs;
     });
-    return wasHeard ? QStringLiteral("not recognised") : QString();
+    if (wasHeard)
+        return QStringLiteral("not recognised");
+    return volumes_.wereRaised() ? QString() : QStringLiteral("the volume could not be raised");
 }
 
 void PlaybackWorker::type()
