@@ -3,6 +3,7 @@
 
 #include "contract/result_codes.h"
 #include "host/core/verdict.h"
+#include "host/gui/key_text.h"
 #include "host/reports/digit_table.h"
 
 #include <cstdio>
@@ -37,6 +38,12 @@ QString verdictWords(Verdict verdict)
     return QStringLiteral("not completed");
 }
 
+QString wordsOf(const RunMessage &message)
+{
+    const QString words = shownText(message.text);
+    return words == message.text ? words : QStringLiteral("%1 (%2)").arg(words, message.text);
+}
+
 } // namespace
 
 void print(const QString &text) { write(stdout, text); }
@@ -55,7 +62,7 @@ QString runSummary(const RunRecord &record)
         text += QStringLiteral("volumes: %1\n").arg(record.volumeComplaint);
     for (const RunMessage &message : record.messages) {
         const bool isError = message.level == ostra::message_level::error;
-        text += QStringLiteral("%1: %2\n").arg(isError ? QStringLiteral("error") : QStringLiteral("note"), message.text);
+        text += QStringLiteral("%1: %2\n").arg(isError ? QStringLiteral("error") : QStringLiteral("note"), wordsOf(message));
     }
     return text + digitTable(record);
 }

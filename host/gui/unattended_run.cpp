@@ -56,7 +56,8 @@ int UnattendedRun::run()
 std::optional<RunRecord> UnattendedRun::perform()
 {
     const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files/") + language_;
-    TestOperator person({options_.source, clips, language_, options_.screenshotsFolder, options_.mistypedSequences});
+    TestOperator person({options_.source, clips, language_, options_.screenshotsFolder, options_.mistypedSequences,
+                         session_.deviceList().devices()[device_].name});
     if (!person.start())
         return unheard(person.errorText());
     person.beginRun();

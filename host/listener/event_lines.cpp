@@ -53,9 +53,10 @@ QByteArray soundLine(const HeardSound &sound)
     return line("digit", object);
 }
 
-QByteArray levelLine(double loudestDbfs, std::uint64_t droppedFrameCount)
+QByteArray levelLine(double loudestDbfs, std::uint64_t arrivedFrameCount, std::uint64_t droppedFrameCount)
 {
     QJsonObject object{{QStringLiteral("levelDbfs"), rounded(loudestDbfs, 10)},
+                       {QStringLiteral("frames"), static_cast<double>(arrivedFrameCount)},
                        {QStringLiteral("atMs"), milliseconds(std::chrono::steady_clock::now())}};
     if (droppedFrameCount > 0)
         object.insert(QStringLiteral("droppedFrames"), static_cast<double>(droppedFrameCount));

@@ -17,8 +17,9 @@ QByteArray sourceLine(const QString &name);
 QByteArray readyLine(const QString &source, const QString &language);
 /// "digit" for one of the ten, "sound" for anything else.
 QByteArray soundLine(const HeardSound &sound);
+/// \param arrivedFrameCount frames that the level was taken from: those since the level before it; none is no silence
 /// \param droppedFrameCount frames that were lost since the start because the program was too slow; told when above 0.
-QByteArray levelLine(double loudestDbfs, std::uint64_t droppedFrameCount);
+QByteArray levelLine(double loudestDbfs, std::uint64_t arrivedFrameCount, std::uint64_t droppedFrameCount);
 QByteArray lostLine();
 
 } // namespace host

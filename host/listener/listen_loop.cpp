@@ -9,6 +9,7 @@
 #include <csignal>
 #include <cstdio>
 #include <thread>
+#include <utility>
 
 namespace host {
 
@@ -54,6 +55,7 @@ private:
     {
         while (const SoundBlock *block = capture_.ring().oldest()) {
             listener_.feed(block->frames(), block->end);
+            arrivedFrameCount_ += block->frameCount;
             capture_.ring().release();
             hasSound_ = true;
         }
@@ -72,7 +74,8 @@ private:
         if (!isReady_ || steady_clock::now() - levelTold_ < levelInterval)
             return;
         levelTold_ = steady_clock::now();
-        write(levelLine(listener_.takeLoudestDbfs(), capture_.ring().droppedFrameCount()));
+        write(
+            levelLine(listener_.takeLoudestDbfs(), std::exchange(arrivedFrameCount_, 0), capture_.ring().droppedFrameCount()));
     }
 
     ListenerExit end(ListenerExit how)
@@ -89,6 +92,7 @@ private:
     StreamListener listener_;
     steady_clock::time_point start_ = steady_clock::now();
     steady_clock::time_point levelTold_ = start_;
+    std::uint64_t arrivedFrameCount_ = 0; ///< since the last level
     bool hasSound_ = false;
     bool isReady_ = false;
     bool isRead_ = true;

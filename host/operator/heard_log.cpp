@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/operator/heard_log.h"
 
+#include "host/listener/block_ring.h"
+
 #include <algorithm>
 #include <chrono>
 
@@ -10,6 +12,9 @@ namespace {
 
 constexpr double lowestDbfs = -120.0;
 constexpr qint64 levelSpanMs = 1000;
+/// A capture that is heard at all delivers everything but a buffer or two.
+constexpr double wantedShare = 0.75;
+constexpr double framesPerMs = captureRate / 1000.0;
 
 } // namespace
 
@@ -43,6 +48,23 @@ double HeardLog::loudestBetween(qint64 fromMs, qint64 toMs) const
             loudest = std::max(loudest, level.levelDbfs);
     }
     return loudest;
+}
+
+// The frames of a stretch that lies partly outside are spread over it evenly.
+bool HeardLog::hasListenedBetween(qint64 fromMs, qint64 toMs) const
+{
+    double frameCount = 0;
+    for (qsizetype index = 1; index < arrivals_.size(); ++index) {
+        const Arrival &before = arrivals_.at(index - 1);
+        const Arrival &arrival = arrivals_.at(index);
+        const qint64 sharedMs = std::min(arrival.atMs, toMs) - std::max(before.atMs, fromMs);
+        if (sharedMs <= 0)
+            continue;
+        if (arrival.droppedFrameCount > before.droppedFrameCount)
+            return false;
+        frameCount += arrival.frameCount * static_cast<double>(sharedMs) / static_cast<double>(arrival.atMs - before.atMs);
+    }
+    return frameCount >= wantedShare * framesPerMs * static_cast<double>(toMs - fromMs);
 }
 
 } // namespace host

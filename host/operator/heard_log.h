@@ -30,9 +30,20 @@ public:
     /// \param levelDbfs the loudest of the second before `atMs`
     void addLevel(qint64 atMs, double levelDbfs);
 
+    /// \param atMs the moment of the level; the first one tells where listening began
+    /// \param frameCount frames that arrived since the moment before
+    /// \param droppedFrameCount frames that were lost since the beginning
+    void addArrival(qint64 atMs, double frameCount, double droppedFrameCount)
+    {
+        arrivals_.append({atMs, frameCount, droppedFrameCount});
+    }
+
     /// Digits and other sounds that began between two moments, by their beginning.
     QList<HeardEvent> soundsBetween(qint64 fromMs, qint64 toMs) const;
     double loudestBetween(qint64 fromMs, qint64 toMs) const;
+    /// Whether most of the sound between two moments has arrived, and nothing of it was dropped. A capture that delivers
+    /// nothing sounds like a silent one.
+    bool hasListenedBetween(qint64 fromMs, qint64 toMs) const;
     /// Everything up to this moment has arrived here, save what a digit needs to be recognised.
     qint64 listenedUpToMs() const { return levels_.isEmpty() ? 0 : levels_.last().atMs; }
 
@@ -42,6 +53,13 @@ private:
         double levelDbfs;
     };
 
+    struct Arrival {
+        qint64 atMs;
+        double frameCount;
+        double droppedFrameCount;
+    };
+
+    QList<Arrival> arrivals_;
     QList<HeardEvent> sounds_;
     QList<Level> levels_;
 };

@@ -42,13 +42,19 @@ ListenerLine readListenerLine(const QByteArray &line)
 {
     const QJsonObject object = QJsonDocument::fromJson(line).object();
     const Kind kind = kindOf(object.value(QLatin1String("event")).toString());
+    ListenerLine read;
+    read.kind = kind;
+    if (kind == Kind::ready)
+        read.sound.startMs = object.value(QLatin1String("steadyMs")).toInteger();
     if (kind != Kind::sound && kind != Kind::level)
-        return {kind, {}};
-    const HeardEvent sound = soundOf(object, kind == Kind::sound ? "startMs" : "atMs");
+        return read;
+    read.sound = soundOf(object, kind == Kind::sound ? "startMs" : "atMs");
     // A missing level must not pass for 0 dBFS, the loudest there is.
-    if (sound.startMs < 0 || sound.startMs > latestMs || !object.value(QLatin1String("levelDbfs")).isDouble())
+    if (read.sound.startMs < 0 || read.sound.startMs > latestMs || !object.value(QLatin1String("levelDbfs")).isDouble())
         return {};
-    return {kind, sound};
+    read.frameCount = object.value(QLatin1String("frames")).toDouble();
+    read.droppedFrameCount = object.value(QLatin1String("droppedFrames")).toDouble();
+    return read;
 }
 
 } // namespace host

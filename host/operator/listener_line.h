@@ -11,13 +11,15 @@ namespace host {
 struct ListenerLine {
     enum class Kind {
         unknown, ///< none of these, or without its numbers: to be passed over
-        ready,
-        sound, ///< `sound`
-        level, ///< `sound.levelDbfs`, at `sound.startMs`
+        ready,   ///< from `sound.startMs` on
+        sound,   ///< `sound`
+        level,   ///< `sound.levelDbfs`, at `sound.startMs`
         lost,
     };
     Kind kind = Kind::unknown;
     HeardEvent sound;
+    double frameCount = 0;        ///< of a level: frames that arrived since the one before
+    double droppedFrameCount = 0; ///< of a level: frames lost since the beginning
 };
 
 /// Reads a line of JSON. Moments are whole milliseconds from 0 to 2^53, a digit is 0 to 9. Never fails otherwise than by

@@ -72,8 +72,10 @@ void ListenerLink::take(const ListenerLine &line)
         break;
     case ListenerLine::Kind::level:
         log_.addLevel(line.sound.startMs, line.sound.levelDbfs);
+        log_.addArrival(line.sound.startMs, line.frameCount, line.droppedFrameCount);
         break;
     case ListenerLine::Kind::ready:
+        log_.addArrival(line.sound.startMs, 0, 0);
         isReady_ = true;
         break;
     case ListenerLine::Kind::lost:

@@ -101,8 +101,8 @@ void TestOperator::Private::workPlayback(QWidget *dialog)
     if (playback == nullptr || !playback->works(dialog)) {
         finishPlayback();
         const qint64 listenFromMs = std::max(runBeganMs, steadyNowMs() - unseenMs);
-        playback =
-            std::make_unique<PlaybackWorker>(dialog, listener.log(), photographer, settings.mistypedSequences, listenFromMs);
+        playback = std::make_unique<PlaybackWorker>(dialog, listener.log(), photographer, settings.mistypedSequences,
+                                                    listenFromMs, QStringList{settings.device, settings.source});
     }
     playback->advance(listener.isLost());
 }

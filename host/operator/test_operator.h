@@ -16,6 +16,7 @@ struct OperatorSettings {
     QString language;          ///< code such as "en_US"
     QString screenshotsFolder; ///< where the windows are photographed; empty for no pictures
     int mistypedSequences = 0; ///< for proofs: that many sequences get one wrong digit
+    QString device;            ///< the tested device as people see it: it must be at full volume to be called silent
 };
 
 /// Takes the person's place: hears what the device plays through a listener of its own process and works the real dialogs with

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/reports/run_limits.h"
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -22,9 +24,30 @@ QStringList limitsOfMicrophone()
         QStringLiteral("The levels depend on the microphone and its distance: they do not measure how loud the device is.")};
 }
 
+bool wasSilent(const RunRecord &record)
+{
+    return !record.digits.isEmpty() && std::none_of(record.digits.begin(), record.digits.end(), [](const HeardDigit &digit) {
+        return digit.heard || digit.playedAtMs >= 0;
+    });
+}
+
+QStringList limitsOfSilence()
+{
+    return {
+        QStringLiteral("Nothing was heard: a source that is muted or hears another device cannot be told from a silent "
+                       "device."),
+        QStringLiteral("The volumes were read between the digits only: where they changed meanwhile, or the system does not "
+                       "tell its true volumes, a device that was not raised looks like a silent one.")};
+}
+
 QStringList limitsOfListening(const RunRecord &record)
 {
     QStringList limits = isMonitor(record.listenedTo) ? limitsOfMonitor() : limitsOfMicrophone();
+    if (wasSilent(record))
+        limits.append(limitsOfSilence());
+    limits.append(
+        QStringLiteral("What was heard was compared with the very clips that were played: a clip that is wrong itself "
+                       "goes unnoticed."));
     limits.append(QStringLiteral("Digits were compared below 4 kHz: what the device does to higher tones is not known."));
     limits.append(
         QStringLiteral("A latency reaches from the dialog's display to the capture: it includes opening the device and "

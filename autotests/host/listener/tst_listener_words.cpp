@@ -24,6 +24,7 @@ private slots:
     void tellsAnotherSoundInOneLine();
     void relatesItsClockToTheCalendar();
     void tellsLostFramesOnlyWhereThereAreAny();
+    void tellsHowMuchALevelWasTakenFrom();
 };
 
 void TestListenerWords::readsItsOptions()
@@ -105,8 +106,14 @@ void TestListenerWords::relatesItsClockToTheCalendar()
 
 void TestListenerWords::tellsLostFramesOnlyWhereThereAreAny()
 {
-    QVERIFY(!host::levelLine(-120, 0).contains("droppedFrames"));
-    QVERIFY(host::levelLine(-120, 5).contains(R"("droppedFrames":5)"));
+    QVERIFY(!host::levelLine(-120, 48000, 0).contains("droppedFrames"));
+    QVERIFY(host::levelLine(-120, 48000, 5).contains(R"("droppedFrames":5)"));
+}
+
+void TestListenerWords::tellsHowMuchALevelWasTakenFrom()
+{
+    QVERIFY(host::levelLine(-120, 47104, 0).contains(R"("frames":47104)"));
+    QVERIFY(host::levelLine(-120, 0, 0).contains(R"("frames":0)"));
 }
 
 QTEST_GUILESS_MAIN(TestListenerWords)

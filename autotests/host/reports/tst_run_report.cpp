@@ -88,6 +88,9 @@ private slots:
     void putsTheLimitsLast();
     void choosesTheLimits_data();
     void choosesTheLimits();
+    void tellsWhatSilenceCanMean_data();
+    void tellsWhatSilenceCanMean();
+    void tellsThatTheClipsAreTheirOwnMeasure();
     void writesTheWholeFile();
     void keepsTheOldFileWhenItCannotWrite();
     void namesTheFileThatItCannotWrite();
@@ -229,6 +232,36 @@ void TestRunReport::choosesTheLimits()
     QVERIFY2(limits.contains(told), qPrintable(limits));
     QVERIFY2(!limits.contains(notTold), qPrintable(limits));
     QCOMPARE(limits.contains(QStringLiteral("full volume only")), letter == QLatin1String("p"));
+}
+
+void TestRunReport::tellsWhatSilenceCanMean_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<bool>("isHeard");
+    QTest::newRow("silent monitor") << QStringLiteral("Monitor of X") << false;
+    QTest::newRow("silent microphone") << QStringLiteral("Webcam") << false;
+    QTest::newRow("heard") << QStringLiteral("Monitor of X") << true;
+}
+
+void TestRunReport::tellsWhatSilenceCanMean()
+{
+    QFETCH(const QString, source);
+    QFETCH(const bool, isHeard);
+    RunRecord record = playbackRecord();
+    record.listenedTo = source;
+    record.digits = {missedDigit(), isHeard ? heardDigit() : missedDigit()};
+    const QString limits = host::runLimits(record).join(u'\n');
+    QCOMPARE(limits.contains(QStringLiteral("a source that is muted or hears another device")), !isHeard);
+    QCOMPARE(limits.contains(QStringLiteral("does not tell its true volumes")), !isHeard);
+}
+
+void TestRunReport::tellsThatTheClipsAreTheirOwnMeasure()
+{
+    const QString sentence = QStringLiteral("the very clips that were played");
+    QVERIFY(host::runLimits(playbackRecord()).join(u'\n').contains(sentence));
+    RunRecord attended = playbackRecord();
+    attended.isUnattended = false;
+    QVERIFY(!host::runLimits(attended).join(u'\n').contains(sentence));
 }
 
 void TestRunReport::writesTheWholeFile()
