@@ -77,6 +77,9 @@ struct Stage {
     int resultOf(const std::function<void()> &action)
     {
         QTimer::singleShot(0, dialog.get(), action);
+        QTimer late;
+        QObject::connect(&late, &QTimer::timeout, dialog.get(), [this] { dialog->done(99); });
+        late.start(4 * bound);
         return dialog->exec();
     }
     /// Every device that was opened is closed, and nothing runs.
