@@ -15,7 +15,9 @@
 #include <QStyleOption>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
+#include <utility>
 
 namespace ostra {
 
