@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace host {
@@ -27,6 +28,33 @@ HeardEvent soundOf(const QJsonObject &object)
     event.levelDbfs = number(object, "levelDbfs");
     event.isClipped = object.value(QLatin1String("clipped")).toBool();
     return event;
+}
+
+HeardPlace placeOf(const QJsonObject &object)
+{
+    HeardPlace place;
+    place.startMs = static_cast<qint64>(number(object, "startMs"));
+    place.score = number(object, "score");
+    place.isFound = object.value(QLatin1String("found")).toBool();
+    place.levelDbfs = number(object, "levelDbfs");
+    place.isClipped = object.value(QLatin1String("clipped")).toBool();
+    return place;
+}
+
+MeteredMoment momentOf(const QJsonObject &object)
+{
+    MeteredMoment moment;
+    moment.endMs = static_cast<qint64>(number(object, "atMs"));
+    moment.peakDbfs = number(object, "peakDbfs");
+    moment.rmsDbfs = number(object, "rmsDbfs");
+    const QJsonArray channels = object.value(QLatin1String("channelDbfs")).toArray();
+    moment.leftDbfs = channels.at(0).toDouble();
+    moment.rightDbfs = channels.at(1).toDouble();
+    moment.differenceDbfs = number(object, "differenceDbfs");
+    const QJsonArray wave = object.value(QLatin1String("wave")).toArray();
+    for (const QJsonValue &sample : wave)
+        moment.wave.append(sample.toDouble());
+    return moment;
 }
 
 } // namespace
@@ -91,6 +119,16 @@ void ListenerLink::take(const QJsonObject &object)
         isReady_ = true;
     else if (event == QLatin1String("lost"))
         isLost_ = true;
+    else if (event == QLatin1String("clip"))
+        log_.addPlace(placeOf(object));
+    else if (event == QLatin1String("meter"))
+        takeMoment(momentOf(object));
+}
+
+void ListenerLink::takeMoment(const MeteredMoment &moment)
+{
+    log_.addMoment(moment);
+    emit metered(moment);
 }
 
 } // namespace host

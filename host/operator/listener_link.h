@@ -28,9 +28,13 @@ public:
     bool isLost() const { return isLost_; }
     const HeardLog &log() const { return log_; }
 
+signals:
+    void metered(const host::MeteredMoment &moment);
+
 private:
     void readLines();
     void take(const QJsonObject &event);
+    void takeMoment(const MeteredMoment &moment);
     void noteEnd();
 
     QProcess process_;
