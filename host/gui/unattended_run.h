@@ -8,6 +8,7 @@
 namespace host {
 
 class MainWindow;
+struct OperatorSettings;
 
 /// One test on one device with the operator in the person's place.
 class UnattendedRun {
@@ -24,6 +25,7 @@ public:
 
 private:
     std::optional<RunRecord> perform();
+    OperatorSettings operatorSettings() const;
     RunRecord unheard(const QString &reason) const;
     bool writeReport(const RunRecord &record) const;
 
