@@ -42,6 +42,8 @@ int UnattendedRun::run()
 std::optional<RunRecord> UnattendedRun::perform()
 {
     TestOperator person(operatorSettings());
+    if (meter_)
+        QObject::connect(&person, &TestOperator::metered, meter_);
     if (!person.start())
         return unheard(person.errorText());
     person.beginRun();

@@ -5,9 +5,13 @@
 
 #include <QObject>
 
+#include <functional>
+#include <utility>
+
 namespace host {
 
 class MainWindow;
+struct MeteredMoment;
 struct OperatorSettings;
 
 /// One test on one device with the operator in the person's place.
@@ -19,6 +23,9 @@ public:
     bool prepare(QString &problem);
     qsizetype test() const noexcept { return test_; }
     qsizetype device() const noexcept { return device_; }
+
+    /// What is heard goes there, ten times a second.
+    void setMeter(std::function<void(const MeteredMoment &)> meter) { meter_ = std::move(meter); }
 
     /// Runs it, writes the report, prints verdict and digits on standard output, and returns the program's exit code.
     int run();
@@ -32,6 +39,7 @@ private:
     TestSession &session_;
     Options options_;
     QString language_;
+    std::function<void(const MeteredMoment &)> meter_;
     qsizetype test_ = -1;
     qsizetype device_ = -1;
 };

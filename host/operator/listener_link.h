@@ -20,7 +20,9 @@ public:
     explicit ListenerLink(QObject *parent = nullptr);
     ~ListenerLink() override; ///< closes the listener's input, which ends it
 
-    /// Waits until it captures, 30 s at most. False with `errorText()`.
+    /// Starts it without waiting for it.
+    void launch(const QStringList &arguments);
+    /// Starts it and waits until it captures, 30 s at most. False with `errorText()`.
     bool start(const QStringList &arguments);
     const QString &errorText() const { return errorText_; }
 
@@ -30,12 +32,15 @@ public:
 
 signals:
     void metered(const host::MeteredMoment &moment);
+    /// It has ended by itself, or its source has vanished; `errorText()` may say why.
+    void lost();
 
 private:
     void readLines();
     void take(const QJsonObject &event);
     void takeMoment(const MeteredMoment &moment);
     void noteEnd();
+    void noteError();
 
     QProcess process_;
     HeardLog log_;
