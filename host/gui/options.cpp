@@ -25,7 +25,7 @@ constexpr std::array<KnownOption, 16> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
-    {"listen", "SOURCE", "the capture source that hears the device; also shows its level beside the microphone test", false},
+    {"listen", "SOURCE", "the capture source that hears the device; test m shows its level", false},
     {"microphone", "NAME", "the microphone that test m chooses (the first one)", true},
     {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
     {"report", "FILE", "write the report of the run there", true},

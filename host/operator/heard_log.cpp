@@ -66,7 +66,10 @@ double HeardLog::loudestBetween(qint64 fromMs, qint64 toMs) const
         if (level.atMs >= fromMs + levelSpanMs && level.atMs <= toMs + levelSpanMs)
             loudest = std::max(loudest, level.levelDbfs);
     }
-    return loudest;
+    for (const MeteredMoment &moment : momentsBetween(fromMs, toMs))
+        loudest = std::max(loudest, moment.rmsDbfs);
+    const std::optional<HeardPlace> place = bestPlaceBetween(fromMs, toMs);
+    return place ? std::max(loudest, place->levelDbfs) : loudest;
 }
 
 } // namespace host
