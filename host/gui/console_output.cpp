@@ -44,6 +44,23 @@ QString wordsOf(const RunMessage &message)
     return words == message.text ? words : QStringLiteral("%1 (%2)").arg(words, message.text);
 }
 
+QString yesOrNo(bool isYes) { return isYes ? QStringLiteral("yes") : QStringLiteral("no"); }
+
+QString decibels(double level) { return QString::number(level, 'f', 1) + QStringLiteral(" dBFS"); }
+
+QString recordingLines(const HeardRecording &heard)
+{
+    const QString delay =
+        heard.latencyMs ? QString::number(*heard.latencyMs, 'f', 0) + QStringLiteral(" ms") : QStringLiteral("-");
+    return QStringLiteral("spoken through '%1', recorded by '%2'\n"
+                          "sentence found in the playback: %3, score %4, delay %5\n"
+                          "level %6, peak %7, clipped: %8, silent: %9, ")
+               .arg(heard.spokenThrough, heard.microphone, yesOrNo(heard.isFound), QString::number(heard.score, 'f', 3), delay,
+                    decibels(heard.levelDbfs), decibels(heard.peakDbfs), yesOrNo(heard.isClipped), yesOrNo(heard.isSilent)) +
+           QStringLiteral("mono in stereo: %1\nanswer: %2\n")
+               .arg(yesOrNo(heard.isMonoInStereo), heard.answer ? yesOrNo(*heard.answer) : QStringLiteral("none"));
+}
+
 } // namespace
 
 void print(const QString &text) { write(stdout, text); }
@@ -64,6 +81,8 @@ QString runSummary(const RunRecord &record)
         const bool isError = message.level == ostra::message_level::error;
         text += QStringLiteral("%1: %2\n").arg(isError ? QStringLiteral("error") : QStringLiteral("note"), wordsOf(message));
     }
+    if (record.recording)
+        text += recordingLines(*record.recording);
     return text + digitTable(record);
 }
 

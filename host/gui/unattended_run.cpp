@@ -55,9 +55,9 @@ int UnattendedRun::run()
 
 std::optional<RunRecord> UnattendedRun::perform()
 {
-    const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files/") + language_;
-    TestOperator person({options_.source, clips, language_, options_.screenshotsFolder, options_.mistypedSequences,
-                         session_.deviceList().devices()[device_].name});
+    TestOperator person(operatorSettings());
+    if (meter_)
+        QObject::connect(&person, &TestOperator::metered, meter_);
     if (!person.start())
         return unheard(person.errorText());
     person.beginRun();
@@ -66,6 +66,25 @@ std::optional<RunRecord> UnattendedRun::perform()
         record.listenedTo = options_.source;
         person.endRun(record);
     });
+}
+
+OperatorSettings UnattendedRun::operatorSettings() const
+{
+    const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files/");
+    OperatorSettings settings;
+    settings.source = options_.source;
+    settings.clipsFolder = clips + language_;
+    settings.language = language_;
+    settings.screenshotsFolder = options_.screenshotsFolder;
+    settings.mistypedSequences = options_.mistypedSequences;
+    settings.device = session_.deviceList().devices()[device_].name;
+    if (options_.test != QLatin1String("m"))
+        return settings;
+    settings.sentence = clips + QStringLiteral("operator/sentence_en_US.wav");
+    settings.microphone = options_.microphone;
+    settings.speakThrough =
+        options_.speakThrough.isEmpty() ? session_.deviceList().devices()[device_].name : options_.speakThrough;
+    return settings;
 }
 
 // Nobody is there who could take the test.

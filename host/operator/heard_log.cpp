@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace host {
 
@@ -28,6 +29,29 @@ void HeardLog::addSound(const HeardEvent &event) { sounds_.append(event); }
 
 void HeardLog::addLevel(qint64 atMs, double levelDbfs) { levels_.append({atMs, levelDbfs}); }
 
+void HeardLog::addPlace(const HeardPlace &place) { places_.append(place); }
+
+void HeardLog::addMoment(const MeteredMoment &moment) { moments_.append(moment); }
+
+std::optional<HeardPlace> HeardLog::bestPlaceBetween(qint64 fromMs, qint64 toMs) const
+{
+    std::optional<HeardPlace> best;
+    for (const HeardPlace &place : places_) {
+        const bool isWithin = place.startMs >= fromMs && place.startMs <= toMs;
+        if (isWithin && (!best || std::pair(place.isFound, place.score) > std::pair(best->isFound, best->score)))
+            best = place;
+    }
+    return best;
+}
+
+QList<MeteredMoment> HeardLog::momentsBetween(qint64 fromMs, qint64 toMs) const
+{
+    QList<MeteredMoment> moments;
+    std::copy_if(moments_.begin(), moments_.end(), std::back_inserter(moments),
+                 [=](const MeteredMoment &moment) { return moment.endMs >= fromMs && moment.endMs <= toMs; });
+    return moments;
+}
+
 QList<HeardEvent> HeardLog::soundsBetween(qint64 fromMs, qint64 toMs) const
 {
     QList<HeardEvent> sounds;
@@ -47,7 +71,10 @@ double HeardLog::loudestBetween(qint64 fromMs, qint64 toMs) const
         if (level.atMs >= fromMs + levelSpanMs && level.atMs <= toMs + levelSpanMs)
             loudest = std::max(loudest, level.levelDbfs);
     }
-    return loudest;
+    for (const MeteredMoment &moment : momentsBetween(fromMs, toMs))
+        loudest = std::max(loudest, moment.rmsDbfs);
+    const std::optional<HeardPlace> place = bestPlaceBetween(fromMs, toMs);
+    return place ? std::max(loudest, place->levelDbfs) : loudest;
 }
 
 // The frames of a stretch that lies partly outside are spread over it evenly.

@@ -20,6 +20,26 @@ struct HeardEvent {
     bool isClipped = false;
 };
 
+/// A place that is like the clip that the listener looks for.
+struct HeardPlace {
+    qint64 startMs = 0;
+    double score = 0;
+    bool isFound = false;
+    double levelDbfs = -120;
+    bool isClipped = false;
+};
+
+/// A tenth of a second of the capture.
+struct MeteredMoment {
+    qint64 endMs = 0;
+    double peakDbfs = -120;
+    double rmsDbfs = -120; ///< over both channels
+    double leftDbfs = -120;
+    double rightDbfs = -120;
+    double differenceDbfs = -120; ///< RMS of left minus right
+    QList<double> wave;           ///< lowest and highest sample in turn
+};
+
 /// What the listener has told since its start.
 class HeardLog {
 public:
@@ -27,6 +47,8 @@ public:
     static constexpr double audibleDbfs = -50.0;
 
     void addSound(const HeardEvent &event);
+    void addPlace(const HeardPlace &place);
+    void addMoment(const MeteredMoment &moment);
     /// \param levelDbfs the loudest of the second before `atMs`
     void addLevel(qint64 atMs, double levelDbfs);
 
@@ -40,6 +62,9 @@ public:
 
     /// Digits and other sounds that began between two moments, by their beginning.
     QList<HeardEvent> soundsBetween(qint64 fromMs, qint64 toMs) const;
+    /// The place most like the clip of those that begin between two moments; a found one goes before all others.
+    std::optional<HeardPlace> bestPlaceBetween(qint64 fromMs, qint64 toMs) const;
+    QList<MeteredMoment> momentsBetween(qint64 fromMs, qint64 toMs) const;
     double loudestBetween(qint64 fromMs, qint64 toMs) const;
     /// Whether most of the sound between two moments has arrived, and nothing of it was dropped. A capture that delivers
     /// nothing sounds like a silent one.
@@ -61,6 +86,8 @@ private:
 
     QList<Arrival> arrivals_;
     QList<HeardEvent> sounds_;
+    QList<HeardPlace> places_;
+    QList<MeteredMoment> moments_;
     QList<Level> levels_;
 };
 

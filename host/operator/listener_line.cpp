@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/operator/listener_line.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
+#include <initializer_list>
 
 namespace host {
 
@@ -18,6 +22,10 @@ Kind kindOf(const QString &event)
         return Kind::sound;
     if (event == QLatin1String("level"))
         return Kind::level;
+    if (event == QLatin1String("clip"))
+        return Kind::clip;
+    if (event == QLatin1String("meter"))
+        return Kind::meter;
     if (event == QLatin1String("ready"))
         return Kind::ready;
     return event == QLatin1String("lost") ? Kind::lost : Kind::unknown;
@@ -36,6 +44,57 @@ HeardEvent soundOf(const QJsonObject &object, const char *moment)
     return event;
 }
 
+double number(const QJsonObject &object, const char *key) { return object.value(QLatin1String(key)).toDouble(); }
+
+// A missing level must not pass for 0 dBFS, the loudest there is.
+bool hasNumbers(const QJsonObject &object, const char *moment, std::initializer_list<const char *> levels)
+{
+    const qint64 atMs = object.value(QLatin1String(moment)).toInteger(-1);
+    return atMs >= 0 && atMs <= latestMs && std::all_of(levels.begin(), levels.end(), [&](const char *key) {
+               return object.value(QLatin1String(key)).isDouble();
+           });
+}
+
+HeardPlace placeOf(const QJsonObject &object)
+{
+    HeardPlace place;
+    place.startMs = object.value(QLatin1String("startMs")).toInteger();
+    place.score = number(object, "score");
+    place.isFound = object.value(QLatin1String("found")).toBool();
+    place.levelDbfs = number(object, "levelDbfs");
+    place.isClipped = object.value(QLatin1String("clipped")).toBool();
+    return place;
+}
+
+MeteredMoment momentOf(const QJsonObject &object)
+{
+    MeteredMoment moment;
+    moment.endMs = object.value(QLatin1String("atMs")).toInteger();
+    moment.peakDbfs = number(object, "peakDbfs");
+    moment.rmsDbfs = number(object, "rmsDbfs");
+    const QJsonArray channels = object.value(QLatin1String("channelDbfs")).toArray();
+    moment.leftDbfs = channels.at(0).toDouble();
+    moment.rightDbfs = channels.at(1).toDouble();
+    moment.differenceDbfs = number(object, "differenceDbfs");
+    const QJsonArray wave = object.value(QLatin1String("wave")).toArray();
+    for (const QJsonValue &sample : wave)
+        moment.wave.append(sample.toDouble());
+    return moment;
+}
+
+ListenerLine readPlaceOrMoment(Kind kind, const QJsonObject &object)
+{
+    ListenerLine read;
+    if (kind == Kind::clip && hasNumbers(object, "startMs", {"levelDbfs", "score"})) {
+        read.kind = kind;
+        read.place = placeOf(object);
+    } else if (kind == Kind::meter && hasNumbers(object, "atMs", {"peakDbfs", "rmsDbfs"})) {
+        read.kind = kind;
+        read.moment = momentOf(object);
+    }
+    return read;
+}
+
 } // namespace
 
 ListenerLine readListenerLine(const QByteArray &line)
@@ -46,12 +105,14 @@ ListenerLine readListenerLine(const QByteArray &line)
     read.kind = kind;
     if (kind == Kind::ready)
         read.sound.startMs = object.value(QLatin1String("steadyMs")).toInteger();
+    if (kind == Kind::clip || kind == Kind::meter)
+        return readPlaceOrMoment(kind, object);
     if (kind != Kind::sound && kind != Kind::level)
         return read;
-    read.sound = soundOf(object, kind == Kind::sound ? "startMs" : "atMs");
-    // A missing level must not pass for 0 dBFS, the loudest there is.
-    if (read.sound.startMs < 0 || read.sound.startMs > latestMs || !object.value(QLatin1String("levelDbfs")).isDouble())
+    const char *moment = kind == Kind::sound ? "startMs" : "atMs";
+    if (!hasNumbers(object, moment, {"levelDbfs"}))
         return {};
+    read.sound = soundOf(object, moment);
     read.frameCount = object.value(QLatin1String("frames")).toDouble();
     read.droppedFrameCount = object.value(QLatin1String("droppedFrames")).toDouble();
     return read;

@@ -14,10 +14,14 @@ struct ListenerLine {
         ready,   ///< from `sound.startMs` on
         sound,   ///< `sound`
         level,   ///< `sound.levelDbfs`, at `sound.startMs`
+        clip,    ///< `place`
+        meter,   ///< `moment`
         lost,
     };
     Kind kind = Kind::unknown;
     HeardEvent sound;
+    HeardPlace place;
+    MeteredMoment moment;
     double frameCount = 0;        ///< of a level: frames that arrived since the one before
     double droppedFrameCount = 0; ///< of a level: frames lost since the beginning
 };

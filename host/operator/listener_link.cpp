@@ -34,20 +34,31 @@ ListenerLink::~ListenerLink()
     }
 }
 
-bool ListenerLink::start(const QStringList &arguments)
+void ListenerLink::launch(const QStringList &arguments)
 {
     isLost_ = false;
     process_.start(QCoreApplication::applicationDirPath() + QStringLiteral("/audio_listener"), arguments);
+}
+
+bool ListenerLink::start(const QStringList &arguments)
+{
+    launch(arguments);
     const QDeadlineTimer limit(startLimitMs);
     while (!isReady_ && !isLost_ && !limit.hasExpired())
         process_.waitForReadyRead(pollMs);
     if (isReady_ && !isLost_)
         return true;
     isLost_ = true;
-    errorText_ = QString::fromUtf8(process_.readAllStandardError()).trimmed();
-    if (errorText_.isEmpty())
-        errorText_ = QStringLiteral("audio_listener did not start: %1").arg(process_.errorString());
+    noteError();
     return false;
+}
+
+void ListenerLink::noteError()
+{
+    if (errorText_.isEmpty())
+        errorText_ = QString::fromUtf8(process_.readAllStandardError()).trimmed();
+    if (errorText_.isEmpty())
+        errorText_ = QStringLiteral("audio_listener ended: %1").arg(process_.errorString());
 }
 
 void ListenerLink::noteEnd()
@@ -56,6 +67,8 @@ void ListenerLink::noteEnd()
         return;
     readLines();
     isLost_ = true;
+    noteError();
+    emit lost();
 }
 
 void ListenerLink::readLines()
@@ -81,9 +94,21 @@ void ListenerLink::take(const ListenerLine &line)
     case ListenerLine::Kind::lost:
         isLost_ = true;
         break;
+    case ListenerLine::Kind::clip:
+        log_.addPlace(line.place);
+        break;
+    case ListenerLine::Kind::meter:
+        takeMoment(line.moment);
+        break;
     case ListenerLine::Kind::unknown:
         break;
     }
+}
+
+void ListenerLink::takeMoment(const MeteredMoment &moment)
+{
+    log_.addMoment(moment);
+    emit metered(moment);
 }
 
 } // namespace host

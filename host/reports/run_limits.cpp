@@ -71,8 +71,22 @@ QStringList limitsOfMicrophoneTest(const RunRecord &record)
 {
     QStringList limits{QStringLiteral("One microphone was tested: the machine's other inputs were not."),
                        QStringLiteral("A recording that sounds wrong can be the fault of the device that plays it.")};
-    if (!record.isUnattended)
+    if (!record.isUnattended) {
         limits.append(QStringLiteral("A person compared the sounds: nothing was measured."));
+        return limits;
+    }
+    limits.append(QStringLiteral("The sentence was spoken by a loudspeaker: a recording without it can be the fault of that "
+                                 "loudspeaker, of its volume or of its distance."));
+    limits.append(QStringLiteral("Only the first five seconds of what the microphone hears were recorded."));
+    limits.append(isMonitor(record.listenedTo)
+                      ? QStringLiteral("A monitor heard the playback: this run proves the digital path up to the sound server, "
+                                       "not the amplifier, the cable or the loudspeaker.")
+                      : QStringLiteral("A microphone heard the playback: what it heard may have come from another "
+                                       "loudspeaker, and its levels depend on its distance."));
+    limits.append(QStringLiteral("The sentence was compared below 4 kHz: what happens to higher tones is not known."));
+    limits.append(QStringLiteral("The latency is the delay of the playback beyond that of the recording; a sound server works "
+                                 "a tenth of a second ahead or behind, so it can be below zero."));
+    limits.append(QStringLiteral("The same in both channels is what a microphone with one capsule delivers: it is no fault."));
     return limits;
 }
 

@@ -76,6 +76,26 @@ QJsonArray digitsOf(const RunRecord &record)
     return rows;
 }
 
+QJsonValue recordingOf(const std::optional<HeardRecording> &heard)
+{
+    if (!heard)
+        return {};
+    return QJsonObject{
+        {QStringLiteral("microphone"), heard->microphone},
+        {QStringLiteral("spokenThrough"), heard->spokenThrough},
+        {QStringLiteral("heardAtMs"), heard->heardAtMs ? QJsonValue(*heard->heardAtMs) : QJsonValue()},
+        {QStringLiteral("score"), rounded(heard->score, 10'000)},
+        {QStringLiteral("found"), heard->isFound},
+        {QStringLiteral("latencyMs"), heard->latencyMs ? QJsonValue(std::round(*heard->latencyMs)) : QJsonValue()},
+        {QStringLiteral("levelDbfs"), rounded(heard->levelDbfs, 10)},
+        {QStringLiteral("peakDbfs"), rounded(heard->peakDbfs, 10)},
+        {QStringLiteral("clipped"), heard->isClipped},
+        {QStringLiteral("silent"), heard->isSilent},
+        {QStringLiteral("monoInStereo"), heard->isMonoInStereo},
+        {QStringLiteral("answer"),
+         heard->answer ? QJsonValue(*heard->answer ? QStringLiteral("yes") : QStringLiteral("no")) : QJsonValue()}};
+}
+
 QJsonObject bodyOf(const RunRecord &record)
 {
     return {{QStringLiteral("formatVersion"), reportFormatVersion},
@@ -96,6 +116,7 @@ QJsonObject bodyOf(const RunRecord &record)
             {QStringLiteral("unattended"), record.isUnattended},
             {QStringLiteral("listenedTo"), record.listenedTo},
             {QStringLiteral("digits"), digitsOf(record)},
+            {QStringLiteral("recording"), recordingOf(record.recording)},
             {QStringLiteral("restoredVolumes"), QJsonArray::fromStringList(record.restoredVolumes)},
             {QStringLiteral("volumeComplaint"), record.volumeComplaint},
             {QStringLiteral("screenshots"), QJsonArray::fromStringList(record.screenshots)}};

@@ -81,6 +81,7 @@ class TestRunReport : public QObject {
 private slots:
     void tellsTheRun();
     void tellsEveryDigit();
+    void tellsTheRecording();
     void tellsWhatIsNotKnownAsNull();
     void namesEachVerdict_data();
     void namesEachVerdict();
@@ -133,6 +134,43 @@ void TestRunReport::tellsEveryDigit()
                                {QStringLiteral("margin"), 0.5},      {QStringLiteral("latencyMs"), 61},
                                {QStringLiteral("levelDbfs"), -21.0}, {QStringLiteral("clipped"), true}};
     QCOMPARE(digit, expected);
+}
+
+void TestRunReport::tellsTheRecording()
+{
+    RunRecord record = playbackRecord();
+    QVERIFY(parsed(record).value(QLatin1String("recording")).isNull());
+    host::HeardRecording heard;
+    heard.microphone = QStringLiteral("Mic");
+    heard.spokenThrough = QStringLiteral("Speakers");
+    heard.heardAtMs = 9876;
+    heard.score = 0.987654;
+    heard.isFound = true;
+    heard.latencyMs = -12.4;
+    heard.levelDbfs = -20.54;
+    heard.peakDbfs = -3.16;
+    heard.isSilent = false;
+    heard.isMonoInStereo = true;
+    heard.answer = true;
+    record.recording = heard;
+    const QJsonObject expected{{QStringLiteral("microphone"), QStringLiteral("Mic")},
+                               {QStringLiteral("spokenThrough"), QStringLiteral("Speakers")},
+                               {QStringLiteral("heardAtMs"), 9876},
+                               {QStringLiteral("score"), 0.9877},
+                               {QStringLiteral("found"), true},
+                               {QStringLiteral("latencyMs"), -12},
+                               {QStringLiteral("levelDbfs"), -20.5},
+                               {QStringLiteral("peakDbfs"), -3.2},
+                               {QStringLiteral("clipped"), false},
+                               {QStringLiteral("silent"), false},
+                               {QStringLiteral("monoInStereo"), true},
+                               {QStringLiteral("answer"), QStringLiteral("yes")}};
+    QCOMPARE(parsed(record).value(QLatin1String("recording")).toObject(), expected);
+    record.recording = host::HeardRecording();
+    const QJsonObject unheard = parsed(record).value(QLatin1String("recording")).toObject();
+    for (const char *key : {"heardAtMs", "latencyMs", "answer"})
+        QVERIFY2(unheard.value(QLatin1String(key)).isNull(), key);
+    QVERIFY(unheard.value(QLatin1String("silent")).toBool());
 }
 
 void TestRunReport::tellsWhatIsNotKnownAsNull()
@@ -215,6 +253,11 @@ void TestRunReport::choosesTheLimits_data()
     QTest::newRow("monitor by its name") << QStringLiteral("p") << QStringLiteral("sink1.monitor") << server << room;
     QTest::newRow("microphone") << QStringLiteral("p") << QStringLiteral("Webcam") << room << server;
     QTest::newRow("attended") << QStringLiteral("p") << QString() << person << room;
+    QTest::newRow("microphone test at a monitor")
+        << QStringLiteral("m") << QStringLiteral("Monitor of X") << server << QStringLiteral("from another");
+    QTest::newRow("microphone test in a room")
+        << QStringLiteral("m") << QStringLiteral("Webcam") << QStringLiteral("from another") << server;
+    QTest::newRow("microphone test of a person") << QStringLiteral("m") << QString() << person << QStringLiteral("sentence");
     QTest::newRow("microphone test") << QStringLiteral("m") << QString() << QStringLiteral("One microphone") << server;
 }
 
