@@ -9,6 +9,8 @@
 
 #include <windows.h>
 
+#include <objbase.h>
+
 #include <psapi.h>
 #include <tlhelp32.h>
 
