@@ -30,7 +30,8 @@ line: "ready" when the device is open, "started", "finished". Ends then, or at t
 Exit codes: 0 it played or was told to end, 2 wrong usage or an unreadable file, 3 no such device, 4 the device was lost.
 )";
 
-constexpr std::uint16_t deviceBufferFrameCount = 1024;
+/// As much as the module takes: a smaller buffer runs empty on a busy machine, and the sentence gets holes.
+constexpr std::uint16_t deviceBufferFrameCount = 4096;
 constexpr Uint32 pollMs = 10;
 /// Frames that are still on their way when the queue is empty: two of the device's buffers and those of the sound server.
 constexpr Uint32 tailMs = 400;

@@ -89,6 +89,12 @@ void MicrophoneWorker::advance(bool isListenerLost)
         return speak();
     case Step::playing:
         return play();
+    case Step::repeating:
+        if (const QWidget *next = findShown(nextButton); next != nullptr && !next->isEnabled())
+            enter(Step::playing);
+        else if (inStepMs() > pageLimitMs)
+            close(QStringLiteral("the dialog did not play again"));
+        return;
     case Step::judging:
         return judge();
     case Step::leaving:
@@ -210,8 +216,24 @@ void MicrophoneWorker::judge()
             close(QStringLiteral("listener lost"));
         return;
     }
-    heard_ = measured();
+    const HeardRecording heard = measured();
+    if (!heard.isFound && !heard.isSilent && !hasRepeated_)
+        return listenAgain();
+    heard_ = heard;
     enter(Step::leaving);
+}
+
+// A busy machine may have torn the playback apart, as it would not a person's attention.
+void MicrophoneWorker::listenAgain()
+{
+    if (!press(playButton)) {
+        if (inStepMs() > listenerLimitMs)
+            close(QStringLiteral("the dialog did not play again"));
+        return;
+    }
+    hasRepeated_ = true;
+    playBeganMs_ = steadyNowMs();
+    enter(Step::repeating);
 }
 
 void MicrophoneWorker::leave()

@@ -24,9 +24,9 @@ struct Speech {
     QString clip;       ///< file
 };
 
-/// Works one microphone dialog: chooses the microphone, has a sentence spoken while the dialog records, listens while the
-/// dialog plays the recording back, and goes on when it is over. Judges only what is heard during the playback: the listener
-/// heard the spoken sentence as well. Sees only what a person sees.
+/// Asks for one repetition where something else was played back. Works one microphone dialog: chooses the microphone, has a
+/// sentence spoken while the dialog records, listens while the dialog plays the recording back, and goes on when it is over.
+/// Judges only what is heard during the playback: the listener heard the spoken sentence as well. Sees only what a person sees.
 class MicrophoneWorker : public QObject {
     Q_OBJECT
 
@@ -50,7 +50,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    enum class Step { choosing, preparing, pressing, recording, playing, judging, leaving, closing };
+    enum class Step { choosing, preparing, pressing, recording, playing, repeating, judging, leaving, closing };
 
     void enter(Step step);
     qint64 inStepMs() const { return steadyNowMs() - stepStartMs_; }
@@ -65,6 +65,7 @@ private:
     void speak();
     void play();
     void judge();
+    void listenAgain();
     void leave();
     void close(const QString &reason);
     void pressClose();
@@ -84,6 +85,7 @@ private:
     qint64 pressedMs_ = 0;
     qint64 recordPressedMs_ = 0;
     bool hasSpoken_ = false;
+    bool hasRepeated_ = false;
     qint64 playBeganMs_ = 0;
     qint64 playEndedMs_ = 0;
     std::optional<HeardRecording> heard_;

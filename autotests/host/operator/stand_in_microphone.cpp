@@ -77,8 +77,7 @@ QWidget *StandInMicrophone::playPage()
     new QVBoxLayout(page);
     play_ = button(page, QStringLiteral("play_button"));
     next_ = button(page, QStringLiteral("next_button"));
-    play_->setEnabled(false);
-    next_->setEnabled(false);
+    connect(play_, &QPushButton::clicked, this, &StandInMicrophone::play);
     connect(next_, &QPushButton::clicked, this, [this] { finish(Outcome::heard); });
     return page;
 }
@@ -105,6 +104,9 @@ void StandInMicrophone::record()
 void StandInMicrophone::play()
 {
     timer_.disconnect();
+    ++playCount_;
+    play_->setEnabled(false);
+    next_->setEnabled(false);
     pages_->setCurrentIndex(2);
     note_(Moment::playing);
     timer_.callOnTimeout(this, [this] {

@@ -26,6 +26,7 @@ public:
 
     Outcome outcome() const { return outcome_; }
     const QString &recordedBy() const { return recordedBy_; } ///< microphone that was chosen when NEXT was pressed
+    int playCount() const { return playCount_; }
     int recordCount() const { return recordCount_; }
 
 private:
@@ -46,5 +47,6 @@ private:
     QTimer timer_;
     QString recordedBy_;
     int recordCount_ = 0;
+    int playCount_ = 0;
     Outcome outcome_ = Outcome::open;
 };

@@ -110,6 +110,7 @@ private slots:
     void saysYesWhereTheSentenceIsPlayedBack();
     void saysNoWhereNothingIsPlayedBack();
     void saysNoWhereSomethingElseIsPlayedBack();
+    void listensOnceMoreToATornPlayback();
     void takesTheDialogsOwnChoice();
     void closesWhereThereIsNoSuchMicrophone();
     void closesWhereTheSentenceCannotBeSpoken();
@@ -165,6 +166,7 @@ void TestMicrophoneOperator::saysNoWhereNothingIsPlayedBack()
     const RunRecord record = run(dialog, question, settings());
     QCOMPARE(question.answer(), QStringLiteral("no"));
     QVERIFY(record.recording && !record.recording->isFound && record.recording->isSilent);
+    QCOMPARE(dialog.playCount(), 1); // silence is silence
     QVERIFY(!record.recording->heardAtMs && !record.recording->latencyMs && !record.recording->isMonoInStereo);
     QCOMPARE(record.recording->answer, std::optional(false));
 }
@@ -183,6 +185,26 @@ void TestMicrophoneOperator::saysNoWhereSomethingElseIsPlayedBack()
     QCOMPARE(question.answer(), QStringLiteral("no"));
     QVERIFY(record.recording && !record.recording->isFound && !record.recording->isSilent);
     QCOMPARE(record.recording->score, 0.31);
+    QCOMPARE(dialog.playCount(), 2);
+}
+
+void TestMicrophoneOperator::listensOnceMoreToATornPlayback()
+{
+    ListenerScript script;
+    Question question;
+    int playCount = 0;
+    StandInMicrophone dialog(microphones, [&](Moment step) {
+        if (step == Moment::playing)
+            ++playCount == 1 ? clip(script, 0.31, false) : clip(script, 0.9, true);
+        else if (step == Moment::played)
+            script.level(-20);
+    });
+    const RunRecord record = run(dialog, question, settings());
+    QCOMPARE(question.answer(), QStringLiteral("yes"));
+    QCOMPARE(dialog.playCount(), 2);
+    QCOMPARE(dialog.recordCount(), 1);
+    QVERIFY(record.recording);
+    QCOMPARE(record.recording->score, 0.9);
 }
 
 void TestMicrophoneOperator::takesTheDialogsOwnChoice()
