@@ -9,6 +9,7 @@
 
 #include <windows.h>
 
+#include <objbase.h>
 #include <psapi.h>
 #include <tlhelp32.h>
 
