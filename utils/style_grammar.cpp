@@ -10,7 +10,7 @@ namespace {
 // Qt takes characters beyond ASCII in quoted texts only. Possessive throughout: a text that does not match must not be tried in
 // every other way.
 const QString identifier = QStringLiteral(R"re((?:-?[_A-Za-z][-_A-Za-z0-9]*+))re");
-const QString quoted = QStringLiteral(R"re((?:"(?:[^"\\\r\n]|\\[^\r\n])*+"|'(?:[^'\\\r\n]|\\[^\r\n])*+'))re");
+const QString quoted = QStringLiteral(R"re((?:"(?:[^"\\\r\n\f]|\\[^\r\n\f])*+"|'(?:[^'\\\r\n\f]|\\[^\r\n\f])*+'))re");
 
 QRegularExpression whole(const QString &pattern)
 {

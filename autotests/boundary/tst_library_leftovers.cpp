@@ -10,7 +10,6 @@
 #include <windows.h>
 
 #include <objbase.h>
-
 #include <psapi.h>
 #include <tlhelp32.h>
 

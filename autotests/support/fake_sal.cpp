@@ -79,7 +79,7 @@ sal::Timer *get_timer()
 sal::ModuleLoader *get_module()
 {
     static fake_sal::NoModules service;
-    return fake_sal::state().hasModuleLoader ? &service : nullptr;
+    return &service;
 }
 
 sal::TemporaryPath *get_temporary_path()

@@ -19,7 +19,6 @@ struct Query {
 struct State {
     bool hasCim = true;
     bool hasNumberHandler = true;
-    bool hasModuleLoader = true;
     std::int32_t queryResult = 0;
     std::size_t failingQuery = 0;  ///< number of the query, from 1, that runs out of memory; 0 for none
     std::vector<sal::CimRow> rows; ///< answered to every query
