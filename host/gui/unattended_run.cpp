@@ -8,10 +8,20 @@
 #include "host/reports/run_report.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QTimer>
 
+#include <chrono>
 #include <utility>
 
 namespace host {
+
+namespace {
+
+// A run of either test takes less than one, its repetitions included.
+constexpr std::chrono::minutes longestRun{5};
+
+} // namespace
 
 UnattendedRun::UnattendedRun(TestSession &session, const Options &options, QString language)
     : session_(session), options_(options), language_(std::move(language))
@@ -27,6 +37,8 @@ QString UnattendedRun::deviceOfMonitor(const QString &source) const
     return {};
 }
 
+QString UnattendedRun::deviceName() const { return session_.deviceList().devices()[device_].name; }
+
 bool UnattendedRun::prepare(QString &problem)
 {
     problem.clear();
@@ -36,9 +48,11 @@ bool UnattendedRun::prepare(QString &problem)
         problem = QStringLiteral("the module has no test '%1'").arg(options_.test);
     else if (device_ < 0)
         problem = unknownDevice(options_.device, session_.deviceList().devices());
-    else if (const QString other = deviceOfMonitor(options_.source); !other.isEmpty() && other != options_.device)
+    else if (const QString other = deviceOfMonitor(options_.source); !other.isEmpty() && other != deviceName())
         problem = QStringLiteral("'%1' hears another device than '%2', which would be blamed for its silence")
-                      .arg(options_.source, options_.device);
+                      .arg(options_.source, deviceName());
+    else if (!options_.reportFile.isEmpty() && !QFileInfo(QFileInfo(options_.reportFile).path()).isWritable())
+        problem = QStringLiteral("the report '%1' cannot be written: its folder is missing or closed").arg(options_.reportFile);
     return problem.isEmpty();
 }
 
@@ -61,10 +75,17 @@ std::optional<RunRecord> UnattendedRun::perform()
     if (!person.start())
         return unheard(person.errorText());
     person.beginRun();
-    return session_.run(test_, device_, language_, [this, &person](RunRecord &record) {
+    bool isOverdue = false;
+    QTimer::singleShot(longestRun, &person, [this, &isOverdue] {
+        isOverdue = true;
+        session_.stop();
+    });
+    return session_.run(test_, device_, language_, [this, &person, &isOverdue](RunRecord &record) {
         record.isUnattended = true;
         record.listenedTo = options_.source;
         person.endRun(record);
+        if (isOverdue)
+            record.reason = QStringLiteral("the run took longer than five minutes");
     });
 }
 
@@ -77,13 +98,12 @@ OperatorSettings UnattendedRun::operatorSettings() const
     settings.language = language_;
     settings.screenshotsFolder = options_.screenshotsFolder;
     settings.mistypedSequences = options_.mistypedSequences;
-    settings.device = session_.deviceList().devices()[device_].name;
+    settings.device = deviceName();
     if (options_.test != QLatin1String("m"))
         return settings;
     settings.sentence = clips + QStringLiteral("operator/sentence_en_US.wav");
     settings.microphone = options_.microphone;
-    settings.speakThrough =
-        options_.speakThrough.isEmpty() ? session_.deviceList().devices()[device_].name : options_.speakThrough;
+    settings.speakThrough = options_.speakThrough.isEmpty() ? deviceName() : options_.speakThrough;
     return settings;
 }
 

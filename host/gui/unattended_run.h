@@ -32,6 +32,7 @@ public:
 
 private:
     std::optional<RunRecord> perform();
+    QString deviceName() const; ///< once it is known
     QString deviceOfMonitor(const QString &source) const;
     OperatorSettings operatorSettings() const;
     RunRecord unheard(const QString &reason) const;

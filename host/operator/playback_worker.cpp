@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/operator/playback_worker.h"
 
+#include "host/core/capture_source.h"
 #include "host/operator/real_input.h"
 #include "host/operator/window_photographer.h"
 
@@ -37,6 +38,8 @@ constexpr qint64 pressAgainMs = 2'000;
 /// The clocks of dialog and capture agree to a buffer or two.
 constexpr qint64 clockToleranceMs = 200;
 constexpr qint64 longestLatencyMs = 2'000;
+/// What the listener calls the level of zeros.
+constexpr double digitalSilenceDbfs = -120.0;
 
 /// How well the digits of a play were heard: digits, sounds of any kind, loudest level.
 std::tuple<qsizetype, qsizetype, double> clarityOf(const QList<HeardDigit> &rows)
@@ -56,7 +59,7 @@ std::tuple<qsizetype, qsizetype, double> clarityOf(const QList<HeardDigit> &rows
 PlaybackWorker::PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences,
                                qint64 listenFromMs, const QStringList &endpoints)
     : dialog_(dialog), log_(log), photographer_(photographer), mistypedSequences_(mistypedSequences),
-      stepStartMs_(steadyNowMs()), listenFromMs_(listenFromMs), volumes_(endpoints)
+      stepStartMs_(steadyNowMs()), listenFromMs_(listenFromMs), source_(endpoints.value(1)), volumes_(endpoints)
 {
     dialog->installEventFilter(this);
     for (const char *name : {thirdTyped, secondMessage}) {
@@ -207,6 +210,12 @@ QString PlaybackWorker::whyNotSilent() const
     });
     if (wasHeard)
         return QStringLiteral("not recognised");
+    // A microphone that works always hears something; a monitor of silence is exactly silent.
+    const bool isDead = !isMonitor(source_) && std::all_of(plays_.begin(), plays_.end(), [this](const Play &play) {
+        return log_.loudestBetween(play.fromMs, play.toMs) <= digitalSilenceDbfs;
+    });
+    if (isDead)
+        return QStringLiteral("the capture source delivers nothing");
     return volumes_.wereRaised() ? QString() : QStringLiteral("the volume could not be raised");
 }
 

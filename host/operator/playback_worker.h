@@ -93,6 +93,7 @@ private:
     qint64 secondShownMs_ = 0;
     qint64 playEndMs_ = 0;
     bool hasRepeated_ = false;
+    QString source_; ///< what the listener captures
     VolumeWatch volumes_;
     QList<Play> plays_; ///< those that are over, of both sequences
     QList<int> answer_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/reports/run_limits.h"
 
+#include "host/core/capture_source.h"
+
 #include <algorithm>
 
 namespace host {
@@ -91,11 +93,6 @@ QStringList limitsOfMicrophoneTest(const RunRecord &record)
 }
 
 } // namespace
-
-bool isMonitor(const QString &source)
-{
-    return source.startsWith(QStringLiteral("Monitor of ")) || source.endsWith(QStringLiteral(".monitor"));
-}
 
 QStringList runLimits(const RunRecord &record)
 {

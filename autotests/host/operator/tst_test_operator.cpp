@@ -94,6 +94,8 @@ private slots:
     void doesNotCallADeviceSilentThatWasHeard();
     void keepsTheRowsOfTheBetterPlay();
     void raisesItsDialogOverAnotherWindow();
+    void blamesNobodyForADeadMicrophone_data();
+    void blamesNobodyForADeadMicrophone();
     void blamesNobodyWhereItCouldNotListen_data();
     void blamesNobodyWhereItCouldNotListen();
     void closesWhereTheSoundIsNoDigit();
@@ -184,6 +186,33 @@ void TestTestOperator::saysThatNothingWasHeard()
     QCOMPARE(heardIn(record), (QList<int>{-1, -1, -1}));
     QCOMPARE(record.digits.at(0).levelDbfs, -120.0);
     QVERIFY(record.reason.isEmpty()); // the module's own verdict
+}
+
+void TestTestOperator::blamesNobodyForADeadMicrophone_data()
+{
+    QTest::addColumn<double>("levelDbfs");
+    QTest::addColumn<bool>("isBlamed");
+    QTest::newRow("zeros only, as without a microphone") << -120.0 << false;
+    QTest::newRow("the noise of a quiet room") << -72.5 << true;
+}
+
+// In the air there is always some noise.
+void TestTestOperator::blamesNobodyForADeadMicrophone()
+{
+    QFETCH(const double, levelDbfs);
+    QFETCH(const bool, isBlamed);
+    ListenerScript script;
+    StandInDialog dialog({{5, 6, 8}}, [&script, levelDbfs](int digit) {
+        if (digit < 0)
+            script.level(-120);
+        else
+            script.sound(levelDbfs);
+    });
+    OperatorSettings given = settings();
+    given.source = QStringLiteral("Room Microphone");
+    const RunRecord record = run(dialog, given);
+    QCOMPARE(dialog.outcome(), isBlamed ? Outcome::noSound : Outcome::closed);
+    QCOMPARE(record.reason, isBlamed ? QString() : QStringLiteral("the capture source delivers nothing"));
 }
 
 void TestTestOperator::doesNotCallADeviceSilentThatWasHeard_data()
