@@ -83,7 +83,7 @@ void LevelWindow::placeBeside(const QWidget &dialog)
     adjustSize();
     const QRect room = dialog.screen()->availableGeometry();
     const QRect taken = dialog.frameGeometry();
-    const int margin = fontMetrics().height();
+    const int margin = 2 * fontMetrics().height(); // room for the title bar, whose height is known too late
     const bool fitsBelow = taken.bottom() + margin + height() <= room.bottom();
     const int top = fitsBelow ? taken.bottom() + margin : taken.top() - margin - height();
     move(std::clamp(taken.left(), room.left(), std::max(room.left(), room.right() - width())), std::max(room.top(), top));

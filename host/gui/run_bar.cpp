@@ -101,7 +101,7 @@ void RunBar::attachTo(const QWidget &dialog)
     windowHandle()->setTransientParent(dialog.windowHandle());
     const QRect room = dialog.screen()->availableGeometry();
     adjustSize();
-    const int margin = fontMetrics().height();
+    const int margin = 2 * fontMetrics().height(); // room for the title bar, whose height is known too late
     move(room.right() - width() - margin, room.top() + margin);
     show();
     raise();
