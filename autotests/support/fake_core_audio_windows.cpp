@@ -27,6 +27,7 @@ struct FakeCoreAudio::Core {
     int apartmentEntries = 0;
     long referencesAtLeaving = 0;
     std::vector<std::string> complaints;
+    IMMNotificationClient *client = nullptr;
 
     DWORD classCookie = 0;
     ULARGE_INTEGER spyCookie{};
@@ -269,8 +270,18 @@ public:
     }
     STDMETHODIMP GetDefaultAudioEndpoint(EDataFlow, ERole, IMMDevice **) override { return E_NOTIMPL; }
     STDMETHODIMP GetDevice(LPCWSTR, IMMDevice **) override { return E_NOTIMPL; }
-    STDMETHODIMP RegisterEndpointNotificationCallback(IMMNotificationClient *) override { return E_NOTIMPL; }
-    STDMETHODIMP UnregisterEndpointNotificationCallback(IMMNotificationClient *) override { return E_NOTIMPL; }
+    STDMETHODIMP RegisterEndpointNotificationCallback(IMMNotificationClient *client) override
+    {
+        core().require(core().client == nullptr, "a second client asked for notices");
+        core().client = client;
+        return S_OK;
+    }
+    STDMETHODIMP UnregisterEndpointNotificationCallback(IMMNotificationClient *client) override
+    {
+        core().require(core().client == client, "a client left that had not asked for notices");
+        core().client = nullptr;
+        return S_OK;
+    }
 };
 
 // The fake's own fixtures below live as long as the process and are not counted.
@@ -439,6 +450,8 @@ long FakeCoreAudio::referenceCount() const { return core_->references; }
 std::size_t FakeCoreAudio::outstandingIdCount() const { return core_->ids.size(); }
 int FakeCoreAudio::openApartmentCount() const { return core_->apartmentEntries; }
 long FakeCoreAudio::referencesAtLeaving() const { return core_->referencesAtLeaving; }
+IMMNotificationClient *FakeCoreAudio::client() const { return core_->client; }
+
 const std::vector<std::string> &FakeCoreAudio::complaints() const { return core_->complaints; }
 
 } // namespace fake_core_audio

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+struct IMMNotificationClient;
+
 /// Core Audio with endpoints that a test chooses, for what Wine lacks (levels that can be set) and no machine does on demand
 /// (calls that fail). Its class object stands for the system's device enumerator on the thread that made it, as long as that
 /// thread stays in its single-threaded apartment; other threads see the real one.
@@ -74,6 +76,8 @@ public:
     int openApartmentCount() const;
     /// The most references that were alive while the product left an apartment.
     long referencesAtLeaving() const;
+    /// Who hears of devices that come and go; null for nobody. The real thing calls it from threads of its own.
+    IMMNotificationClient *client() const;
     /// Arguments that the contract of Core Audio or ours does not allow, in words.
     const std::vector<std::string> &complaints() const;
 
