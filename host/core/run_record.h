@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/core/device_list.h"
+#include "host/core/digit_measurement.h"
 
 #include <QDateTime>
 #include <QList>
@@ -35,6 +36,7 @@ struct HeardDigit {
     double latencyMs = 0.0;   ///< from the dialog's "playing" to the first sound; below zero when not known
     double levelDbfs = 0.0;   ///< RMS level of what was captured
     bool clipped = false;
+    std::optional<DigitMeasurement> measured;
 };
 
 /// One run of one test on one device, as it happened; what a report is written from.

@@ -2,6 +2,7 @@
 #include "host/gui/options.h"
 
 #include "host/core/language_setting.h"
+#include "host/reports/report_formats.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
@@ -26,7 +27,7 @@ constexpr std::array<KnownOption, 14> knownOptions{{
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
     {"listen", "SOURCE", "the capture source that hears the device", true},
-    {"report", "FILE", "write the report of the run there", true},
+    {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},
     {"screenshots", "DIR", "photograph the windows into that folder", true},
     {"mistype", "N", "for proofs: get N sequences wrong", true},
     {"language", "CODE", "language, such as de_DE; kept for later starts", false},
@@ -110,6 +111,10 @@ std::optional<OptionsError> checkUnattended(const QCommandLineParser &parser, co
                                             : QStringLiteral("unknown test '%1' (known: p, m)").arg(options.test));
     if (options.device.isEmpty())
         return error(QStringLiteral("--unattended needs '--device NAME'"));
+    for (const QString &file : options.reportFiles) {
+        if (!reportFormatOf(file))
+            return error(QStringLiteral("the report '%1' cannot be written: %2").arg(file, reportSuffixes()));
+    }
     return options.source.isEmpty() ? std::optional<OptionsError>(error(QStringLiteral("--unattended needs '--listen SOURCE'")))
                                     : std::nullopt;
 }
@@ -140,7 +145,9 @@ Options readValues(const QCommandLineParser &parser)
     options.device = parser.value(QStringLiteral("device"));
     options.source = parser.value(QStringLiteral("listen"));
     options.language = parser.value(QStringLiteral("language"));
-    options.reportFile = absolute(parser.value(QStringLiteral("report")));
+    const QStringList reports = parser.values(QStringLiteral("report"));
+    for (const QString &file : reports)
+        options.reportFiles.append(absolute(file));
     options.screenshotsFolder = absolute(parser.value(QStringLiteral("screenshots")));
     options.configFolder = absolute(parser.value(QStringLiteral("config")));
     return options;

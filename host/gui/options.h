@@ -19,7 +19,7 @@ struct Options {
     QString test; ///< letter
     QString device;
     QString source;
-    QString reportFile;
+    QStringList reportFiles;
     QString language;
     QString screenshotsFolder;
     QString configFolder;

@@ -4,6 +4,7 @@
 #include "contract/result_codes.h"
 #include "host/core/verdict.h"
 #include "host/gui/console_output.h"
+#include "host/gui/key_text.h"
 #include "host/operator/test_operator.h"
 #include "host/reports/run_report.h"
 
@@ -35,7 +36,7 @@ int UnattendedRun::run()
         return static_cast<int>(ostra::result::notCompleted);
     print(runSummary(*record));
     const std::uint32_t code = codeOf(verdictOf(*record));
-    const bool isReported = writeReport(*record);
+    const bool isReported = writeReports(*record);
     return static_cast<int>(isReported || code != ostra::result::passed ? code : ostra::result::notCompleted);
 }
 
@@ -70,15 +71,17 @@ RunRecord UnattendedRun::unheard(const QString &reason) const
     return record;
 }
 
-bool UnattendedRun::writeReport(const RunRecord &record) const
+bool UnattendedRun::writeReports(const RunRecord &record) const
 {
-    if (options_.reportFile.isEmpty())
-        return true;
-    QString problem;
-    if (writeRunReport(record, options_.reportFile, &problem))
-        return true;
-    complain(problem);
-    return false;
+    bool isWritten = true;
+    for (const QString &file : options_.reportFiles) {
+        QString problem;
+        if (writeRunReport(record, file, &problem, [](const QString &key) { return shownText(key); }))
+            continue;
+        complain(problem);
+        isWritten = false;
+    }
+    return isWritten;
 }
 
 } // namespace host

@@ -19,13 +19,13 @@ public:
     qsizetype test() const noexcept { return test_; }
     qsizetype device() const noexcept { return device_; }
 
-    /// Runs it, writes the report, prints verdict and digits on standard output, and returns the program's exit code.
+    /// Runs it, writes the reports, prints verdict and digits on standard output, and returns the program's exit code.
     int run();
 
 private:
     std::optional<RunRecord> perform();
     RunRecord unheard(const QString &reason) const;
-    bool writeReport(const RunRecord &record) const;
+    bool writeReports(const RunRecord &record) const;
 
     TestSession &session_;
     Options options_;
