@@ -6,6 +6,8 @@
 #include "host/gui/console_output.h"
 #include "host/gui/key_text.h"
 #include "host/operator/test_operator.h"
+#include "host/precheck/precheck.h"
+#include "host/reports/run_limits.h"
 #include "host/reports/run_report.h"
 
 #include <QCoreApplication>
@@ -42,8 +44,16 @@ int UnattendedRun::run()
 
 std::optional<RunRecord> UnattendedRun::perform()
 {
-    const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files/") + language_;
-    TestOperator person({options_.source, clips, language_, options_.screenshotsFolder, options_.mistypedSequences});
+    const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
+    const auto findings = checkBeforeRun({session_.deviceList().devices()[device_].name, clips, language_, isRecording()});
+    for (const PrecheckFinding &finding : findings)
+        complain(precheckText(finding));
+    for (const PrecheckFinding &finding : findings) {
+        if (finding.isBlocking())
+            return unheard(QStringLiteral("clips: ") + precheckText(finding));
+    }
+    TestOperator person(
+        {options_.source, clips + u'/' + language_, language_, options_.screenshotsFolder, options_.mistypedSequences});
     if (!person.start())
         return unheard(person.errorText());
     person.beginRun();
@@ -53,6 +63,8 @@ std::optional<RunRecord> UnattendedRun::perform()
         person.endRun(record);
     });
 }
+
+bool UnattendedRun::isRecording() const { return options_.test == QLatin1String("m") || !isMonitor(options_.source); }
 
 // Nobody is there who could take the test.
 RunRecord UnattendedRun::unheard(const QString &reason) const

@@ -24,6 +24,7 @@ public:
 
 private:
     std::optional<RunRecord> perform();
+    bool isRecording() const;
     RunRecord unheard(const QString &reason) const;
     bool writeReports(const RunRecord &record) const;
 

@@ -65,11 +65,13 @@ void TestHostOptions::readsSeveralEvents()
 
 void TestHostOptions::makesPathsAbsolute()
 {
-    const auto result =
-        read(QStringLiteral("--unattended --test m --device 0 --listen x --report r.json --screenshots pictures --config ."));
+    const auto result = read(QStringLiteral(
+        "--unattended --test m --device 0 --listen x --report r.json --report r.HTML --screenshots pictures --config ."));
     const auto *options = std::get_if<host::Options>(&result);
     QVERIFY(options != nullptr);
-    QCOMPARE(options->reportFile, QDir::current().absoluteFilePath(QStringLiteral("r.json")));
+    const QDir current = QDir::current();
+    QCOMPARE(options->reportFiles, (QStringList{current.absoluteFilePath(QStringLiteral("r.json")),
+                                                current.absoluteFilePath(QStringLiteral("r.HTML"))}));
     QCOMPARE(options->screenshotsFolder, QDir::current().absoluteFilePath(QStringLiteral("pictures")));
     QVERIFY(QDir::isAbsolutePath(options->configFolder));
 }
@@ -97,6 +99,8 @@ void TestHostOptions::refusesWhatItCannotDo_data()
     row("no device", "--unattended --test p --listen x", "--device NAME");
     row("no source", "--unattended --test p --device 0", "--listen SOURCE");
     row("test without unattended", "--test p", "'--test' goes with '--unattended' only");
+    row("report of no known format", "--unattended --test p --device 0 --listen x --report r.pdf",
+        "its name must end in .json");
     row("report without unattended", "--report x", "'--report' goes with");
     row("mistype without unattended", "--mistype 1", "'--mistype' goes with");
     row("mistype no number", "--unattended --test p --device 0 --listen x --mistype -1", "not '-1'");
