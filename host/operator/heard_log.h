@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "host/core/digit_measurement.h"
+
 #include <QList>
 
 #include <optional>
@@ -18,6 +20,7 @@ struct HeardEvent {
     double margin = 0;
     double levelDbfs = 0;
     bool isClipped = false;
+    std::optional<DigitMeasurement> measured;
 };
 
 /// What the listener has told since its start.

@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace host {
@@ -16,6 +17,36 @@ constexpr int pollMs = 100;
 
 double number(const QJsonObject &object, const char *key) { return object.value(QLatin1String(key)).toDouble(); }
 
+std::optional<double> optionalNumber(const QJsonObject &object, const char *key)
+{
+    const QJsonValue value = object.value(QLatin1String(key));
+    return value.isDouble() ? std::optional(value.toDouble()) : std::nullopt;
+}
+
+QList<double> numbers(const QJsonObject &object, const char *key)
+{
+    QList<double> list;
+    const QJsonArray values = object.value(QLatin1String(key)).toArray();
+    for (const QJsonValue value : values)
+        list.append(value.toDouble());
+    return list;
+}
+
+std::optional<DigitMeasurement> measurementOf(const QJsonValue &value)
+{
+    const QJsonObject object = value.toObject();
+    if (object.isEmpty())
+        return std::nullopt;
+    return DigitMeasurement{optionalNumber(object, "snrDb"),
+                            optionalNumber(object, "residualDbfs"),
+                            optionalNumber(object, "clockErrorPpm"),
+                            number(object, "peakDbfs"),
+                            object.value(QLatin1String("clippedFrameCount")).toInteger(),
+                            numbers(object, "lowest"),
+                            numbers(object, "highest"),
+                            numbers(object, "bandLevelsDbfs")};
+}
+
 HeardEvent soundOf(const QJsonObject &object)
 {
     HeardEvent event;
@@ -26,6 +57,7 @@ HeardEvent soundOf(const QJsonObject &object)
     event.margin = number(object, "margin");
     event.levelDbfs = number(object, "levelDbfs");
     event.isClipped = object.value(QLatin1String("clipped")).toBool();
+    event.measured = measurementOf(object.value(QLatin1String("measured")));
     return event;
 }
 

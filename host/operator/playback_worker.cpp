@@ -255,6 +255,7 @@ void PlaybackWorker::noteRows()
             row.heard = sound.digit;
             row.score = sound.score;
             row.margin = sound.margin;
+            row.measured = sound.measured;
             row.latencyMs = latencyOf(sound.startMs);
             row.levelDbfs = sound.levelDbfs;
             row.clipped = sound.isClipped;
