@@ -5,6 +5,7 @@
 
 #include <QList>
 
+#include <memory>
 #include <optional>
 
 namespace host {
@@ -20,7 +21,7 @@ struct HeardEvent {
     double margin = 0;
     double levelDbfs = 0;
     bool isClipped = false;
-    std::optional<DigitMeasurement> measured;
+    std::shared_ptr<const DigitMeasurement> measured; ///< null when nothing was measured; shared, as events are sorted
 };
 
 /// What the listener has told since its start.

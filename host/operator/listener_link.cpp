@@ -32,19 +32,15 @@ QList<double> numbers(const QJsonObject &object, const char *key)
     return list;
 }
 
-std::optional<DigitMeasurement> measurementOf(const QJsonValue &value)
+std::shared_ptr<const DigitMeasurement> measurementOf(const QJsonValue &value)
 {
     const QJsonObject object = value.toObject();
     if (object.isEmpty())
-        return std::nullopt;
-    return DigitMeasurement{optionalNumber(object, "snrDb"),
-                            optionalNumber(object, "residualDbfs"),
-                            optionalNumber(object, "clockErrorPpm"),
-                            number(object, "peakDbfs"),
-                            object.value(QLatin1String("clippedFrameCount")).toInteger(),
-                            numbers(object, "lowest"),
-                            numbers(object, "highest"),
-                            numbers(object, "bandLevelsDbfs")};
+        return nullptr;
+    return std::make_shared<const DigitMeasurement>(DigitMeasurement{
+        optionalNumber(object, "snrDb"), optionalNumber(object, "residualDbfs"), optionalNumber(object, "clockErrorPpm"),
+        number(object, "peakDbfs"), object.value(QLatin1String("clippedFrameCount")).toInteger(), numbers(object, "lowest"),
+        numbers(object, "highest"), numbers(object, "bandLevelsDbfs")});
 }
 
 HeardEvent soundOf(const QJsonObject &object)

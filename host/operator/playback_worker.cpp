@@ -255,7 +255,8 @@ void PlaybackWorker::noteRows()
             row.heard = sound.digit;
             row.score = sound.score;
             row.margin = sound.margin;
-            row.measured = sound.measured;
+            if (sound.measured)
+                row.measured = *sound.measured;
             row.latencyMs = latencyOf(sound.startMs);
             row.levelDbfs = sound.levelDbfs;
             row.clipped = sound.isClipped;
