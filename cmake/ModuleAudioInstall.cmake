@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
 # `cmake --install` makes a folder from which everything runs in place: dist/linux and dist/windows.
-install(TARGETS module_audio sal style_manager TamrexDiagnostics TamrexDiagnosticsCLI audio_listener volume_guardian
+install(TARGETS module_audio sal style_manager TamrexDiagnostics TamrexDiagnosticsCLI audio_listener audio_speaker volume_guardian
     RUNTIME DESTINATION . LIBRARY DESTINATION .)
 install(DIRECTORY "${MODULE_AUDIO_CLIPS_DIR}/" DESTINATION audio_files FILES_MATCHING PATTERN "*.wav" PATTERN "manifest.sha256"
     PATTERN ".*" EXCLUDE)

@@ -8,6 +8,8 @@ _TamrexDiagnosticsCLI() {
         --test) mapfile -t COMPREPLY < <(compgen -W 'p m' -- "$current"); return ;;
         --device) COMPREPLY=(); return ;;
         --listen) COMPREPLY=(); return ;;
+        --microphone) COMPREPLY=(); return ;;
+        --speak-through) COMPREPLY=(); return ;;
         --report) mapfile -t COMPREPLY < <(compgen -f -- "$current"); return ;;
         --screenshots) mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
         --language) mapfile -t COMPREPLY < <(compgen -W 'pt_BR en_US es_ES fr_FR it_IT de_DE nl_NL zh_CN ja_JP' -- "$current"); return ;;
@@ -20,7 +22,7 @@ _TamrexDiagnosticsCLI() {
     case $command in
         list) options='--json --config --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
         info) options='--json --self-check --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
-        run) options='--config --test --device --listen --report --screenshots --allow-virtual --language --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
+        run) options='--config --test --device --listen --microphone --speak-through --report --screenshots --allow-virtual --language --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
         report) options='--output --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { mapfile -t COMPREPLY < <(compgen -f -- "$current"); return; } ;;
         clips) options='--json --language --folder --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { mapfile -t COMPREPLY < <(compgen -W 'verify' -- "$current"); return; } ;;
         *) [[ $current == -* ]] || options='list info run report clips' ;;

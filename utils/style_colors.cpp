@@ -71,7 +71,11 @@ QString withColor(const QString &value, const QString &color)
         const qsizetype opaque = endOfOpaque(value, at);
         const qsizetype end = opaque > at ? opaque : qMax(endOfWord(value, at), at + 1);
         const QStringView word = QStringView(value).sliced(at, end - at);
-        result += opaque == at && isColor(word) ? QStringView(color) : word;
+        const bool isReplaced = opaque == at && isColor(word);
+        result += isReplaced ? QStringView(color) : word;
+        // A word that followed the bracket of a function would become a part of the colour.
+        if (isReplaced && end < value.size() && isWordCharacter(value[end]) && !color.isEmpty())
+            result += u' ';
         at = end;
     }
     return result;

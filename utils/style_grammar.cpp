@@ -10,7 +10,7 @@ namespace {
 // Qt takes characters beyond ASCII in quoted texts only. Possessive throughout: a text that does not match must not be tried in
 // every other way.
 const QString identifier = QStringLiteral(R"re((?:-?[_A-Za-z][-_A-Za-z0-9]*+))re");
-const QString quoted = QStringLiteral(R"re((?:"(?:[^"\\\r\n]|\\[^\r\n])*+"|'(?:[^'\\\r\n]|\\[^\r\n])*+'))re");
+const QString quoted = QStringLiteral(R"re((?:"(?:[^"\\\r\n\f]|\\[^\r\n\f])*+"|'(?:[^'\\\r\n\f]|\\[^\r\n\f])*+'))re");
 
 QRegularExpression whole(const QString &pattern)
 {
@@ -34,7 +34,9 @@ QString valuePattern()
     const QString number = QStringLiteral(R"re((?:[-+]?(?:[0-9]++(?:\.[0-9]++)?+|\.[0-9]++)(?:%|[A-Za-z]++)?+))re");
     const QString arguments = QStringLiteral(R"re((?(DEFINE)(?<arguments>\((?:[-+.,:#%/ \w]|(?&arguments))*+\))))re");
     const QString function = QStringLiteral("(?:%1(?&arguments))").arg(identifier);
-    const QString hash = QStringLiteral(R"re((?:#[-_A-Za-z0-9]++))re");
+    // Of all that may follow the sign Qt takes the colours only.
+    const QString hash =
+        QStringLiteral("(?:#(?:%1{12}|%1{9}|%1{8}|%1{6}|%1{3})(?![-_A-Za-z0-9]))").arg(QStringLiteral("[0-9A-Fa-f]"));
     const QString term = QStringLiteral("(?:") + QStringList{url, function, number, hash, quoted, identifier}.join(u'|') + u')';
     return arguments + term + QStringLiteral("(?: ?[,/]? ?") + term +
            QStringLiteral(R"re()*+(?: ?! ?[Ii][Mm][Pp][Oo][Rr][Tt][Aa][Nn][Tt])?+)re");

@@ -3,19 +3,20 @@
 
 #include "audio/audio_component.h"
 #include "audio/sound_clip.h"
-#include "contract/event_mask.h"
 #include "contract/sal.h"
-#include "contract/test_context.h"
 #include "ui_audio_playback_test_view.h"
 #include "utils/dpi.h"
 #include "views/playback_form.h"
+#include "views/system_events.h"
 
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOption>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
+#include <utility>
 
 namespace ostra {
 
@@ -226,9 +227,16 @@ void AudioPlaybackTestView::CheckAudioIsPlaying()
 
 void AudioPlaybackTestView::CheckSystemEventAbortion()
 {
-    EventSource *events = systemEvents_ == nullptr ? nullptr : systemEvents_->events();
-    if (events != nullptr && (events->pendingEvents() & cancelingEventMask) != 0)
+    switch (askForEvents(systemEvents_)) {
+    case EventAnswer::cancel:
         finish(playback_outcome::systemEvent);
+        break;
+    case EventAnswer::unknown: // nobody can tell any more what may have spoilt the test
+        finish(playback_outcome::notCompleted);
+        break;
+    case EventAnswer::goOn:
+        break;
+    }
 }
 
 void AudioPlaybackTestView::OnCloseButtonClicked() { finish(playback_outcome::notCompleted); }

@@ -5,6 +5,7 @@
 #include <QKeySequence>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QTextDocument>
 
 namespace ostra {
 
@@ -14,13 +15,19 @@ constexpr int leastCharacters = 12;
 
 QString withoutMnemonic(QString text) { return text.replace(QLatin1Char('&'), QLatin1String("&&")); }
 
+// A tool tip takes a text with tags for rich text, and one with escapes only for plain text.
+QString literally(const QString &name)
+{
+    return Qt::mightBeRichText(name) ? QStringLiteral("<span>%1</span>").arg(name.toHtmlEscaped()) : name;
+}
+
 } // namespace
 
 DeviceRadioButton::DeviceRadioButton(const QString &name, QWidget *parent) : QRadioButton(name, parent)
 {
     setShortcut(QKeySequence()); // an ampersand in a name asks for none
     setAccessibleName(name);
-    setToolTip(name);
+    setToolTip(literally(name));
 }
 
 QFontMetrics DeviceRadioButton::boldMetrics() const

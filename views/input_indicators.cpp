@@ -19,8 +19,11 @@ void InputIndicators::showOnly(std::size_t position, QPushButton *Position::*sho
     if (position >= positions_.size())
         return;
     const Position &at = positions_.at(position);
-    for (QPushButton *Position::*kind : {&Position::set, &Position::current, &Position::unset})
-        (at.*kind)->setVisible(kind == shown);
+    for (QPushButton *Position::*kind : {&Position::set, &Position::current, &Position::unset}) {
+        if (kind != shown)
+            (at.*kind)->hide();
+    }
+    (at.*shown)->show(); // last, so that a position never shows two at once
 }
 
 void InputIndicators::showDigit(std::size_t position, int digit) const

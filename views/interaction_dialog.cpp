@@ -2,13 +2,12 @@
 #include "views/interaction_dialog.h"
 
 #include "audio/audio_devices.h"
-#include "contract/event_mask.h"
-#include "contract/test_context.h"
 #include "utils/dpi.h"
 #include "views/microphone_form.h"
 #include "views/play_audio.h"
 #include "views/record_audio.h"
 #include "views/select_device.h"
+#include "views/system_events.h"
 #include "views/ui_interaction_dialog.h"
 #include "views/widget_setup.h"
 
@@ -134,10 +133,7 @@ void InteractionDialog::CheckMicrophoneConnection(int index)
         AbortDeviceDisconnected();
 }
 
-bool InteractionDialog::isCancelledByEvent() const
-{
-    return isReady_ && events_ != nullptr && (events_->pendingEvents() & cancelingEventMask) != 0;
-}
+bool InteractionDialog::isCancelledByEvent() const { return isReady_ && askForEvents(events_) != EventAnswer::goOn; }
 
 void InteractionDialog::CheckSystemEvent()
 {

@@ -12,6 +12,7 @@
 #include <QList>
 
 #include <array>
+#include <initializer_list>
 
 namespace ostra::playback_form {
 
@@ -25,8 +26,8 @@ constexpr int keySide = 34;
 constexpr int inputSide = 30;
 constexpr int iconSide = 20;
 constexpr int closeSide = 22;
-constexpr int indicatorWidth = 77;
-constexpr int indicatorHeight = 32;
+constexpr int indicatorWidth = 67;
+constexpr int indicatorHeight = 28;
 constexpr double textHeight = 8.0 * 96.0 / 72.0; // eight points
 constexpr double titleHeight = 9.0 * 96.0 / 72.0;
 constexpr double digitHeight = 12.0 * 96.0 / 72.0;

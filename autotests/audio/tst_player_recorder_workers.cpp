@@ -3,16 +3,15 @@
 #include "audio/player_helper.h"
 #include "audio/recorder_helper.h"
 #include "audio/worker_status.h"
+#include "autotests/audio/object_tables.h"
 #include "autotests/support/fake_sdl.h"
 #include "autotests/support/refusing_allocator.h"
 
-#include <QMetaMethod>
 #include <QObject>
 #include <QStringList>
 #include <QTest>
 #include <QThread>
 
-#include <cstring>
 #include <functional>
 #include <stdexcept>
 
@@ -63,27 +62,6 @@ std::vector<int> statusesOf(RecorderHelper &worker, int failing = -1)
 std::vector<int> statusesOf(PlayerHelper &worker, int failing = -1)
 {
     return statusesOf(worker, &PlayerHelper::PlayAudio, failing);
-}
-
-// The operations that a class adds to its base, as its meta-object tells them.
-QStringList operationsOf(const QMetaObject &type)
-{
-    QStringList operations;
-    for (int index = type.methodOffset(); index < type.methodCount(); ++index) {
-        const QMetaMethod method = type.method(index);
-        const QString kind = method.methodType() == QMetaMethod::Signal ? QStringLiteral("signal ") : QStringLiteral("slot ");
-        operations << kind + QString::fromLatin1(method.methodSignature());
-    }
-    return operations;
-}
-
-// Entry of a virtual operation, read from the pointer to it: 1 + its byte offset in the table (Itanium C++ ABI, 2.3).
-template <typename Operation>
-std::size_t entryOf(Operation operation)
-{
-    std::uintptr_t word = 0;
-    std::memcpy(&word, &operation, sizeof word);
-    return (word - 1) / sizeof(void *);
 }
 
 // The wiring of the microphone test's pages.

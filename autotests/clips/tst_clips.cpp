@@ -24,6 +24,8 @@ namespace {
 constexpr auto languages = {"pt_BR", "en_US", "es_ES", "fr_FR", "it_IT", "de_DE", "nl_NL", "zh_CN", "ja_JP"};
 constexpr std::uint32_t rate = 48000;
 constexpr std::size_t padFrameCount = rate / 10;
+/// What the unattended microphone run speaks.
+const QString sentenceName = QStringLiteral("operator/sentence_en_US.wav");
 
 QString clipsFolder() { return QStringLiteral(AUDIO_CLIPS_DIR); }
 
@@ -109,7 +111,7 @@ class TestClips : public QObject {
     Q_OBJECT
 
 private slots:
-    void folderHoldsTheNinetyClipsOnly();
+    void folderHoldsTheClipsOnly();
     void manifestMatches();
     void everyClipIsStereoPcm();
     void everyClipFitsTheSecondThatIsHeard();
@@ -121,6 +123,7 @@ private slots:
     void everyDigitIsRecognisedInLoopback_data() { addLanguages(); }
     void everyDigitIsRecognisedInLoopback();
     void everyDigitIsRecognisedUnderNoise();
+    void theSentenceIsMadeLikeTheDigits();
 
 private:
     static void addLanguages()
@@ -131,13 +134,14 @@ private:
     }
 };
 
-void TestClips::folderHoldsTheNinetyClipsOnly()
+void TestClips::folderHoldsTheClipsOnly()
 {
     QStringList expected{QStringLiteral(".stamp"), QStringLiteral("manifest.sha256")};
     for (const char *language : languages) {
         for (int digit = 0; digit < 10; ++digit)
             expected << clipName(language, digit);
     }
+    expected << sentenceName;
     QStringList found;
     QDirIterator files(clipsFolder(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (files.hasNext())
@@ -155,7 +159,7 @@ void TestClips::manifestMatches()
         const QByteArray clip = contentOf(QString::fromUtf8(names.last()));
         QCOMPARE(QCryptographicHash::hash(clip, QCryptographicHash::Sha256).toHex(), line.left(64));
     }
-    QCOMPARE(names.size(), 90);
+    QCOMPARE(names.size(), 91);
     QVERIFY(std::is_sorted(names.cbegin(), names.cend()));
 }
 
@@ -306,6 +310,19 @@ void TestClips::everyDigitIsRecognisedUnderNoise()
     qInfo("%d of 90 right, %d accepted, lowest margin %.3f", right, accepted, lowestMargin);
     QCOMPARE(right, 90);
     QVERIFY(accepted >= 80);
+}
+
+void TestClips::theSentenceIsMadeLikeTheDigits()
+{
+    const auto path = std::filesystem::path((clipsFolder() + QLatin1Char('/') + sentenceName).toStdU16String());
+    const MonoSound sentence = measure::readWavFile(path).value_or(MonoSound{});
+    const double seconds = static_cast<double>(sentence.samples.size()) / rate;
+    qInfo("the sentence lasts %.3f s, loudness %.2f dB", seconds, loudness(sentence));
+    QCOMPARE(contentOf(sentenceName).mid(12, 28).toHex(), contentOf(clipName("en_US", 0)).mid(12, 28).toHex());
+    QVERIFY(seconds >= 2 && seconds <= 4);
+    QVERIFY(std::abs(loudness(sentence) + 19.5) < 0.2);
+    for (const float sample : sentence.samples)
+        QVERIFY(20 * std::log10(std::abs(double{sample})) <= -1.0);
 }
 
 QTEST_GUILESS_MAIN(TestClips)

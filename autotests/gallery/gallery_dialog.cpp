@@ -48,6 +48,13 @@ Widget *disabled(Widget *widget)
 
 QLabel *label(const QString &text, const char *name = "") { return named(new QLabel(text), name); }
 
+QLabel *icon(const char *name)
+{
+    QLabel *icon = label({}, name);
+    icon->setFixedSize(20, 20); // the sheet leaves that to the dialogs
+    return icon;
+}
+
 QTableWidget *table()
 {
     auto *table = new QTableWidget(3, 2);
@@ -138,7 +145,7 @@ QWidget *GalleryDialog::header()
     auto *header = named(new QWidget, "audio_playback_test_header");
     auto *row = new QHBoxLayout(header);
     row->setContentsMargins(8, 4, 4, 4);
-    row->addWidget(label({}, "audio_playback_test_header_icon"));
+    row->addWidget(icon("audio_playback_test_header_icon"));
     row->addWidget(label(QStringLiteral("Header of a test"), "audio_playback_test_header_label"));
     row->addStretch();
     addButton(*row, {}, "header_close");
@@ -149,11 +156,11 @@ QWidget *GalleryDialog::sequenceRow()
 {
     auto *widget = named(new QWidget, "audio_playback_test_sequence_icons_widget");
     auto *row = new QHBoxLayout(widget);
-    row->addWidget(label({}, "audio_playback_test_general_instruction_icon"));
+    row->addWidget(icon("audio_playback_test_general_instruction_icon"));
     row->addWidget(label(QStringLiteral("Instruction"), "audio_playback_test_general_instruction_message"));
-    row->addWidget(label({}, "audio_playback_test_current_audio_sequence_icon"));
-    row->addWidget(label({}, "audio_playback_test_failed_audio_sequence_icon"));
-    row->addWidget(label({}, "audio_playback_test_non_executed_audio_sequence_icon"));
+    row->addWidget(icon("audio_playback_test_current_audio_sequence_icon"));
+    row->addWidget(icon("audio_playback_test_failed_audio_sequence_icon"));
+    row->addWidget(icon("audio_playback_test_non_executed_audio_sequence_icon"));
     row->addWidget(label(QStringLiteral("First sequence"), "audio_playback_test_first_audio_sequence_message"));
     auto *frame = named(new QFrame, "audio_playback_test_second_audio_sequence_message_background");
     auto *inner = new QHBoxLayout(frame);

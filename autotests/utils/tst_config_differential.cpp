@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "autotests/utils/config_pattern_oracle.h"
 #include "utils/config_line.h"
 #include "utils/config_vocabulary.h"
 
@@ -9,15 +10,12 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <locale>
 #include <map>
 #include <optional>
 #include <random>
-#include <regex>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 using namespace ostra::utils;
 using namespace std::string_view_literals;
@@ -27,64 +25,6 @@ namespace {
 constexpr int defaultLineCount = 120'000;
 constexpr std::uint32_t seed = 20'260'101;
 constexpr std::size_t longestLineByteCount = 40;
-
-std::regex compile(std::string_view pattern)
-{
-    std::regex result;
-    result.imbue(std::locale::classic());
-    result.assign(pattern.begin(), pattern.end());
-    return result;
-}
-
-/// The file format as the patterns define it, run by the standard library on short lines.
-class PatternOracle {
-public:
-    PatternOracle();
-
-    bool isBlank(const std::string &line) const { return std::regex_search(line, blank_); }
-    std::uint32_t code(const std::string &line) const;
-    std::optional<std::string> section(const std::string &line) const;
-    std::optional<std::pair<std::string, std::string>> keyAndValue(const std::string &line) const;
-
-private:
-    std::vector<std::regex> checks_;
-    std::regex blank_ = compile(config_line_pattern::blank);
-    std::regex section_ = compile(config_line_pattern::sectionHeader);
-    std::regex pair_ = compile(config_line_pattern::keyAndValue);
-};
-
-PatternOracle::PatternOracle()
-{
-    for (const auto &check : config_line_pattern::checks)
-        checks_.push_back(compile(check.pattern));
-}
-
-std::uint32_t PatternOracle::code(const std::string &line) const
-{
-    if (line.find_first_of(config_line_pattern::marks) == std::string::npos)
-        return 1010;
-    for (std::size_t at = 0; at < checks_.size(); ++at) {
-        const auto &check = config_line_pattern::checks[at];
-        const bool applies = check.absentMark == '\0' || line.find(check.absentMark) == std::string::npos;
-        if (applies && std::regex_search(line, checks_[at]))
-            return check.code;
-    }
-    return 0;
-}
-
-std::optional<std::string> PatternOracle::section(const std::string &line) const
-{
-    std::smatch match;
-    return std::regex_search(line, match, section_) ? std::optional(match.str(1)) : std::nullopt;
-}
-
-std::optional<std::pair<std::string, std::string>> PatternOracle::keyAndValue(const std::string &line) const
-{
-    std::smatch match;
-    if (!std::regex_search(line, match, pair_))
-        return std::nullopt;
-    return std::pair(match.str(1), match.str(2));
-}
 
 /// Lines without order and lines put together from pieces that the format knows.
 class LineGenerator {

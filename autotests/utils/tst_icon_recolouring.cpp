@@ -3,6 +3,7 @@
 
 #include "autotests/support/fake_sal.h"
 #include "utils/application_folders.h"
+#include "utils/style_rules.h"
 
 #include <QDir>
 #include <QFile>
@@ -62,6 +63,8 @@ private slots:
     void refusesNamesThatCannotBeFiles();
     void leavesTheValueAloneWhenTheFolderIsAFile();
     void overwritesNothing();
+    void aFolderIsNeverMoreThanAPath_data();
+    void aFolderIsNeverMoreThanAPath();
 
 private:
     QString folder() const { return root_->path() + QStringLiteral("/temp"); }
@@ -258,6 +261,43 @@ void TestIconRecolouring::overwritesNothing()
     file.close();
     QVERIFY(!recolouredFile(QStringLiteral("play.svg")).isEmpty());
     QCOMPARE(bytesOf(file.fileName()), QByteArray("mine"));
+}
+
+void TestIconRecolouring::aFolderIsNeverMoreThanAPath_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isUsed");
+    QTest::newRow("blank") << "two words" << true;
+    QTest::newRow("closing brace") << "a}b" << true;
+    QTest::newRow("a rule") << "x) } QLabel { color - red; } {" << true;
+    QTest::newRow("semicolon and apostrophe") << "a;b'c" << true;
+    QTest::newRow("hash, percent, ampersand") << "#%20&" << true;
+    QTest::newRow("beyond ASCII") << QStringLiteral("Pr\u00fcfung-\u30b9\u30d4 \u05e8\u05de") << true;
+    QTest::newRow("270 characters in all") << QString(90, u'a') + u'/' + QString(90, u'b') + u'/' + QString(90, u'c') << true;
+#ifndef Q_OS_WIN // no file name there
+    QTest::newRow("quotation mark") << "a\"b" << false;
+    QTest::newRow("backslash") << "q\\temp" << false;
+    QTest::newRow("line feed") << "a\nb" << false;
+    QTest::newRow("a comment") << "a/*b" << true;
+#endif
+}
+
+void TestIconRecolouring::aFolderIsNeverMoreThanAPath()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isUsed);
+    fake_sal::state().temporaryPath = (root_->path() + u'/' + name).toStdString();
+    const QString before = valueOf(QStringLiteral("play.svg"));
+    const QString value = recolourIcon(dialog_.get(), before, white);
+    QCOMPARE(value != before, isUsed);
+
+    const QString sheet = QStringLiteral("A { color: red; image: %1; margin: 1px }\nB { color: blue }\n");
+    StyleRules rules = StyleRules::parse(QString(sheet).replace(QStringLiteral("%1"), value));
+    QCOMPARE(rules.rules().size(), qsizetype(2));
+    QCOMPARE(rules.rule(QStringLiteral("A")).declarations().size(), qsizetype(3));
+    QCOMPARE(rules.rule(QStringLiteral("A")).value(QStringLiteral("image")), value);
+    if (isUsed)
+        QVERIFY(QFile::exists(fileNameOf(value)));
 }
 
 QTEST_MAIN(TestIconRecolouring)

@@ -151,6 +151,9 @@ void TestStyleRules::qtReadsWhatIsWritten_data()
     QTest::newRow("selectors") << QByteArray("QWidget > .QLabel#a-b_c[x=\"y\"]:hover, * QFrame::item{x:1}") << QByteArray();
     QTest::newRow("values") << QByteArray("A{a:-1.5px +2em 30% #abc rgb(1, 2, 3);b:url( \"x\" ) 'y';c:a, b/c;d:e !important}")
                             << QByteArray();
+    QTest::newRow("signs without a colour")
+        << QByteArray("A{a:x#a, red;b:#zz;c:#12345;d:#1234567;e:#12345678;f:#fff#ffg}") << QByteArray();
+    QTest::newRow("a page break in quotes") << QByteArray("A{x:url(\":/\f.svg\");y:'\f';z:'\\\f'}") << QByteArray();
     QTest::newRow("beyond ASCII") << QByteArray("QLabel#\xC3\xA4{x:1}A{b:\xC3\xA4;c:\"\xE2\x82\xAC\xC3\xA4\"}") << QByteArray();
 }
 
@@ -231,6 +234,7 @@ void TestStyleRules::replacesColours_data()
     row("transparent", "transparent");
     row("none", "none");
     row("palette(window)", "#123456");
+    row("rgb(1,2,3)solid rgb(1,2,3)red", "#123456 solid #123456 #123456");
     row("qlineargradient(x1:0, stop:0 rgb(1,2,3), stop:1 red)", "#123456");
     row("url(\"red #fff\") blue", "url(\"red #fff\") #123456");
     row("2px dotted", "2px dotted");

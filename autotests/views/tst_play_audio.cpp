@@ -190,6 +190,7 @@ void TestPlayAudio::disablesPlayAndNextWhileItPlays()
     const FakeSound sound;
     Stage stage;
     stage.play().click();
+    stage.page.job().stop(); // a second job must not leave the first one behind without the fake
     stage.page.set_result_status(0);
     stage.tick();
     QVERIFY(stage.goOn().isEnabled());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/support/long_texts.h"
+#include "autotests/views/clipped_widgets.h"
 #include "autotests/views/playback_fixture.h"
 
 #include <QAccessible>
@@ -13,6 +14,8 @@
 #include <QStyle>
 
 using namespace ostra;
+using clipped_widgets::firstClipped;
+using clipped_widgets::overlapping;
 using playback_fixture::Playback;
 
 namespace {
@@ -103,56 +106,6 @@ void collect(QAccessibleInterface *object, QList<QAccessibleInterface *> &found)
     found.append(object);
     for (int index = 0; index < object->childCount(); ++index)
         collect(object->child(index), found);
-}
-
-// What is smaller than it has to be to show its text.
-QString firstClipped(const AudioPlaybackTestView &view)
-{
-    const QWidgetList widgets = view.findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
-        const auto *label = qobject_cast<const QLabel *>(widget);
-        const auto *button = qobject_cast<const QPushButton *>(widget);
-        if (!widget->isVisible() || (label == nullptr && button == nullptr))
-            continue;
-        QSize needs = widget->sizeHint();
-        if (label != nullptr && label->wordWrap())
-            needs = {0, label->heightForWidth(widget->width())};
-        if (button != nullptr && button->text().isEmpty())
-            needs = {0, 0};
-        if (label != nullptr && label->text().isEmpty())
-            needs = {0, 0};
-        const QRect inDialog(widget->mapTo(&view, QPoint()), widget->size());
-        if (widget->width() < needs.width() || widget->height() < needs.height() || !view.rect().contains(inDialog))
-            return QStringLiteral("%1: %2x%3 at %4,%5, needs %6x%7")
-                .arg(widget->objectName())
-                .arg(widget->width())
-                .arg(widget->height())
-                .arg(inDialog.x())
-                .arg(inDialog.y())
-                .arg(needs.width())
-                .arg(needs.height());
-    }
-    return {};
-}
-
-QStringList overlapping(const AudioPlaybackTestView &view)
-{
-    QStringList result;
-    QList<const QWidget *> leaves;
-    const QWidgetList widgets = view.findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
-        if (widget->isVisible() && widget->findChildren<QWidget *>().isEmpty())
-            leaves.append(widget);
-    }
-    for (const QWidget *one : leaves) {
-        for (const QWidget *other : leaves) {
-            const QRect first(one->mapTo(&view, QPoint()), one->size());
-            const QRect second(other->mapTo(&view, QPoint()), other->size());
-            if (one < other && first.intersects(second))
-                result.append(one->objectName() + u'/' + other->objectName());
-        }
-    }
-    return result;
 }
 
 } // namespace
@@ -362,6 +315,8 @@ void TestPlaybackViewForm::clipsNothing()
     if (isSecond)
         playback.type({7, 8, 9, 1});
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    // Windows would let a form that needs more height outgrow its fixed size.
+    QCOMPARE(playback.view->size(), playback.view->maximumSize());
     QCOMPARE(firstClipped(*playback.view), QString());
     QCOMPARE(overlapping(*playback.view), QStringList());
 }

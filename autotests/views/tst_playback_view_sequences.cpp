@@ -178,6 +178,7 @@ void TestPlaybackViewSequences::playsTheSecondSequenceByItself()
 {
     const Playback playback({1, 2, 3, 4, 5, 6});
     playOne(playback);
+    playback.view->PlayAudio(); // about to play the second digit
     playback.type({3, 2, 1});
     QElapsedTimer elapsed;
     elapsed.start();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "views/select_device.h"
 
+#include "autotests/support/hostile_names.h"
 #include "autotests/views/fake_sound.h"
 #include "autotests/views/page_probe.h"
 
@@ -32,6 +33,8 @@ private slots:
     void withoutAMicrophoneItOnlyCancels();
     void keepsAnAmpersandOfAName();
     void shortensANameThatIsTooLong();
+    void showsAnyNameLiterally_data();
+    void showsAnyNameLiterally();
     void noButtonIsADefaultOne();
     void screenReadersGetNamesAndRoles();
 };
@@ -182,6 +185,28 @@ void TestSelectDevice::shortensANameThatIsTooLong()
     QVERIFY2(choice->width() <= 300, "the page would have to be scrolled sideways");
     QCOMPARE(choice->text().size(), 400);
     QCOMPARE(choice->toolTip(), choice->text());
+}
+
+void TestSelectDevice::showsAnyNameLiterally_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const hostile_names::Name &name : hostile_names::all())
+        QTest::newRow(name.row) << name.text;
+}
+
+void TestSelectDevice::showsAnyNameLiterally()
+{
+    QFETCH(QString, name);
+    FakeSound sound;
+    sound.microphones = {name.toStdString()};
+    const SelectDevice page;
+    QSignalSpy chosen(&page, &SelectDevice::micChanged);
+    const QRadioButton *choice = choices(page).constFirst();
+    QCOMPARE(hostile_names::shownByItself(choice->toolTip()), name);
+    QCOMPARE(choice->accessibleName(), name);
+    QVERIFY(choice->shortcut().isEmpty());
+    named<QPushButton>(page, "microphone_test_next_button")->click();
+    QCOMPARE(chosen.constFirst().constFirst().toString(), name); // to the letter: the device is opened by it
 }
 
 void TestSelectDevice::noButtonIsADefaultOne()

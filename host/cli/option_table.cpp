@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char *languages = "pt_BR en_US es_ES fr_FR it_IT de_DE nl_NL zh_CN ja_JP";
 
-constexpr std::array<OptionRow, 17> options{{
+constexpr std::array<OptionRow, 19> options{{
     {"json", nullptr, nullptr, "list info clips", Completion::none, nullptr,
      "print exactly one JSON document; everything else goes to standard error", false},
     {"config", nullptr, "DIR", "list run", Completion::folder, nullptr,
@@ -22,6 +22,10 @@ constexpr std::array<OptionRow, 17> options{{
     {"device", nullptr, "NAME", "run", Completion::none, nullptr, "the device to test: its exact name or its number", true},
     {"listen", nullptr, "SOURCE", "run", Completion::none, nullptr,
      "the capture source that hears the device; without it \"Monitor of \" and the device's name", false},
+    {"microphone", nullptr, "NAME", "run", Completion::none, nullptr,
+     "the microphone that test m chooses; the first one without it", false},
+    {"speak-through", nullptr, "OUTPUT", "run", Completion::none, nullptr,
+     "the output that the microphone hears in test m; the tested device without it", false},
     {"report", nullptr, "FILE", "run", Completion::file, nullptr,
      "write a report, by its suffix as .json, .xml (JUnit), .html or .txt; of several runs each its own, -1, -2, ... behind "
      "the name",

@@ -86,6 +86,10 @@ QStringList argumentsOf(const CommandLine &line, const PlannedRun &run, int numb
         if (line.isSet(option))
             arguments.append(QStringLiteral("--%1=%2").arg(QLatin1String(option), line.last(option)));
     }
+    for (const char *option : {"microphone", "speak-through"}) {
+        if (run.test == QLatin1String("m") && line.isSet(option))
+            arguments.append(QStringLiteral("--%1=%2").arg(QLatin1String(option), line.last(option)));
+    }
     for (const QString &file : line.all("report"))
         arguments.append(QStringLiteral("--report=") + (number > 0 ? numberedReport(file, number) : file));
     return arguments;
@@ -154,6 +158,10 @@ std::optional<UsageError> checkLine(const CommandLine &line)
         return UsageError{QStringLiteral("'run' needs '--device NAME' (list shows them)")};
     if (line.isSet("config") && line.isSet("language"))
         return UsageError{QStringLiteral("'--language' and '--config' exclude each other")};
+    for (const char *option : {"microphone", "speak-through"}) {
+        if (line.isSet(option) && !line.all("test").contains(QStringLiteral("m")))
+            return UsageError{QStringLiteral("'--%1' goes with '--test m' only").arg(QLatin1String(option))};
+    }
     for (const QString &file : line.all("report")) {
         if (!reportFormatOf(file))
             return UsageError{QStringLiteral("the report '%1' cannot be written: %2").arg(file, reportSuffixes())};

@@ -39,6 +39,24 @@ struct HeardDigit {
     std::optional<DigitMeasurement> measured;
 };
 
+/// What an unattended microphone run heard while the dialog played its recording back.
+struct HeardRecording {
+    QString microphone;              ///< as the dialog names it
+    QString spokenThrough;           ///< output that the sentence was spoken through
+    std::optional<qint64> heardAtMs; ///< beginning of the most alike place, in milliseconds since the run began
+    double score = 0.0;              ///< of the matched filter, 0 to 1
+    bool isFound = false;            ///< the sentence is in what was played back
+    /// By how much later the sentence came within the playback than within the recording; both are counted from the moment at
+    /// which the dialog began.
+    std::optional<double> latencyMs;
+    double levelDbfs = -120.0; ///< RMS level of the most alike place
+    double peakDbfs = -120.0;  ///< highest sample of the playback
+    bool isClipped = false;
+    bool isSilent = true;        ///< nothing louder than -50 dBFS
+    bool isMonoInStereo = false; ///< both channels hold the same, or one of them nothing
+    std::optional<bool> answer;  ///< yes or no to the question; nothing when it was not asked
+};
+
 /// One run of one test on one device, as it happened; what a report is written from.
 struct RunRecord {
     QString testLetter;  ///< "p" or "m"
@@ -47,6 +65,7 @@ struct RunRecord {
     QString language; ///< code such as "en_US"
     QDateTime startedUtc;
     QDateTime endedUtc;
+    bool wasModuleCalled = true;  ///< false: the host had to refuse, and `moduleCode` says nothing
     std::uint32_t moduleCode = 4; ///< what the module returned
     std::uint32_t code = 4;       ///< the verdict: 4 when the run was stopped, else `moduleCode`
     bool wasStopped = false;
@@ -56,8 +75,10 @@ struct RunRecord {
     bool isUnattended = false;
     QString listenedTo; ///< capture source of an unattended run
     QList<HeardDigit> digits;
-    QStringList screenshots;     ///< files, absolute paths
-    QStringList restoredVolumes; ///< endpoints whose level the guardian had to put back
+    std::optional<HeardRecording> recording; ///< of an unattended microphone run
+    QStringList screenshots;                 ///< files, absolute paths
+    QStringList restoredVolumes;             ///< endpoints whose level the guardian had to put back
+    QString volumeComplaint;                 ///< what the guardian could not do; empty when all went well
 };
 
 } // namespace host

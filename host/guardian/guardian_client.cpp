@@ -40,7 +40,7 @@ std::optional<GuardianMessage> GuardianClient::Private::waitFor(Kind awaited, st
     const QDeadlineTimer deadline(bound);
     for (;;) {
         const auto message = process->waitForMessage(std::chrono::milliseconds(deadline.remainingTime()));
-        if (!message || message->kind == awaited || message->kind == Kind::failed)
+        if (!message || message->kind == awaited || message->kind == Kind::failed || message->kind == Kind::busy)
             return message;
         if (message->kind == Kind::putBack)
             names.append(message->text);
@@ -67,6 +67,7 @@ QStringList GuardianClient::restoreLeftovers()
 bool GuardianClient::start()
 {
     errorText_.clear();
+    isHeldByAnother_ = false;
     if (d_->process != nullptr) {
         errorText_ = QStringLiteral("The volumes are guarded already.");
         return false;
@@ -77,7 +78,8 @@ bool GuardianClient::start()
         errorText_ = QStringLiteral("The guardian of the volumes could not be started: %1").arg(d_->process->errorString());
     } else if (const auto message = d_->waitFor(Kind::ready, startBound); !message) {
         errorText_ = QStringLiteral("The guardian of the volumes did not answer.");
-    } else if (message->kind == Kind::failed) {
+    } else if (message->kind != Kind::ready) {
+        isHeldByAnother_ = message->kind == Kind::busy;
         errorText_ = message->text;
     }
     if (errorText_.isEmpty())

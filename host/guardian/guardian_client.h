@@ -27,6 +27,9 @@ public:
     /// Starts the guardian and waits, bounded, until it has noted every level. False with `errorText()` when it could not.
     bool start();
     const QString &errorText() const noexcept { return errorText_; }
+    /// Whether `start` failed because another run is holding the volumes: raising them now would take the raised levels for
+    /// the machine's own, and leave it at full volume.
+    bool isHeldByAnother() const noexcept { return isHeldByAnother_; }
 
     /// Normal end: lets the guardian compare, put back what is left, and end. The endpoints that it had to put back, those of
     /// an earlier run that `start` had to put back among them. Only after the run has returned: while the module still
@@ -37,6 +40,7 @@ private:
     struct Private;
     std::unique_ptr<Private> d_;
     QString errorText_;
+    bool isHeldByAnother_ = false;
 };
 
 } // namespace host

@@ -14,10 +14,13 @@ namespace {
 
 using Kind = GuardianMessage::Kind;
 
-constexpr std::array<std::pair<Kind, QLatin1String>, 4> kindNames{{{Kind::ready, QLatin1String("ready")},
+constexpr std::array<std::pair<Kind, QLatin1String>, 5> kindNames{{{Kind::ready, QLatin1String("ready")},
                                                                    {Kind::putBack, QLatin1String("putBack")},
                                                                    {Kind::done, QLatin1String("done")},
-                                                                   {Kind::failed, QLatin1String("failed")}}};
+                                                                   {Kind::failed, QLatin1String("failed")},
+                                                                   {Kind::busy, QLatin1String("busy")}}};
+
+bool isComplaint(Kind kind) { return kind == Kind::failed || kind == Kind::busy; }
 
 } // namespace
 
@@ -26,7 +29,7 @@ QByteArray toLine(const GuardianMessage &message)
     const auto name = std::ranges::find(kindNames, message.kind, &std::pair<Kind, QLatin1String>::first);
     QJsonObject line{{QLatin1String("event"), name->second}};
     if (!message.text.isEmpty())
-        line.insert(QLatin1String(message.kind == Kind::failed ? "reason" : "name"), message.text);
+        line.insert(QLatin1String(isComplaint(message.kind) ? "reason" : "name"), message.text);
     return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
 }
 
@@ -36,7 +39,7 @@ std::optional<GuardianMessage> fromLine(const QByteArray &line)
     const QString event = object[QLatin1String("event")].toString();
     for (const auto &[kind, name] : kindNames) {
         if (event == name)
-            return GuardianMessage{kind, object[QLatin1String(kind == Kind::failed ? "reason" : "name")].toString()};
+            return GuardianMessage{kind, object[QLatin1String(isComplaint(kind) ? "reason" : "name")].toString()};
     }
     return std::nullopt;
 }

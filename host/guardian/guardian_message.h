@@ -15,6 +15,7 @@ struct GuardianMessage {
         putBack, ///< one endpoint had to be put back: its description
         done,    ///< the end: nothing is left to put back
         failed,  ///< the end: why, for the user
+        busy,    ///< the end: another guardian is at work; why, for the user
     };
     Kind kind = Kind::done;
     QString text;

@@ -47,6 +47,7 @@ bool GuardianSession::lock()
 {
     if (QDir().mkpath(folder_) && lock_.tryLock(static_cast<int>(lockBound.count())))
         return true;
+    isHeldByAnother_ = lock_.error() == QLockFile::LockFailedError;
     errorText_ = reasonWhyLocked(lock_);
     return false;
 }

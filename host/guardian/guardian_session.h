@@ -24,6 +24,8 @@ public:
     /// `errorText()`: then there is no new note.
     bool begin();
     const QString &errorText() const noexcept { return errorText_; }
+    /// Whether that was because another guardian is at work.
+    bool isHeldByAnother() const noexcept { return isHeldByAnother_; }
     /// Endpoints that a former run had left at another volume.
     const QStringList &leftovers() const noexcept { return leftovers_; }
 
@@ -39,6 +41,7 @@ private:
     QLockFile lock_;
     QString folder_;
     QString errorText_;
+    bool isHeldByAnother_ = false;
     QStringList leftovers_;
     ostra::audio::EndpointVolumes saved_;
 };

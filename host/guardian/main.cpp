@@ -47,7 +47,7 @@ int guard(const QString &stateFolder)
     const bool isReady = session.begin();
     tellPutBack(session.leftovers());
     if (!isReady) {
-        tell(GuardianMessage::Kind::failed, session.errorText());
+        tell(session.isHeldByAnother() ? GuardianMessage::Kind::busy : GuardianMessage::Kind::failed, session.errorText());
         return EXIT_FAILURE;
     }
     tell(GuardianMessage::Kind::ready);

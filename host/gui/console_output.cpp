@@ -3,14 +3,18 @@
 
 #include "contract/result_codes.h"
 #include "host/core/verdict.h"
+#include "host/gui/key_text.h"
+#include "host/reports/run_report.h"
+#include "host/reports/text_report.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cstdio>
 
 namespace host {
 
 namespace {
-
-constexpr int columnWidth = 9;
 
 void write(std::FILE *stream, const QString &text)
 {
@@ -38,36 +42,27 @@ QString verdictWords(Verdict verdict)
     return QStringLiteral("not completed");
 }
 
-QString optionalDigit(const std::optional<int> &digit) { return digit ? QString::number(*digit) : QStringLiteral("-"); }
-
-QString row(const QStringList &cells)
+QString wordsOf(const RunMessage &message)
 {
-    QString line;
-    for (const QString &cell : cells)
-        line += cell.rightJustified(columnWidth) + u' ';
-    line.chop(1);
-    return line + u'\n';
+    const QString words = shownText(message.text);
+    return words == message.text ? words : QStringLiteral("%1 (%2)").arg(words, message.text);
 }
 
-QString digitRow(const HeardDigit &digit)
-{
-    return row({QString::number(digit.sequence), QString::number(digit.position), QString::number(digit.playedAtMs),
-                optionalDigit(digit.heard), optionalDigit(digit.typed), QString::number(digit.score, 'f', 3),
-                QString::number(digit.margin, 'f', 3),
-                digit.latencyMs < 0 ? QStringLiteral("-") : QString::number(digit.latencyMs, 'f', 1),
-                QString::number(digit.levelDbfs, 'f', 1), digit.clipped ? QStringLiteral("yes") : QStringLiteral("no")});
-}
+QString yesOrNo(bool isYes) { return isYes ? QStringLiteral("yes") : QStringLiteral("no"); }
 
-QString digitTable(const QList<HeardDigit> &digits)
+QString decibels(double level) { return QString::number(level, 'f', 1) + QStringLiteral(" dBFS"); }
+
+QString recordingLines(const HeardRecording &heard)
 {
-    if (digits.isEmpty())
-        return {};
-    QString table = row({QStringLiteral("sequence"), QStringLiteral("position"), QStringLiteral("at ms"),
-                         QStringLiteral("heard"), QStringLiteral("typed"), QStringLiteral("score"), QStringLiteral("margin"),
-                         QStringLiteral("delay ms"), QStringLiteral("dBFS"), QStringLiteral("clipped")});
-    for (const HeardDigit &digit : digits)
-        table += digitRow(digit);
-    return table;
+    const QString delay =
+        heard.latencyMs ? QString::number(*heard.latencyMs, 'f', 0) + QStringLiteral(" ms") : QStringLiteral("-");
+    return QStringLiteral("spoken through '%1', recorded by '%2'\n"
+                          "sentence found in the playback: %3, score %4, delay %5\n"
+                          "level %6, peak %7, clipped: %8, silent: %9, ")
+               .arg(heard.spokenThrough, heard.microphone, yesOrNo(heard.isFound), QString::number(heard.score, 'f', 3), delay,
+                    decibels(heard.levelDbfs), decibels(heard.peakDbfs), yesOrNo(heard.isClipped), yesOrNo(heard.isSilent)) +
+           QStringLiteral("mono in stereo: %1\nanswer: %2\n")
+               .arg(yesOrNo(heard.isMonoInStereo), heard.answer ? yesOrNo(*heard.answer) : QStringLiteral("none"));
 }
 
 } // namespace
@@ -84,11 +79,15 @@ QString runSummary(const RunRecord &record)
                             QString::number(codeOf(verdict)));
     if (!record.reason.isEmpty())
         text += QStringLiteral("reason: %1\n").arg(record.reason);
+    if (!record.volumeComplaint.isEmpty())
+        text += QStringLiteral("volumes: %1\n").arg(record.volumeComplaint);
     for (const RunMessage &message : record.messages) {
         const bool isError = message.level == ostra::message_level::error;
-        text += QStringLiteral("%1: %2\n").arg(isError ? QStringLiteral("error") : QStringLiteral("note"), message.text);
+        text += QStringLiteral("%1: %2\n").arg(isError ? QStringLiteral("error") : QStringLiteral("note"), wordsOf(message));
     }
-    return text + digitTable(record.digits);
+    if (record.recording)
+        text += recordingLines(*record.recording);
+    return text + digitTableText(QJsonDocument::fromJson(runReport(record)).object());
 }
 
 QString unknownDevice(const QString &name, const QList<Device> &devices)

@@ -12,7 +12,8 @@ void print(const QString &text);
 /// One line on standard error, after the program's name.
 void complain(const QString &message);
 
-/// Verdict, messages, and one line for each digit, as an unattended run prints them; English, for scripts and their readers.
+/// Verdict, messages, and one line for each digit, as an unattended run prints them. English, but for the messages: those are
+/// in the language in force, each followed by its key for scripts.
 QString runSummary(const RunRecord &record);
 
 /// Complaint about a device that is not there, with the names of those that are.

@@ -5,6 +5,7 @@
 #include "host/gui/key_text.h"
 
 #include <QHeaderView>
+#include <QTextDocument>
 
 #include <array>
 
@@ -15,6 +16,12 @@ namespace {
 // Behind the name, which is the device's identity as well.
 constexpr std::array<const char *, 4> columns{ostra::properties::numberOfChannels, ostra::properties::sampleRate,
                                               ostra::properties::driverName, ostra::properties::driverVersion};
+
+// A tool tip takes a text with tags for rich text, and one with escapes only for plain text.
+QString literally(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()) : text;
+}
 
 } // namespace
 
@@ -50,7 +57,7 @@ void DeviceTable::fillRow(int row, const Device &device)
 {
     const auto put = [this, row](int column, const QString &text) {
         auto *cell = new QTableWidgetItem(text);
-        cell->setToolTip(text.toHtmlEscaped());
+        cell->setToolTip(literally(text));
         setItem(row, column, cell);
     };
     put(0, device.name);

@@ -6,8 +6,10 @@
 #include "host/gui/event_menu.h"
 #include "host/gui/history_table.h"
 #include "host/gui/key_text.h"
+#include "host/gui/level_words.h"
 #include "host/gui/result_panel.h"
 #include "host/gui/run_panel.h"
+#include "host/gui/wave_view.h"
 #include "host/translations/translators.h"
 
 #include <QActionGroup>
@@ -53,7 +55,8 @@ MainWindow::MainWindow(TestSession &session, LanguageSetting &language, QString 
     : session_(session), language_(language), moduleVersion_(std::move(moduleVersion)), devicesBox_(new QGroupBox(this)),
       devices_(new DeviceTable(this)), devicesText_(new QLabel(this)), refresh_(new QPushButton(this)),
       tests_(new RunPanel(session.tests(), this)), resultBox_(new QGroupBox(this)), result_(new ResultPanel(this)),
-      tabs_(new QTabWidget(this)), log_(new QPlainTextEdit(this)), history_(new HistoryTable(this))
+      waveText_(new QLabel(this)), wave_(new WaveView(this)), tabs_(new QTabWidget(this)), log_(new QPlainTextEdit(this)),
+      history_(new HistoryTable(this))
 {
     setObjectName(QStringLiteral("host_main"));
     makeMenus(hasEvents);
@@ -76,6 +79,12 @@ void MainWindow::layOut()
     deviceColumn->addLayout(foot);
     auto *resultColumn = new QVBoxLayout(resultBox_);
     resultColumn->addWidget(result_);
+    resultColumn->addWidget(waveText_);
+    resultColumn->addWidget(wave_);
+    waveText_->setObjectName(QStringLiteral("host_result_wave_text"));
+    waveText_->setWordWrap(true);
+    wave_->setObjectName(QStringLiteral("host_result_wave"));
+    showWave({});
     log_->setObjectName(QStringLiteral("host_log"));
     log_->setReadOnly(true);
     log_->setTabChangesFocus(true);
@@ -161,6 +170,16 @@ void MainWindow::choose(qsizetype test, qsizetype device)
 {
     tests_->choose(test);
     devices_->choose(device);
+}
+
+void MainWindow::showWave(const QList<double> &wave)
+{
+    wave_->setWave(wave);
+    waveText_->setText(waveWords(wave));
+    wave_->setAccessibleName(hostText("METER_WAVE"));
+    wave_->setAccessibleDescription(waveText_->text());
+    for (QWidget *widget : std::initializer_list<QWidget *>{waveText_, wave_})
+        widget->setVisible(!wave.isEmpty());
 }
 
 void MainWindow::log(const QString &line)

@@ -21,6 +21,7 @@ class DeviceTable;
 class HistoryTable;
 class ResultPanel;
 class RunPanel;
+class WaveView;
 
 /// The program's one window. Shows the session and works it; owns neither.
 class MainWindow : public QMainWindow {
@@ -32,6 +33,8 @@ public:
 
     /// Chooses a device and a test by position.
     void choose(qsizetype test, qsizetype device);
+    /// Shows the waveform of the last playback of a recording beside the result; none when empty.
+    void showWave(const QList<double> &wave);
     /// Adds a line to the log, with the time.
     void log(const QString &line);
     /// Writes the language, translates everything and lists the devices anew: the module reads it only then.
@@ -74,6 +77,8 @@ private:
     RunPanel *tests_;
     QGroupBox *resultBox_;
     ResultPanel *result_;
+    QLabel *waveText_;
+    WaveView *wave_;
     QTabWidget *tabs_;
     QPlainTextEdit *log_;
     HistoryTable *history_;

@@ -8,6 +8,7 @@
 #include "host/gui/result_panel.h"
 #include "host/gui/run_keys.h"
 #include "host/gui/run_panel.h"
+#include "host/gui/wave_view.h"
 
 #include <QActionGroup>
 #include <QGroupBox>
@@ -32,6 +33,7 @@ void MainWindow::retranslate()
     tests_->retranslate();
     resultBox_->setTitle(hostText("RESULT"));
     result_->retranslate();
+    showWave(wave_->wave());
     tabs_->setTabText(0, hostText("LOG"));
     tabs_->setTabText(1, hostText("HISTORY"));
     tabs_->setAccessibleName(hostText("LOG"));

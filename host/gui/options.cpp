@@ -22,11 +22,13 @@ struct KnownOption {
     bool isUnattendedOnly;
 };
 
-constexpr std::array<KnownOption, 14> knownOptions{{
+constexpr std::array<KnownOption, 16> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
-    {"listen", "SOURCE", "the capture source that hears the device", true},
+    {"listen", "SOURCE", "the capture source that hears the device; test m shows its level", false},
+    {"microphone", "NAME", "the microphone that test m chooses (the first one)", true},
+    {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
     {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},
     {"screenshots", "DIR", "photograph the windows into that folder", true},
     {"mistype", "N", "for proofs: get N sequences wrong", true},
@@ -111,12 +113,17 @@ std::optional<OptionsError> checkUnattended(const QCommandLineParser &parser, co
                                             : QStringLiteral("unknown test '%1' (known: p, m)").arg(options.test));
     if (options.device.isEmpty())
         return error(QStringLiteral("--unattended needs '--device NAME'"));
+    if (options.source.isEmpty())
+        return error(QStringLiteral("--unattended needs '--listen SOURCE'"));
     for (const QString &file : options.reportFiles) {
         if (!reportFormatOf(file))
             return error(QStringLiteral("the report '%1' cannot be written: %2").arg(file, reportSuffixes()));
     }
-    return options.source.isEmpty() ? std::optional<OptionsError>(error(QStringLiteral("--unattended needs '--listen SOURCE'")))
-                                    : std::nullopt;
+    for (const char *name : {"microphone", "speak-through"}) {
+        if (options.test != QLatin1String("m") && parser.isSet(QLatin1String(name)))
+            return error(QStringLiteral("'--%1' goes with '--test m' only").arg(QLatin1String(name)));
+    }
+    return std::nullopt;
 }
 
 std::optional<OptionsError> checkLanguage(const QCommandLineParser &parser, const Options &options)
@@ -144,6 +151,8 @@ Options readValues(const QCommandLineParser &parser)
     options.test = parser.value(QStringLiteral("test"));
     options.device = parser.value(QStringLiteral("device"));
     options.source = parser.value(QStringLiteral("listen"));
+    options.microphone = parser.value(QStringLiteral("microphone"));
+    options.speakThrough = parser.value(QStringLiteral("speak-through"));
     options.language = parser.value(QStringLiteral("language"));
     const QStringList reports = parser.values(QStringLiteral("report"));
     for (const QString &file : reports)
@@ -190,12 +199,15 @@ QString optionsHelp()
             name += u' ' + QLatin1String(option.value);
         text += name.leftJustified(column) + QLatin1String(option.explanation) + u'\n';
     }
-    return text + QStringLiteral(
-                      "\n--unattended needs --test, --device and --listen; --report, --screenshots and --mistype go with it.\n"
-                      "While a test runs, Ctrl+Shift+S stops it in whichever window; with --developer, Ctrl+Shift+F1 to F10\n"
-                      "simulate the events 0 to 9.\n"
-                      "Exit codes: 0 passed, 1 failed, 2 wrong usage, 3 cannot be performed, 4 not completed, 6 no module or\n"
-                      "an invalid call, 130 and 143 interrupted.\n");
+    return text +
+           QStringLiteral(
+               "\n--unattended needs --test, --device and --listen; --report, --screenshots and --mistype go with it.\n"
+               "With --test m a sentence is spoken through --speak-through while --microphone records; the playback of the\n"
+               "recording is judged by what --listen hears of it.\n"
+               "While a test runs, Ctrl+Shift+S stops it in whichever window; with --developer, Ctrl+Shift+F1 to F10\n"
+               "simulate the events 0 to 9.\n"
+               "Exit codes: 0 passed, 1 failed, 2 wrong usage, 3 cannot be performed, 4 not completed, 6 no module or\n"
+               "an invalid call, 130 and 143 interrupted.\n");
 }
 
 } // namespace host

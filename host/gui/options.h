@@ -18,7 +18,9 @@ struct Options {
     bool isDeveloper = false;
     QString test; ///< letter
     QString device;
-    QString source;
+    QString source;       ///< with or without `isUnattended`
+    QString microphone;   ///< empty for the first one
+    QString speakThrough; ///< output; empty for the tested device
     QStringList reportFiles;
     QString language;
     QString screenshotsFolder;

@@ -8,16 +8,21 @@
 #include "host/gui/dialog_prompter.h"
 #include "host/gui/interrupt_watcher.h"
 #include "host/gui/key_text.h"
+#include "host/gui/level_window.h"
 #include "host/gui/main_window.h"
 #include "host/gui/run_bar.h"
 #include "host/gui/run_keys.h"
 #include "host/gui/unattended_run.h"
+#include "host/operator/listener_link.h"
 #include "host/translations/translators.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTimer>
+
+#include <memory>
 
 namespace host {
 
@@ -26,9 +31,15 @@ namespace {
 constexpr int noModuleExitCode = 6;
 constexpr int usageExitCode = 2;
 
-bool settleLanguage(const Options &options, LanguageSetting &language)
+// A run with nobody there leaves no trace in the settings: the windows of another host would go on in one language and speak
+// another.
+bool settleLanguage(const Options &options, LanguageSetting &language, const QTemporaryDir &passing)
 {
-    bool isSettled = options.configFolder.isEmpty() ? language.useOwnFolder() : language.useForeignFolder(options.configFolder);
+    const QString own = options.isUnattended && !options.language.isEmpty() && passing.isValid()
+                            ? passing.path()
+                            : LanguageSetting::defaultFolder();
+    bool isSettled =
+        options.configFolder.isEmpty() ? language.useOwnFolder(own) : language.useForeignFolder(options.configFolder);
     if (!options.language.isEmpty())
         isSettled = language.change(options.language) && isSettled;
     installTranslators(language.code());
@@ -67,12 +78,13 @@ public:
     GuiProgram(const Options &options, ModuleLibrary &library, LanguageSetting &language, const InterruptWatcher &interrupts)
         : options_(options), language_(language), session_(*library.module(), prompter_, LanguageSetting::defaultFolder()),
           window_(session_, language, library.productVersion(), options.isDeveloper), bar_(&window_, options.isDeveloper),
-          keys_(options.isDeveloper)
+          levels_(&window_, options.source), keys_(options.isDeveloper)
     {
         session_.setSchedule(options.schedule);
         prompter_.setParents(&window_, &keys_);
         QCoreApplication::instance()->installEventFilter(&keys_);
         connectRun(session_, window_, bar_, keys_);
+        connectLevels();
         QObject::connect(&watcher_, &DeviceWatcher::devicesChanged, &session_, &TestSession::refreshWhenQuiet);
         QObject::connect(&interrupts, &InterruptWatcher::interrupted, &window_, &MainWindow::quit);
     }
@@ -90,12 +102,36 @@ public:
     }
 
 private:
+    void connectLevels()
+    {
+        QObject::connect(&session_, &TestSession::runStarted, &levels_, [this](const RunRecord &record) {
+            levels_.beginRun();
+            window_.showWave({});
+            if (record.testLetter == QLatin1String("m") && !options_.source.isEmpty() && !options_.isUnattended)
+                listen();
+        });
+        QObject::connect(&session_, &TestSession::runEnded, &levels_, [this] {
+            ear_.reset();
+            window_.showWave(levels_.playbackWave());
+        });
+    }
+
+    // For the eyes of the person who works the dialog; the operator has a listener of its own.
+    void listen()
+    {
+        ear_ = std::make_unique<ListenerLink>();
+        QObject::connect(ear_.get(), &ListenerLink::metered, &levels_, &LevelWindow::take);
+        QObject::connect(ear_.get(), &ListenerLink::lost, &window_, [this] { window_.log(ear_->errorText()); });
+        ear_->launch({QStringLiteral("--source"), options_.source, QStringLiteral("--meter")});
+    }
+
     void begin()
     {
         session_.refresh();
         if (!options_.isUnattended)
             return;
         UnattendedRun unattended(session_, options_, language_.code());
+        unattended.setMeter([this](const MeteredMoment &moment) { levels_.take(moment); });
         QString problem;
         if (!unattended.prepare(problem)) {
             complain(problem);
@@ -112,6 +148,8 @@ private:
     TestSession session_;
     MainWindow window_;
     RunBar bar_;
+    LevelWindow levels_;
+    std::unique_ptr<ListenerLink> ear_;
     RunKeys keys_;
     DeviceWatcher watcher_;
 };
@@ -123,7 +161,8 @@ int runGuiProgram(const Options &options)
     QApplication::setQuitOnLastWindowClosed(false); // the end of a test's dialog must not end the program
     const InterruptWatcher interrupts;              // before anything that takes its time
     LanguageSetting language;
-    const bool isLanguageSettled = settleLanguage(options, language);
+    const QTemporaryDir passing;
+    const bool isLanguageSettled = settleLanguage(options, language, passing);
     ModuleLibrary library;
     if (!library.open())
         return refuseWithoutModule(options, library);

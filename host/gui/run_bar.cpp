@@ -104,7 +104,6 @@ void RunBar::attachTo(const QWidget &dialog)
     const int margin = fontMetrics().height();
     move(room.right() - width() - margin, room.top() + margin);
     show();
-    windowHandle()->setTransientParent(dialog.windowHandle()); // a shown tool window is given its parent's window again
     raise();
 }
 

@@ -70,8 +70,10 @@ std::optional<RunRecord> TestSession::run(qsizetype test, qsizetype device, cons
     context_ = &context;
     const auto over = qScopeGuard([this] { context_ = nullptr; });
     emit runStarted(record);
-    context.complete(perform(*chosen, context), record);
+    perform(*chosen, context, record);
     record.restoredVolumes = guardian_.finish();
+    if (!guardian_.errorText().isEmpty() && record.volumeComplaint.isEmpty())
+        complainOfVolumes(record);
     record.endedUtc = QDateTime::currentDateTimeUtc();
     if (finish)
         finish(record);
@@ -80,14 +82,25 @@ std::optional<RunRecord> TestSession::run(qsizetype test, qsizetype device, cons
     return record;
 }
 
-std::uint32_t TestSession::perform(ostra::Test &test, RunContext &context)
+void TestSession::complainOfVolumes(RunRecord &record)
+{
+    record.volumeComplaint = guardian_.errorText();
+    emit volumesUnprotected(record.volumeComplaint);
+}
+
+void TestSession::perform(ostra::Test &test, RunContext &context, RunRecord &record)
 {
     connect(&context, &RunContext::progressed, this, &TestSession::progressed);
     connect(&context, &RunContext::messageAdded, this, &TestSession::messageAdded);
     if (!guardian_.start())
-        emit volumesUnprotected(guardian_.errorText());
+        complainOfVolumes(record);
+    if (guardian_.isHeldByAnother()) {
+        record.wasModuleCalled = false;
+        record.reason = record.volumeComplaint;
+        return;
+    }
     schedule(context);
-    return test.run(&context);
+    context.complete(test.run(&context), record);
 }
 
 // The context is the timers' receiver: what is due after the end of the run does not happen.

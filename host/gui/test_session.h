@@ -89,7 +89,7 @@ signals:
     void messageAdded(const QString &text, std::uint32_t level);
     void stopRequested();
     void eventRaised(int bit);
-    /// The volumes are raised without anybody who would restore them after a crash.
+    /// What the guardian of the volumes could not do. A run that another one's guardian kept from starting is not completed.
     void volumesUnprotected(const QString &reason);
     void runEnded(const host::RunRecord &record);
 
@@ -97,7 +97,8 @@ private:
     ostra::SystemComponent *componentAt(qsizetype device) const;
     ostra::Test *testAt(qsizetype test) const;
     RunRecord begin(qsizetype test, qsizetype device, const QString &language) const;
-    std::uint32_t perform(ostra::Test &test, RunContext &context);
+    void perform(ostra::Test &test, RunContext &context, RunRecord &record);
+    void complainOfVolumes(RunRecord &record);
     void schedule(RunContext &context);
     void end(const RunRecord &record);
 

@@ -2,33 +2,63 @@
 #include "host/gui/unattended_run.h"
 
 #include "contract/result_codes.h"
+#include "host/core/capture_source.h"
 #include "host/core/verdict.h"
 #include "host/gui/console_output.h"
 #include "host/gui/key_text.h"
 #include "host/operator/test_operator.h"
 #include "host/precheck/precheck.h"
-#include "host/reports/run_limits.h"
 #include "host/reports/run_report.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QTimer>
 
+#include <chrono>
 #include <utility>
 
 namespace host {
+
+namespace {
+
+// A run of either test takes less than one, its repetitions included.
+constexpr std::chrono::minutes longestRun{5};
+
+} // namespace
 
 UnattendedRun::UnattendedRun(TestSession &session, const Options &options, QString language)
     : session_(session), options_(options), language_(std::move(language))
 {}
 
+// The listed device whose monitor that source is by its name; empty when it is none of them.
+QString UnattendedRun::deviceOfMonitor(const QString &source) const
+{
+    for (const Device &device : session_.deviceList().devices()) {
+        if (source == QStringLiteral("Monitor of ") + device.name)
+            return device.name;
+    }
+    return {};
+}
+
+QString UnattendedRun::deviceName() const { return session_.deviceList().devices()[device_].name; }
+
 bool UnattendedRun::prepare(QString &problem)
 {
+    problem.clear();
     test_ = session_.findTest(options_.test);
     device_ = session_.deviceList().find(options_.device);
     if (test_ < 0)
         problem = QStringLiteral("the module has no test '%1'").arg(options_.test);
     else if (device_ < 0)
         problem = unknownDevice(options_.device, session_.deviceList().devices());
-    return test_ >= 0 && device_ >= 0;
+    else if (const QString other = deviceOfMonitor(options_.source); !other.isEmpty() && other != deviceName())
+        problem = QStringLiteral("'%1' hears another device than '%2', which would be blamed for its silence")
+                      .arg(options_.source, deviceName());
+    for (const QString &file : options_.reportFiles) {
+        if (problem.isEmpty() && !QFileInfo(QFileInfo(file).path()).isWritable())
+            problem = QStringLiteral("the report '%1' cannot be written: its folder is missing or closed").arg(file);
+    }
+    return problem.isEmpty();
 }
 
 int UnattendedRun::run()
@@ -45,26 +75,52 @@ int UnattendedRun::run()
 std::optional<RunRecord> UnattendedRun::perform()
 {
     const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
-    const auto findings = checkBeforeRun({session_.deviceList().devices()[device_].name, clips, language_, isRecording()});
+    const auto findings = checkBeforeRun({deviceName(), clips, language_, isRecording()});
     for (const PrecheckFinding &finding : findings)
         complain(precheckText(finding));
     for (const PrecheckFinding &finding : findings) {
         if (finding.isBlocking())
             return unheard(QStringLiteral("clips: ") + precheckText(finding));
     }
-    TestOperator person(
-        {options_.source, clips + u'/' + language_, language_, options_.screenshotsFolder, options_.mistypedSequences});
+    TestOperator person(operatorSettings());
+    if (meter_)
+        QObject::connect(&person, &TestOperator::metered, meter_);
     if (!person.start())
         return unheard(person.errorText());
     person.beginRun();
-    return session_.run(test_, device_, language_, [this, &person](RunRecord &record) {
+    bool isOverdue = false;
+    QTimer::singleShot(longestRun, &person, [this, &isOverdue] {
+        isOverdue = true;
+        session_.stop();
+    });
+    return session_.run(test_, device_, language_, [this, &person, &isOverdue](RunRecord &record) {
         record.isUnattended = true;
         record.listenedTo = options_.source;
         person.endRun(record);
+        if (isOverdue)
+            record.reason = QStringLiteral("the run took longer than five minutes");
     });
 }
 
 bool UnattendedRun::isRecording() const { return options_.test == QLatin1String("m") || !isMonitor(options_.source); }
+
+OperatorSettings UnattendedRun::operatorSettings() const
+{
+    const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files/");
+    OperatorSettings settings;
+    settings.source = options_.source;
+    settings.clipsFolder = clips + language_;
+    settings.language = language_;
+    settings.screenshotsFolder = options_.screenshotsFolder;
+    settings.mistypedSequences = options_.mistypedSequences;
+    settings.device = deviceName();
+    if (options_.test != QLatin1String("m"))
+        return settings;
+    settings.sentence = clips + QStringLiteral("operator/sentence_en_US.wav");
+    settings.microphone = options_.microphone;
+    settings.speakThrough = options_.speakThrough.isEmpty() ? deviceName() : options_.speakThrough;
+    return settings;
+}
 
 // Nobody is there who could take the test.
 RunRecord UnattendedRun::unheard(const QString &reason) const
@@ -76,7 +132,8 @@ RunRecord UnattendedRun::unheard(const QString &reason) const
     record.language = language_;
     record.startedUtc = QDateTime::currentDateTimeUtc();
     record.endedUtc = record.startedUtc;
-    record.moduleCode = record.code = ostra::result::cannotBePerformed;
+    record.wasModuleCalled = false;
+    record.code = ostra::result::cannotBePerformed;
     record.reason = reason;
     record.isUnattended = true;
     record.listenedTo = options_.source;

@@ -5,9 +5,14 @@
 
 #include <QObject>
 
+#include <functional>
+#include <utility>
+
 namespace host {
 
 class MainWindow;
+struct MeteredMoment;
+struct OperatorSettings;
 
 /// One test on one device with the operator in the person's place.
 class UnattendedRun {
@@ -19,18 +24,25 @@ public:
     qsizetype test() const noexcept { return test_; }
     qsizetype device() const noexcept { return device_; }
 
+    /// What is heard goes there, ten times a second.
+    void setMeter(std::function<void(const MeteredMoment &)> meter) { meter_ = std::move(meter); }
+
     /// Runs it, writes the reports, prints verdict and digits on standard output, and returns the program's exit code.
     int run();
 
 private:
     std::optional<RunRecord> perform();
+    QString deviceName() const; ///< once it is known
+    QString deviceOfMonitor(const QString &source) const;
     bool isRecording() const;
+    OperatorSettings operatorSettings() const;
     RunRecord unheard(const QString &reason) const;
     bool writeReports(const RunRecord &record) const;
 
     TestSession &session_;
     Options options_;
     QString language_;
+    std::function<void(const MeteredMoment &)> meter_;
     qsizetype test_ = -1;
     qsizetype device_ = -1;
 };

@@ -80,9 +80,36 @@ QByteArray soundLine(const HeardSound &sound)
     return line("digit", object);
 }
 
-QByteArray levelLine(double loudestDbfs, std::uint64_t droppedFrameCount)
+QByteArray clipLine(const HeardClip &clip)
+{
+    return line("clip", {{QStringLiteral("startMs"), milliseconds(clip.start)},
+                         {QStringLiteral("durationMs"), static_cast<double>(clip.duration.count())},
+                         {QStringLiteral("score"), rounded(clip.score, 10'000)},
+                         {QStringLiteral("found"), clip.isFound},
+                         {QStringLiteral("levelDbfs"), rounded(clip.levelDbfs, 10)},
+                         {QStringLiteral("clipped"), clip.isClipped}});
+}
+
+QByteArray meterLine(const MeterReading &reading)
+{
+    QJsonArray wave;
+    for (const MeterReading::Extremes &extremes : reading.wave) {
+        wave.append(rounded(double{extremes.lowest}, 1000));
+        wave.append(rounded(double{extremes.highest}, 1000));
+    }
+    return line("meter", {{QStringLiteral("atMs"), milliseconds(reading.end)},
+                          {QStringLiteral("peakDbfs"), rounded(reading.peakDbfs, 10)},
+                          {QStringLiteral("rmsDbfs"), rounded(reading.rmsDbfs, 10)},
+                          {QStringLiteral("channelDbfs"),
+                           QJsonArray{rounded(reading.channelDbfs[0], 10), rounded(reading.channelDbfs[1], 10)}},
+                          {QStringLiteral("differenceDbfs"), rounded(reading.differenceDbfs, 10)},
+                          {QStringLiteral("wave"), wave}});
+}
+
+QByteArray levelLine(double loudestDbfs, std::uint64_t arrivedFrameCount, std::uint64_t droppedFrameCount)
 {
     QJsonObject object{{QStringLiteral("levelDbfs"), rounded(loudestDbfs, 10)},
+                       {QStringLiteral("frames"), static_cast<double>(arrivedFrameCount)},
                        {QStringLiteral("atMs"), milliseconds(std::chrono::steady_clock::now())}};
     if (droppedFrameCount > 0)
         object.insert(QStringLiteral("droppedFrames"), static_cast<double>(droppedFrameCount));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "host/listener/clip_listener.h"
+#include "host/listener/signal_meter.h"
 #include "host/listener/stream_listener.h"
 
 #include <QByteArray>
@@ -17,8 +19,13 @@ QByteArray sourceLine(const QString &name);
 QByteArray readyLine(const QString &source, const QString &language);
 /// "digit" for one of the ten, "sound" for anything else.
 QByteArray soundLine(const HeardSound &sound);
+/// A place that is like the clip that is sought.
+QByteArray clipLine(const HeardClip &clip);
+/// A tenth of a second: peak and RMS, the channels apart, and lowest and highest sample of each fiftieth in turn.
+QByteArray meterLine(const MeterReading &reading);
+/// \param arrivedFrameCount frames that the level was taken from: those since the level before it; none is no silence
 /// \param droppedFrameCount frames that were lost since the start because the program was too slow; told when above 0.
-QByteArray levelLine(double loudestDbfs, std::uint64_t droppedFrameCount);
+QByteArray levelLine(double loudestDbfs, std::uint64_t arrivedFrameCount, std::uint64_t droppedFrameCount);
 QByteArray lostLine();
 
 } // namespace host

@@ -3,12 +3,14 @@
 
 #include "host/listener/event_lines.h"
 #include "host/listener/parent_link.h"
-#include "host/listener/stream_listener.h"
+#include "host/listener/signal_meter.h"
 
 #include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <optional>
 #include <thread>
+#include <utility>
 
 namespace host {
 
@@ -28,9 +30,12 @@ extern "C" void noteEndSignal(int /*signal*/) { isAskedToEnd = 1; }
 
 class Listening {
 public:
-    Listening(Capture &capture, const measure::DigitClips &clips, const ListenerOptions &options)
-        : capture_(capture), options_(options), listener_(clips, [this](const HeardSound &sound) { write(soundLine(sound)); })
-    {}
+    Listening(Capture &capture, const EarMaker &makeEar, const ListenerOptions &options)
+        : capture_(capture), options_(options), ear_(makeEar([this](const QByteArray &line) { write(line); }))
+    {
+        if (options.isMetered)
+            meter_.emplace([this](const MeterReading &reading) { write(meterLine(reading)); });
+    }
 
     ListenerExit run()
     {
@@ -53,7 +58,10 @@ private:
     void drain()
     {
         while (const SoundBlock *block = capture_.ring().oldest()) {
-            listener_.feed(block->frames(), block->end);
+            ear_->feed(block->frames(), block->end);
+            arrivedFrameCount_ += block->frameCount;
+            if (meter_ && isReady_) // the first event is "ready"
+                meter_->feed(block->frames(), block->end);
             capture_.ring().release();
             hasSound_ = true;
         }
@@ -72,13 +80,13 @@ private:
         if (!isReady_ || steady_clock::now() - levelTold_ < levelInterval)
             return;
         levelTold_ = steady_clock::now();
-        write(levelLine(listener_.takeLoudestDbfs(), capture_.ring().droppedFrameCount()));
+        write(levelLine(ear_->takeLoudestDbfs(), std::exchange(arrivedFrameCount_, 0), capture_.ring().droppedFrameCount()));
     }
 
     ListenerExit end(ListenerExit how)
     {
         drain();
-        listener_.finish();
+        ear_->finish();
         if (how == ListenerExit::lost)
             write(lostLine());
         return how;
@@ -86,9 +94,11 @@ private:
 
     Capture &capture_;
     const ListenerOptions &options_;
-    StreamListener listener_;
+    std::unique_ptr<Ear> ear_;
+    std::optional<SignalMeter> meter_;
     steady_clock::time_point start_ = steady_clock::now();
     steady_clock::time_point levelTold_ = start_;
+    std::uint64_t arrivedFrameCount_ = 0; ///< since the last level
     bool hasSound_ = false;
     bool isReady_ = false;
     bool isRead_ = true;
@@ -109,9 +119,9 @@ bool writeLine(const QByteArray &line)
            std::fflush(stdout) == 0;
 }
 
-ListenerExit listen(Capture &capture, const measure::DigitClips &clips, const ListenerOptions &options)
+ListenerExit listen(Capture &capture, const EarMaker &makeEar, const ListenerOptions &options)
 {
-    return Listening(capture, clips, options).run();
+    return Listening(capture, makeEar, options).run();
 }
 
 } // namespace host

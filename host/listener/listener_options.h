@@ -15,6 +15,8 @@ struct ListenerOptions {
     QString source;
     QString clipsFolder; ///< holds one folder a language
     QString language;
+    QString clipFile;       ///< a clip to look for instead of digits; empty for none
+    bool isMetered = false; ///< tells the level ten times a second
 };
 
 /// Why a command line cannot be followed, in one line.

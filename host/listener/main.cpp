@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/listener/event_lines.h"
 #include "host/listener/listen_loop.h"
+#include "host/measure/digit_clips.h"
 
 #include <QCoreApplication>
 
@@ -34,19 +35,62 @@ ListenerExit refuseSource(const QString &source, const QStringList &known)
     return refuse(ListenerExit::noSource, QStringLiteral("no capture source is named '%1' (there are: %2)").arg(source, names));
 }
 
+std::filesystem::path pathOf(const QString &name) { return {name.toStdU16String()}; }
+
+host::EarMaker digitEar(const ListenerOptions &options)
+{
+    const auto clips = measure::readDigitClips(pathOf(options.clipsFolder), options.language.toStdString());
+    if (!clips)
+        return {};
+    return [clips = *clips](const host::LineWriter &write) {
+        return std::make_unique<host::StreamListener>(
+            clips, [write](const host::HeardSound &sound) { write(host::soundLine(sound)); });
+    };
+}
+
+host::EarMaker clipEar(const std::optional<measure::MonoSound> &clip)
+{
+    return [clip](const host::LineWriter &write) {
+        return std::make_unique<host::ClipListener>(clip,
+                                                    [write](const host::HeardClip &heard) { write(host::clipLine(heard)); });
+    };
+}
+
+host::EarMaker fileEar(const QString &file)
+{
+    const std::optional<measure::MonoSound> clip = measure::readWavFile(pathOf(file));
+    const bool isUsable = clip && !clip->samples.empty() &&
+                          std::ssize(clip->samples) * std::int64_t{host::captureRate} <=
+                              host::ClipSearch::maxFrameCount * std::int64_t{clip->sampleRate};
+    return isUsable ? clipEar(clip) : host::EarMaker();
+}
+
+host::EarMaker earFor(const ListenerOptions &options)
+{
+    if (!options.clipFile.isEmpty())
+        return fileEar(options.clipFile);
+    return options.language.isEmpty() ? clipEar(std::nullopt) : digitEar(options);
+}
+
+ListenerExit refuseClips(const ListenerOptions &options)
+{
+    return refuse(ListenerExit::usage, options.clipFile.isEmpty()
+                                           ? QStringLiteral("the ten clips of '%1' cannot be read").arg(options.language)
+                                           : QStringLiteral("the clip '%1' cannot be used").arg(options.clipFile));
+}
+
 ListenerExit listenTo(Capture &capture, const ListenerOptions &options)
 {
-    const auto clips =
-        measure::readDigitClips(std::filesystem::path(options.clipsFolder.toStdU16String()), options.language.toStdString());
-    if (!clips)
-        return refuse(ListenerExit::usage, QStringLiteral("the ten clips of '%1' cannot be read").arg(options.language));
+    const host::EarMaker makeEar = earFor(options);
+    if (!makeEar)
+        return refuseClips(options);
     const QStringList known = capture.sources();
     if (!known.contains(options.source))
         return refuseSource(options.source, known);
     if (!capture.open(options.source))
         return refuse(ListenerExit::noSource,
                       QStringLiteral("'%1' cannot be opened: %2").arg(options.source, capture.errorText()));
-    return host::listen(capture, *clips, options);
+    return host::listen(capture, makeEar, options);
 }
 
 ListenerExit runTask(Capture &capture, const ListenerOptions &options)

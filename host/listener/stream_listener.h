@@ -3,6 +3,7 @@
 
 #include "host/listener/digit_measuring.h"
 #include "host/listener/digit_search.h"
+#include "host/listener/ear.h"
 #include "host/listener/loud_spans.h"
 
 #include <chrono>
@@ -26,19 +27,15 @@ struct HeardSound {
 };
 
 /// Tells the digits and other sounds of a capture, in the order of their ends, up to 2.4 s after they ended. One thread.
-class StreamListener {
+class StreamListener : public Ear {
 public:
     using Sink = std::function<void(const HeardSound &)>;
 
     StreamListener(const measure::DigitClips &clips, Sink sink);
 
-    /// Interleaved frames at `captureRate`, whose last one arrived at `end`.
-    void feed(std::span<const float> interleaved, SteadyTime end);
-    /// Tells what is left at the end of the capture.
-    void finish();
-
-    /// The loudest 50 ms since the last call.
-    double takeLoudestDbfs() { return spans_.takeLoudestDbfs(); }
+    void feed(std::span<const float> interleaved, SteadyTime end) override;
+    void finish() override;
+    double takeLoudestDbfs() override { return spans_.takeLoudestDbfs(); }
 
 private:
     HeardSound describe(FrameSpan span) const;

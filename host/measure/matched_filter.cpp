@@ -165,6 +165,8 @@ std::array<MatchedFilter::Peak, digitCount> MatchedFilter::findPeaks(Samples cap
         forward.forward(block, captureSpectrum);
         const auto lagCount = static_cast<std::size_t>(std::min(lagsPerBlock, std::ssize(capture) - lag));
         for (std::size_t digit = 0; digit < digitCount; ++digit) {
+            if (templates_[digit].energy <= 0)
+                continue;
             multiply(captureSpectrum, templates_[digit].spectrum, product);
             inverse.inverse(product, correlation);
             searchBlock(std::span(correlation).first(stepsPerFrame * lagCount), lag, energies, templates_[digit], peaks[digit]);

@@ -3,8 +3,6 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QJsonArray>
-#include <QJsonDocument>
 
 namespace host {
 
@@ -14,48 +12,6 @@ namespace {
 constexpr int startLimitMs = 35'000;
 constexpr int endLimitMs = 3'000;
 constexpr int pollMs = 100;
-
-double number(const QJsonObject &object, const char *key) { return object.value(QLatin1String(key)).toDouble(); }
-
-std::optional<double> optionalNumber(const QJsonObject &object, const char *key)
-{
-    const QJsonValue value = object.value(QLatin1String(key));
-    return value.isDouble() ? std::optional(value.toDouble()) : std::nullopt;
-}
-
-QList<double> numbers(const QJsonObject &object, const char *key)
-{
-    QList<double> list;
-    const QJsonArray values = object.value(QLatin1String(key)).toArray();
-    for (const QJsonValue value : values)
-        list.append(value.toDouble());
-    return list;
-}
-
-std::shared_ptr<const DigitMeasurement> measurementOf(const QJsonValue &value)
-{
-    const QJsonObject object = value.toObject();
-    if (object.isEmpty())
-        return nullptr;
-    return std::make_shared<const DigitMeasurement>(DigitMeasurement{
-        optionalNumber(object, "snrDb"), optionalNumber(object, "residualDbfs"), optionalNumber(object, "clockErrorPpm"),
-        number(object, "peakDbfs"), object.value(QLatin1String("clippedFrameCount")).toInteger(), numbers(object, "lowest"),
-        numbers(object, "highest"), numbers(object, "bandLevelsDbfs")});
-}
-
-HeardEvent soundOf(const QJsonObject &object)
-{
-    HeardEvent event;
-    event.startMs = static_cast<qint64>(number(object, "startMs"));
-    if (const int digit = object.value(QLatin1String("digit")).toInt(-1); digit >= 0 && digit <= 9)
-        event.digit = digit;
-    event.score = number(object, "score");
-    event.margin = number(object, "margin");
-    event.levelDbfs = number(object, "levelDbfs");
-    event.isClipped = object.value(QLatin1String("clipped")).toBool();
-    event.measured = measurementOf(object.value(QLatin1String("measured")));
-    return event;
-}
 
 } // namespace
 
@@ -78,20 +34,31 @@ ListenerLink::~ListenerLink()
     }
 }
 
-bool ListenerLink::start(const QStringList &arguments)
+void ListenerLink::launch(const QStringList &arguments)
 {
     isLost_ = false;
     process_.start(QCoreApplication::applicationDirPath() + QStringLiteral("/audio_listener"), arguments);
+}
+
+bool ListenerLink::start(const QStringList &arguments)
+{
+    launch(arguments);
     const QDeadlineTimer limit(startLimitMs);
     while (!isReady_ && !isLost_ && !limit.hasExpired())
         process_.waitForReadyRead(pollMs);
     if (isReady_ && !isLost_)
         return true;
     isLost_ = true;
-    errorText_ = QString::fromUtf8(process_.readAllStandardError()).trimmed();
-    if (errorText_.isEmpty())
-        errorText_ = QStringLiteral("audio_listener did not start: %1").arg(process_.errorString());
+    noteError();
     return false;
+}
+
+void ListenerLink::noteError()
+{
+    if (errorText_.isEmpty())
+        errorText_ = QString::fromUtf8(process_.readAllStandardError()).trimmed();
+    if (errorText_.isEmpty())
+        errorText_ = QStringLiteral("audio_listener ended: %1").arg(process_.errorString());
 }
 
 void ListenerLink::noteEnd()
@@ -100,25 +67,48 @@ void ListenerLink::noteEnd()
         return;
     readLines();
     isLost_ = true;
+    noteError();
+    emit lost();
 }
 
 void ListenerLink::readLines()
 {
     while (process_.canReadLine())
-        take(QJsonDocument::fromJson(process_.readLine()).object());
+        take(readListenerLine(process_.readLine()));
 }
 
-void ListenerLink::take(const QJsonObject &object)
+void ListenerLink::take(const ListenerLine &line)
 {
-    const QString event = object.value(QLatin1String("event")).toString();
-    if (event == QLatin1String("digit") || event == QLatin1String("sound"))
-        log_.addSound(soundOf(object));
-    else if (event == QLatin1String("level"))
-        log_.addLevel(static_cast<qint64>(number(object, "atMs")), number(object, "levelDbfs"));
-    else if (event == QLatin1String("ready"))
+    switch (line.kind) {
+    case ListenerLine::Kind::sound:
+        log_.addSound(line.sound);
+        break;
+    case ListenerLine::Kind::level:
+        log_.addLevel(line.sound.startMs, line.sound.levelDbfs);
+        log_.addArrival(line.sound.startMs, line.frameCount, line.droppedFrameCount);
+        break;
+    case ListenerLine::Kind::ready:
+        log_.addArrival(line.sound.startMs, 0, 0);
         isReady_ = true;
-    else if (event == QLatin1String("lost"))
+        break;
+    case ListenerLine::Kind::lost:
         isLost_ = true;
+        break;
+    case ListenerLine::Kind::clip:
+        log_.addPlace(line.place);
+        break;
+    case ListenerLine::Kind::meter:
+        takeMoment(line.moment);
+        break;
+    case ListenerLine::Kind::unknown:
+        break;
+    }
+}
+
+void ListenerLink::takeMoment(const MeteredMoment &moment)
+{
+    log_.addMoment(moment);
+    emit metered(moment);
 }
 
 } // namespace host

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "host/operator/heard_log.h"
+#include "host/operator/listener_line.h"
 
-#include <QByteArray>
-#include <QJsonObject>
 #include <QObject>
 #include <QProcess>
 #include <QString>
@@ -20,7 +19,9 @@ public:
     explicit ListenerLink(QObject *parent = nullptr);
     ~ListenerLink() override; ///< closes the listener's input, which ends it
 
-    /// Waits until it captures, 30 s at most. False with `errorText()`.
+    /// Starts it without waiting for it.
+    void launch(const QStringList &arguments);
+    /// Starts it and waits until it captures, 30 s at most. False with `errorText()`.
     bool start(const QStringList &arguments);
     const QString &errorText() const { return errorText_; }
 
@@ -28,10 +29,17 @@ public:
     bool isLost() const { return isLost_; }
     const HeardLog &log() const { return log_; }
 
+signals:
+    void metered(const host::MeteredMoment &moment);
+    /// It has ended by itself, or its source has vanished; `errorText()` may say why.
+    void lost();
+
 private:
     void readLines();
-    void take(const QJsonObject &event);
+    void take(const ListenerLine &line);
+    void takeMoment(const MeteredMoment &moment);
     void noteEnd();
+    void noteError();
 
     QProcess process_;
     HeardLog log_;

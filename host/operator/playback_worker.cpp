@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/operator/playback_worker.h"
 
+#include "host/core/capture_source.h"
 #include "host/operator/real_input.h"
 #include "host/operator/window_photographer.h"
 
@@ -8,6 +9,8 @@
 #include <QMovie>
 
 #include <algorithm>
+#include <limits>
+#include <tuple>
 #include <utility>
 
 namespace host {
@@ -35,13 +38,28 @@ constexpr qint64 pressAgainMs = 2'000;
 /// The clocks of dialog and capture agree to a buffer or two.
 constexpr qint64 clockToleranceMs = 200;
 constexpr qint64 longestLatencyMs = 2'000;
+/// What the listener calls the level of zeros.
+constexpr double digitalSilenceDbfs = -120.0;
+
+/// How well the digits of a play were heard: digits, sounds of any kind, loudest level.
+std::tuple<qsizetype, qsizetype, double> clarityOf(const QList<HeardDigit> &rows)
+{
+    std::tuple<qsizetype, qsizetype, double> clarity{0, 0, -std::numeric_limits<double>::infinity()};
+    auto &[digitCount, soundCount, levelDbfs] = clarity;
+    for (const HeardDigit &row : rows) {
+        digitCount += row.heard ? 1 : 0;
+        soundCount += row.playedAtMs >= 0 ? 1 : 0;
+        levelDbfs = std::max(levelDbfs, row.levelDbfs);
+    }
+    return clarity;
+}
 
 } // namespace
 
 PlaybackWorker::PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences,
-                               qint64 listenFromMs)
+                               qint64 listenFromMs, const QStringList &endpoints)
     : dialog_(dialog), log_(log), photographer_(photographer), mistypedSequences_(mistypedSequences),
-      stepStartMs_(steadyNowMs()), listenFromMs_(listenFromMs)
+      stepStartMs_(steadyNowMs()), listenFromMs_(listenFromMs), source_(endpoints.value(1)), volumes_(endpoints)
 {
     dialog->installEventFilter(this);
     for (const char *name : {thirdTyped, secondMessage}) {
@@ -116,10 +134,13 @@ void PlaybackWorker::beginSecondSequence()
 void PlaybackWorker::wait()
 {
     const bool isIdle = isRepeatEnabled();
+    if (!isIdle)
+        volumes_.look();
     if (step_ == Step::waiting && !isIdle) {
         enter(Step::playing);
     } else if (step_ == Step::playing && isIdle) {
         playEndMs_ = steadyNowMs();
+        plays_.append({listenFromMs_, playEndMs_});
         enter(Step::deciding);
     } else if (inStepMs() > (step_ == Step::waiting ? waitLimitMs : playLimitMs)) {
         close(QStringLiteral("the dialog did not play its sequence"));
@@ -142,7 +163,7 @@ void PlaybackWorker::decide()
             values.append(*event.digit);
     }
     if (digits.size() == sequenceLength && values.size() == sequenceLength) {
-        noteRows();
+        noteRows(rowsOfPlay());
         answer_ = values;
         typedCount_ = 0;
         return enter(Step::typing);
@@ -155,6 +176,7 @@ void PlaybackWorker::decide()
 
 void PlaybackWorker::listenAgain()
 {
+    noteBetterRows();
     if (!clickOn(find(repeatButton))) {
         if (inStepMs() > listenerLimitMs)
             close(QStringLiteral("the dialog could not be answered"));
@@ -167,13 +189,34 @@ void PlaybackWorker::listenAgain()
 
 void PlaybackWorker::giveUp()
 {
-    noteRows();
-    if (log_.loudestBetween(listenFromMs_, playEndMs_) >= HeardLog::audibleDbfs)
-        return close(QStringLiteral("not recognised"));
+    noteBetterRows();
+    if (const QString reason = whyNotSilent(); !reason.isEmpty())
+        return close(reason);
     if (clickOn(find(failButton)))
         enter(Step::answered);
     else if (inStepMs() > listenerLimitMs)
         close(QStringLiteral("the dialog could not be answered"));
+}
+
+// Why the device cannot be called silent; empty where it can.
+QString PlaybackWorker::whyNotSilent() const
+{
+    for (const Play &play : plays_) {
+        if (!log_.hasListenedBetween(play.fromMs, play.toMs))
+            return QStringLiteral("listener lost");
+    }
+    const bool wasHeard = std::any_of(plays_.begin(), plays_.end(), [this](const Play &play) {
+        return log_.loudestBetween(play.fromMs, play.toMs) >= HeardLog::audibleDbfs;
+    });
+    if (wasHeard)
+        return QStringLiteral("not recognised");
+    // A microphone that works always hears something; a monitor of silence is exactly silent.
+    const bool isDead = !isMonitor(source_) && std::all_of(plays_.begin(), plays_.end(), [this](const Play &play) {
+        return log_.loudestBetween(play.fromMs, play.toMs) <= digitalSilenceDbfs;
+    });
+    if (isDead)
+        return QStringLiteral("the capture source delivers nothing");
+    return volumes_.wereRaised() ? QString() : QStringLiteral("the volume could not be raised");
 }
 
 void PlaybackWorker::type()
@@ -226,7 +269,7 @@ void PlaybackWorker::pressClose()
 }
 
 // The three loudest where noises came between, in the order of their beginning; digits before other sounds.
-QList<HeardEvent> PlaybackWorker::rowsOfPlay() const
+QList<HeardEvent> PlaybackWorker::loudestOfPlay() const
 {
     QList<HeardEvent> sounds = log_.soundsBetween(listenFromMs_, playEndMs_);
     std::stable_sort(sounds.begin(), sounds.end(), [](const HeardEvent &left, const HeardEvent &right) {
@@ -238,10 +281,10 @@ QList<HeardEvent> PlaybackWorker::rowsOfPlay() const
     return sounds;
 }
 
-void PlaybackWorker::noteRows()
+QList<HeardDigit> PlaybackWorker::rowsOfPlay() const
 {
-    rows_.removeIf([this](const HeardDigit &row) { return row.sequence == sequence_; });
-    const QList<HeardEvent> sounds = rowsOfPlay();
+    QList<HeardDigit> rows;
+    const QList<HeardEvent> sounds = loudestOfPlay();
     for (int position = 1; position <= sequenceLength; ++position) {
         HeardDigit row;
         row.sequence = sequence_;
@@ -261,8 +304,25 @@ void PlaybackWorker::noteRows()
             row.levelDbfs = sound.levelDbfs;
             row.clipped = sound.isClipped;
         }
-        rows_.append(row);
+        rows.append(row);
     }
+    return rows;
+}
+
+void PlaybackWorker::noteRows(const QList<HeardDigit> &rows)
+{
+    rows_.removeIf([this](const HeardDigit &row) { return row.sequence == sequence_; });
+    rows_.append(rows);
+}
+
+// A repetition that was heard worse leaves the rows of the play before it.
+void PlaybackWorker::noteBetterRows()
+{
+    QList<HeardDigit> before = rows_;
+    before.removeIf([this](const HeardDigit &row) { return row.sequence != sequence_; });
+    const QList<HeardDigit> rows = rowsOfPlay();
+    if (before.isEmpty() || clarityOf(rows) >= clarityOf(before))
+        noteRows(rows);
 }
 
 double PlaybackWorker::latencyOf(qint64 startMs) const

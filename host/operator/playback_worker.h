@@ -3,6 +3,7 @@
 
 #include "host/core/run_record.h"
 #include "host/operator/heard_log.h"
+#include "host/operator/volume_watch.h"
 
 #include <QList>
 #include <QObject>
@@ -23,8 +24,9 @@ class PlaybackWorker : public QObject {
 public:
     /// \param mistypedSequences that many sequences get one wrong digit
     /// \param listenFromMs what began before does not count
+    /// \param endpoints names of the endpoints that must be at full volume while it plays
     PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences,
-                   qint64 listenFromMs);
+                   qint64 listenFromMs, const QStringList &endpoints);
 
     /// Does what is due. \param isListenerLost closes the dialog instead
     void advance(bool isListenerLost);
@@ -53,20 +55,27 @@ private:
     void decide();
     void listenAgain();
     void giveUp();
+    QString whyNotSilent() const;
     void type();
     void typeNext();
     void close(const QString &reason);
     void pressClose();
 
     QList<HeardEvent> digitsOfPlay() const;
-    void noteRows();
-    QList<HeardEvent> rowsOfPlay() const;
+    QList<HeardEvent> loudestOfPlay() const;
+    QList<HeardDigit> rowsOfPlay() const;
+    void noteRows(const QList<HeardDigit> &rows);
+    void noteBetterRows();
     int digitToType(int position) const;
     double latencyOf(qint64 startMs) const;
 
     void noteMovie();
     void noteShown(const QObject *widget);
 
+    struct Play {
+        qint64 fromMs;
+        qint64 toMs;
+    };
     struct Child {
         qint64 bornMs;
         QPointer<QObject> object;
@@ -84,6 +93,9 @@ private:
     qint64 secondShownMs_ = 0;
     qint64 playEndMs_ = 0;
     bool hasRepeated_ = false;
+    QString source_; ///< what the listener captures
+    VolumeWatch volumes_;
+    QList<Play> plays_; ///< those that are over, of both sequences
     QList<int> answer_;
     int typedCount_ = 0; ///< digits whose keys were pressed
     QList<HeardDigit> rows_;

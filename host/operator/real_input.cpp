@@ -2,6 +2,7 @@
 #include "host/operator/real_input.h"
 
 #include <QApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWidget>
@@ -17,6 +18,14 @@ QWindow *reachableWindow(const QWidget *widget)
     const QWidget *modal = QApplication::activeModalWidget();
     const bool isBlocked = modal != nullptr && modal != widget->window();
     return isBlocked || !widget->isVisible() ? nullptr : widget->window()->windowHandle();
+}
+
+// A person brings a window to the front before working it. A window of another program is not known here.
+void uncover(QWidget *window, QPoint position)
+{
+    const QWindow *top = QGuiApplication::topLevelAt(window->mapToGlobal(position));
+    if (top != nullptr && top != window->windowHandle())
+        window->raise();
 }
 
 void postMouse(QWindow *window, QEvent::Type type, QPoint position, Qt::MouseButton button, Qt::MouseButtons buttons)
@@ -35,6 +44,7 @@ bool clickOn(QWidget *target)
     const QPoint position = target->mapTo(target->window(), target->rect().center());
     if (target->window()->childAt(position) != target)
         return false;
+    uncover(target->window(), position);
     postMouse(window, QEvent::MouseMove, position, Qt::NoButton, Qt::NoButton);
     postMouse(window, QEvent::MouseButtonPress, position, Qt::LeftButton, Qt::LeftButton);
     postMouse(window, QEvent::MouseButtonRelease, position, Qt::LeftButton, Qt::NoButton);

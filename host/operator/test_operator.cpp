@@ -2,6 +2,7 @@
 #include "host/operator/test_operator.h"
 
 #include "host/operator/listener_link.h"
+#include "host/operator/microphone_worker.h"
 #include "host/operator/playback_worker.h"
 #include "host/operator/real_input.h"
 #include "host/operator/window_photographer.h"
@@ -36,6 +37,9 @@ QString clipsRoot(const OperatorSettings &settings)
 
 QStringList listenerArguments(const OperatorSettings &settings)
 {
+    if (!settings.sentence.isEmpty())
+        return {QStringLiteral("--source"), settings.source, QStringLiteral("--find"), settings.sentence,
+                QStringLiteral("--meter")};
     return {QStringLiteral("--source"),   settings.source,  QStringLiteral("--clips"), clipsRoot(settings),
             QStringLiteral("--language"), settings.language};
 }
@@ -50,18 +54,24 @@ struct TestOperator::Private {
     void acceptPrompt(QWidget *prompt);
     void workPlayback(QWidget *dialog);
     void finishPlayback();
+    void workMicrophone(QWidget *dialog);
+    void finishMicrophone();
+    void answerQuestion(QWidget *question);
     void noteQuestion(QWidget *question);
+    bool mayPress(QWidget *prompt, const QString &step);
 
     OperatorSettings settings;
     WindowPhotographer photographer;
     ListenerLink listener;
     QTimer timer;
     std::unique_ptr<PlaybackWorker> playback;
+    std::unique_ptr<MicrophoneWorker> microphone;
     QPointer<QWidget> pressedPrompt;
     QPointer<QWidget> seenQuestion;
     qint64 promptPressedMs = 0;
     qint64 runBeganMs = 0;
     QList<HeardDigit> digits;
+    std::optional<HeardRecording> recording;
     QString reason;
 };
 
@@ -79,21 +89,29 @@ void TestOperator::Private::lookAt(QWidget *window)
     if (name == QLatin1String("host_prompt"))
         acceptPrompt(window);
     else if (name == QLatin1String("host_question"))
-        noteQuestion(window);
+        answerQuestion(window);
     else if (name == QLatin1String("AudioPlaybackTestWidget"))
         workPlayback(window);
+    else if (name == QLatin1String("InteractionDialog"))
+        workMicrophone(window);
+}
+
+bool TestOperator::Private::mayPress(QWidget *prompt, const QString &step)
+{
+    const bool isNew = pressedPrompt != prompt;
+    if (!isNew && steadyNowMs() - promptPressedMs < pressAgainMs)
+        return false;
+    if (isNew)
+        photographer.take(prompt, step);
+    pressedPrompt = prompt;
+    promptPressedMs = steadyNowMs();
+    return true;
 }
 
 void TestOperator::Private::acceptPrompt(QWidget *prompt)
 {
-    const bool isNew = pressedPrompt != prompt;
-    if (!isNew && steadyNowMs() - promptPressedMs < pressAgainMs)
-        return;
-    if (isNew)
-        photographer.take(prompt, QStringLiteral("prompt"));
-    clickOn(prompt->findChild<QWidget *>(QStringLiteral("host_prompt_accept")));
-    pressedPrompt = prompt;
-    promptPressedMs = steadyNowMs();
+    if (mayPress(prompt, QStringLiteral("prompt")))
+        clickOn(prompt->findChild<QWidget *>(QStringLiteral("host_prompt_accept")));
 }
 
 void TestOperator::Private::workPlayback(QWidget *dialog)
@@ -101,8 +119,8 @@ void TestOperator::Private::workPlayback(QWidget *dialog)
     if (playback == nullptr || !playback->works(dialog)) {
         finishPlayback();
         const qint64 listenFromMs = std::max(runBeganMs, steadyNowMs() - unseenMs);
-        playback =
-            std::make_unique<PlaybackWorker>(dialog, listener.log(), photographer, settings.mistypedSequences, listenFromMs);
+        playback = std::make_unique<PlaybackWorker>(dialog, listener.log(), photographer, settings.mistypedSequences,
+                                                    listenFromMs, QStringList{settings.device, settings.source});
     }
     playback->advance(listener.isLost());
 }
@@ -117,7 +135,39 @@ void TestOperator::Private::finishPlayback()
     playback.reset();
 }
 
-// Only the comparison of a recording with its playback can answer it, which is not made here: it is photographed and left open.
+void TestOperator::Private::workMicrophone(QWidget *dialog)
+{
+    if (microphone == nullptr || !microphone->works(dialog))
+        microphone = std::make_unique<MicrophoneWorker>(dialog, listener.log(), photographer,
+                                                        Speech{settings.microphone, settings.speakThrough, settings.sentence});
+    microphone->advance(listener.isLost());
+}
+
+void TestOperator::Private::finishMicrophone()
+{
+    if (microphone == nullptr)
+        return;
+    if (!recording)
+        recording = microphone->heard();
+    if (reason.isEmpty())
+        reason = microphone->reason();
+    microphone.reset();
+}
+
+// Answered by what was heard while the dialog played its recording back; without that there is no answer.
+void TestOperator::Private::answerQuestion(QWidget *question)
+{
+    if (microphone != nullptr)
+        finishMicrophone();
+    if (!recording)
+        return noteQuestion(question);
+    if (!mayPress(question, QStringLiteral("question")))
+        return;
+    recording->answer = recording->isFound;
+    clickOn(question->findChild<QWidget *>(recording->isFound ? QStringLiteral("host_question_yes")
+                                                              : QStringLiteral("host_question_no")));
+}
+
 void TestOperator::Private::noteQuestion(QWidget *question)
 {
     if (seenQuestion == question)
@@ -132,6 +182,7 @@ TestOperator::TestOperator(OperatorSettings settings, QObject *parent)
 {
     d_->timer.setInterval(lookInterval);
     connect(&d_->timer, &QTimer::timeout, this, [this] { d_->look(); });
+    connect(&d_->listener, &ListenerLink::metered, this, &TestOperator::metered);
 }
 
 TestOperator::~TestOperator() = default;
@@ -149,6 +200,8 @@ void TestOperator::beginRun()
     d_->digits.clear();
     d_->reason.clear();
     d_->playback.reset();
+    d_->recording.reset();
+    d_->microphone.reset();
     d_->timer.start();
 }
 
@@ -156,6 +209,7 @@ void TestOperator::endRun(RunRecord &record)
 {
     d_->timer.stop();
     d_->finishPlayback();
+    d_->finishMicrophone();
     record.isUnattended = true;
     record.listenedTo = d_->settings.source;
     record.digits = d_->digits;
@@ -163,6 +217,9 @@ void TestOperator::endRun(RunRecord &record)
         if (digit.playedAtMs >= 0)
             digit.playedAtMs -= d_->runBeganMs;
     }
+    record.recording = d_->recording;
+    if (record.recording && record.recording->heardAtMs)
+        *record.recording->heardAtMs -= d_->runBeganMs;
     record.screenshots.append(d_->photographer.takeFiles());
     if (record.reason.isEmpty())
         record.reason = d_->reason;

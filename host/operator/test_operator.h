@@ -10,12 +10,18 @@
 
 namespace host {
 
+struct MeteredMoment;
+
 struct OperatorSettings {
     QString source;            ///< name of the capture source, as the listener lists it
     QString clipsFolder;       ///< folder of the language's ten clips, such as ".../audio_files/en_US"
     QString language;          ///< code such as "en_US"
     QString screenshotsFolder; ///< where the windows are photographed; empty for no pictures
     int mistypedSequences = 0; ///< for proofs: that many sequences get one wrong digit
+    QString device;            ///< the tested device as people see it: it must be at full volume to be called silent
+    QString sentence;          ///< for the microphone test: the clip to speak and to look for; empty for the playback test
+    QString microphone;        ///< to choose in the dialog; empty for the one that it has chosen
+    QString speakThrough;      ///< output that the microphone hears
 };
 
 /// Takes the person's place: hears what the device plays through a listener of its own process and works the real dialogs with
@@ -37,6 +43,10 @@ public:
     void beginRun();
     /// Writes what was heard, typed and photographed, and the reason where there is no verdict, into `record`.
     void endRun(RunRecord &record);
+
+signals:
+    /// Level and waveform of what is heard, ten times a second in a microphone run.
+    void metered(const host::MeteredMoment &moment);
 
 private:
     struct Private;

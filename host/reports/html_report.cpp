@@ -75,8 +75,7 @@ private:
         writeVerdict();
         writePairs("Run", "How the run went", view_.facts());
         writeMessages();
-        writeDigits();
-        writeDigitPlots(xml_, report_);
+        view_.isMicrophoneTest() ? writeRecording() : writeDigits();
         writePairs("Device", "What the device tells about itself", properties());
         writeLimits();
         element("p", QStringLiteral("No sound was kept."));
@@ -177,8 +176,7 @@ private:
         const QList<QStringList> rows = view_.digitRows();
         element("h2", QStringLiteral("Digits"));
         if (rows.isEmpty()) {
-            element("p", view_.flag("unattended") ? QStringLiteral("No digit was heard.")
-                                                  : QStringLiteral("A person listened: nothing was measured."));
+            element("p", unheard("No digit was heard."));
             return;
         }
         open("div");
@@ -197,6 +195,22 @@ private:
         close();
         element("p", QStringLiteral("What was played is known only of a sequence that the test accepted. A hyphen stands for "
                                     "what is not known or not measurable."));
+        writeDigitPlots(xml_, report_);
+    }
+
+    QString unheard(const char *text) const
+    {
+        return QLatin1String(view_.flag("unattended") ? text : "A person listened: nothing was measured.");
+    }
+
+    void writeRecording()
+    {
+        const auto facts = view_.recordingFacts();
+        writePairs("Recording", "What was heard of the recording", facts);
+        if (!facts.isEmpty())
+            return;
+        element("h2", QStringLiteral("Recording"));
+        element("p", unheard("No recording was heard."));
     }
 
     void writeLimits()

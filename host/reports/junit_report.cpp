@@ -65,7 +65,7 @@ void writeSuiteAttributes(QXmlStreamWriter &xml, const ReportView &view)
 void writeProperties(QXmlStreamWriter &xml, const ReportView &view)
 {
     xml.writeStartElement(QStringLiteral("properties"));
-    for (const auto &[title, value] : view.facts()) {
+    for (const auto &[title, value] : view.facts() + view.recordingFacts()) {
         xml.writeEmptyElement(QStringLiteral("property"));
         xml.writeAttribute(QStringLiteral("name"), title);
         xml.writeAttribute(QStringLiteral("value"), value);

@@ -90,6 +90,11 @@ QString ReportView::verdictName() const
     return plainText(report_.value(QLatin1String("verdict"))[QLatin1String("name")].toString(QStringLiteral("not completed")));
 }
 
+bool ReportView::isMicrophoneTest() const
+{
+    return report_.value(QLatin1String("test"))[QLatin1String("letter")].toString() == QLatin1String("m");
+}
+
 QString ReportView::testKey() const
 {
     return plainText(report_.value(QLatin1String("test"))[QLatin1String("nameKey")].toString());
@@ -134,9 +139,34 @@ QList<std::pair<QString, QString>> ReportView::facts() const
         {QStringLiteral("Listened to"), text("listenedTo")},
         {QStringLiteral("Reason"), text("reason")},
         {QStringLiteral("Volumes put back"), lines("restoredVolumes").join(QStringLiteral(", "))},
+        {QStringLiteral("Volumes"), text("volumeComplaint")},
         {QStringLiteral("Pictures"), lines("screenshots").join(QStringLiteral(", "))}};
     facts.removeIf([](const auto &fact) { return fact.second.isEmpty(); });
     return facts;
+}
+
+QList<std::pair<QString, QString>> ReportView::recordingFacts() const
+{
+    const QJsonObject heard = report_.value(QLatin1String("recording")).toObject();
+    if (heard.isEmpty())
+        return {};
+    const auto number = [&heard](const char *key, int decimals) {
+        return numberText(heard.value(QLatin1String(key)), decimals);
+    };
+    const auto flag = [&heard](const char *key) { return yesOrNo(heard.value(QLatin1String(key)).toBool()); };
+    const auto words = [&heard](const char *key) { return plainText(heard.value(QLatin1String(key)).toString(unknownValue)); };
+    return {{QStringLiteral("Microphone"), words("microphone")},
+            {QStringLiteral("Spoken through"), words("spokenThrough")},
+            {QStringLiteral("Sentence found"), flag("found")},
+            {QStringLiteral("Heard at (ms)"), number("heardAtMs", 0)},
+            {QStringLiteral("Score"), number("score", 2)},
+            {QStringLiteral("Latency (ms)"), number("latencyMs", 0)},
+            {QStringLiteral("Level (dBFS)"), number("levelDbfs", 1)},
+            {QStringLiteral("Peak (dBFS)"), number("peakDbfs", 1)},
+            {QStringLiteral("Clipped"), flag("clipped")},
+            {QStringLiteral("Silent"), flag("silent")},
+            {QStringLiteral("Mono in stereo"), flag("monoInStereo")},
+            {QStringLiteral("Answer"), words("answer")}};
 }
 
 QList<QStringList> ReportView::digitRows() const

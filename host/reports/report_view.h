@@ -24,6 +24,7 @@ public:
     /// Code of the verdict; 4 (not completed) where the report has none.
     int code() const;
     QString verdictName() const;
+    bool isMicrophoneTest() const;
     QString testKey() const;
     QString testName() const; ///< translated
     QString deviceName() const;
@@ -31,6 +32,8 @@ public:
     double seconds() const;
     /// What else describes the run, as pairs of a title and a value; empty values left out.
     QList<std::pair<QString, QString>> facts() const;
+    /// What an unattended run of the microphone test heard, in the same form; empty for another run.
+    QList<std::pair<QString, QString>> recordingFacts() const;
     /// The digits as a table, header first.
     QList<QStringList> digitRows() const;
 

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/reports/run_limits.h"
 
+#include "host/core/capture_source.h"
+
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -22,9 +26,30 @@ QStringList limitsOfMicrophone()
         QStringLiteral("The levels depend on the microphone and its distance: they do not measure how loud the device is.")};
 }
 
+bool wasSilent(const RunRecord &record)
+{
+    return !record.digits.isEmpty() && std::none_of(record.digits.begin(), record.digits.end(), [](const HeardDigit &digit) {
+        return digit.heard || digit.playedAtMs >= 0;
+    });
+}
+
+QStringList limitsOfSilence()
+{
+    return {
+        QStringLiteral("Nothing was heard: a source that is muted or hears another device cannot be told from a silent "
+                       "device."),
+        QStringLiteral("The volumes were read between the digits only: where they changed meanwhile, or the system does not "
+                       "tell its true volumes, a device that was not raised looks like a silent one.")};
+}
+
 QStringList limitsOfListening(const RunRecord &record)
 {
     QStringList limits = isMonitor(record.listenedTo) ? limitsOfMonitor() : limitsOfMicrophone();
+    if (wasSilent(record))
+        limits.append(limitsOfSilence());
+    limits.append(
+        QStringLiteral("What was heard was compared with the very clips that were played: a clip that is wrong itself "
+                       "goes unnoticed."));
     limits.append(QStringLiteral("Digits were compared below 4 kHz: what the device does to higher tones is not known."));
     limits.append(
         QStringLiteral("A latency reaches from the dialog's display to the capture: it includes opening the device and "
@@ -48,17 +73,26 @@ QStringList limitsOfMicrophoneTest(const RunRecord &record)
 {
     QStringList limits{QStringLiteral("One microphone was tested: the machine's other inputs were not."),
                        QStringLiteral("A recording that sounds wrong can be the fault of the device that plays it.")};
-    if (!record.isUnattended)
+    if (!record.isUnattended) {
         limits.append(QStringLiteral("A person compared the sounds: nothing was measured."));
+        return limits;
+    }
+    limits.append(QStringLiteral("The sentence was spoken by a loudspeaker: a recording without it can be the fault of that "
+                                 "loudspeaker, of its volume or of its distance."));
+    limits.append(QStringLiteral("Only the first five seconds of what the microphone hears were recorded."));
+    limits.append(isMonitor(record.listenedTo)
+                      ? QStringLiteral("A monitor heard the playback: this run proves the digital path up to the sound server, "
+                                       "not the amplifier, the cable or the loudspeaker.")
+                      : QStringLiteral("A microphone heard the playback: what it heard may have come from another "
+                                       "loudspeaker, and its levels depend on its distance."));
+    limits.append(QStringLiteral("The sentence was compared below 4 kHz: what happens to higher tones is not known."));
+    limits.append(QStringLiteral("The latency is the delay of the playback beyond that of the recording; a sound server works "
+                                 "a tenth of a second ahead or behind, so it can be below zero."));
+    limits.append(QStringLiteral("The same in both channels is what a microphone with one capsule delivers: it is no fault."));
     return limits;
 }
 
 } // namespace
-
-bool isMonitor(const QString &source)
-{
-    return source.startsWith(QStringLiteral("Monitor of ")) || source.endsWith(QStringLiteral(".monitor"));
-}
 
 QStringList runLimits(const RunRecord &record)
 {

@@ -7,10 +7,6 @@
 
 namespace host {
 
-/// Whether a capture source hears what a device is given to play instead of what its loudspeaker sounds like. Goes by the
-/// source's name, which is all that the sound library tells.
-bool isMonitor(const QString &source);
-
 /// What the run cannot tell, one sentence each, for the reader of its report.
 QStringList runLimits(const RunRecord &record);
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/reports/run_report.h"
 
+#include "contract/result_codes.h"
 #include "host/core/verdict.h"
 #include "host/reports/report_formats.h"
 #include "host/reports/run_limits.h"
-
-#include "contract/result_codes.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -121,6 +120,26 @@ QJsonArray digitsOf(const RunRecord &record)
     return rows;
 }
 
+QJsonValue recordingOf(const std::optional<HeardRecording> &heard)
+{
+    if (!heard)
+        return {};
+    return QJsonObject{
+        {QStringLiteral("microphone"), heard->microphone},
+        {QStringLiteral("spokenThrough"), heard->spokenThrough},
+        {QStringLiteral("heardAtMs"), heard->heardAtMs ? QJsonValue(*heard->heardAtMs) : QJsonValue()},
+        {QStringLiteral("score"), rounded(heard->score, 10'000)},
+        {QStringLiteral("found"), heard->isFound},
+        {QStringLiteral("latencyMs"), heard->latencyMs ? QJsonValue(std::round(*heard->latencyMs)) : QJsonValue()},
+        {QStringLiteral("levelDbfs"), rounded(heard->levelDbfs, 10)},
+        {QStringLiteral("peakDbfs"), rounded(heard->peakDbfs, 10)},
+        {QStringLiteral("clipped"), heard->isClipped},
+        {QStringLiteral("silent"), heard->isSilent},
+        {QStringLiteral("monoInStereo"), heard->isMonoInStereo},
+        {QStringLiteral("answer"),
+         heard->answer ? QJsonValue(*heard->answer ? QStringLiteral("yes") : QStringLiteral("no")) : QJsonValue()}};
+}
+
 QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
 {
     const std::uint32_t code = codeOf(verdictOf(record));
@@ -134,7 +153,8 @@ QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
             {QStringLiteral("endedUtc"), momentOf(record.endedUtc)},
             {QStringLiteral("verdict"),
              QJsonObject{{QStringLiteral("code"), static_cast<qint64>(code)}, {QStringLiteral("name"), resultName(code)}}},
-            {QStringLiteral("moduleCode"), static_cast<qint64>(record.moduleCode)},
+            {QStringLiteral("moduleCode"),
+             record.wasModuleCalled ? QJsonValue(static_cast<qint64>(record.moduleCode)) : QJsonValue()},
             {QStringLiteral("stopped"), record.wasStopped},
             {QStringLiteral("reason"), record.reason},
             {QStringLiteral("progress"), progressOf(record, lookUp)},
@@ -142,7 +162,9 @@ QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
             {QStringLiteral("unattended"), record.isUnattended},
             {QStringLiteral("listenedTo"), record.listenedTo},
             {QStringLiteral("digits"), digitsOf(record)},
+            {QStringLiteral("recording"), recordingOf(record.recording)},
             {QStringLiteral("restoredVolumes"), QJsonArray::fromStringList(record.restoredVolumes)},
+            {QStringLiteral("volumeComplaint"), record.volumeComplaint},
             {QStringLiteral("screenshots"), QJsonArray::fromStringList(record.screenshots)}};
 }
 

@@ -41,6 +41,14 @@ QString messagesText(const ReportView &view)
     return text;
 }
 
+QString pairsText(const QList<std::pair<QString, QString>> &pairs)
+{
+    QString text;
+    for (const auto &[title, value] : pairs)
+        text += QStringLiteral("  %1  %2\n").arg(title.leftJustified(18), value);
+    return text;
+}
+
 QString section(const QString &title, const QString &body) { return body.isEmpty() ? QString() : u'\n' + title + u'\n' + body; }
 
 } // namespace
@@ -61,10 +69,10 @@ QByteArray textReport(const QJsonObject &report)
 {
     const ReportView view(report);
     QString text = QStringLiteral("%1 (%2): %3\n").arg(view.testName(), view.testKey(), view.verdictName());
-    for (const auto &[title, value] : view.facts())
-        text += QStringLiteral("  %1  %2\n").arg(title.leftJustified(18), value);
+    text += pairsText(view.facts());
     text += section(QStringLiteral("Messages"), messagesText(view));
     text += section(QStringLiteral("Digits"), digitTableText(report));
+    text += section(QStringLiteral("Recording"), pairsText(view.recordingFacts()));
     QString limits;
     for (const QString &limit : view.lines("limits"))
         limits += QStringLiteral("  - %1\n").arg(limit);

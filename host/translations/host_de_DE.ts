@@ -288,5 +288,45 @@ Version dieses Programms: %2</translation>
         <source>PROGRAM_IS_CLOSING</source>
         <translation>Das Programm wird geschlossen, sobald der Test gestoppt ist.</translation>
     </message>
+    <message>
+        <source>METER_TITLE</source>
+        <translation>Lautstärkepegel</translation>
+    </message>
+    <message>
+        <source>METER_SOURCE</source>
+        <translation>Gehört über: %1</translation>
+    </message>
+    <message>
+        <source>METER_WORDS</source>
+        <translation>Pegel %1 dBFS, Spitze %2 dBFS: %3</translation>
+    </message>
+    <message>
+        <source>METER_SILENT</source>
+        <translation>still</translation>
+    </message>
+    <message>
+        <source>METER_QUIET</source>
+        <translation>leise</translation>
+    </message>
+    <message>
+        <source>METER_GOOD</source>
+        <translation>gut</translation>
+    </message>
+    <message>
+        <source>METER_TOO_LOUD</source>
+        <translation>zu laut</translation>
+    </message>
+    <message>
+        <source>METER_NO_DATA</source>
+        <translation>Noch wurde nichts gehört.</translation>
+    </message>
+    <message>
+        <source>METER_WAVE</source>
+        <translation>Wellenform der letzten Wiedergabe</translation>
+    </message>
+    <message>
+        <source>METER_WAVE_WORDS</source>
+        <translation>Wiedergabe der Aufnahme: %1 s, Spitze %2 dBFS</translation>
+    </message>
 </context>
 </TS>

@@ -288,5 +288,45 @@ Version of this program: %2</translation>
         <source>PROGRAM_IS_CLOSING</source>
         <translation>The program closes as soon as the test has stopped.</translation>
     </message>
+    <message>
+        <source>METER_TITLE</source>
+        <translation>Sound level</translation>
+    </message>
+    <message>
+        <source>METER_SOURCE</source>
+        <translation>Heard through: %1</translation>
+    </message>
+    <message>
+        <source>METER_WORDS</source>
+        <translation>Level %1 dBFS, peak %2 dBFS: %3</translation>
+    </message>
+    <message>
+        <source>METER_SILENT</source>
+        <translation>silent</translation>
+    </message>
+    <message>
+        <source>METER_QUIET</source>
+        <translation>quiet</translation>
+    </message>
+    <message>
+        <source>METER_GOOD</source>
+        <translation>good</translation>
+    </message>
+    <message>
+        <source>METER_TOO_LOUD</source>
+        <translation>too loud</translation>
+    </message>
+    <message>
+        <source>METER_NO_DATA</source>
+        <translation>Nothing has been heard yet.</translation>
+    </message>
+    <message>
+        <source>METER_WAVE</source>
+        <translation>Waveform of the last playback</translation>
+    </message>
+    <message>
+        <source>METER_WAVE_WORDS</source>
+        <translation>Playback of the recording: %1 s, peak %2 dBFS</translation>
+    </message>
 </context>
 </TS>

@@ -288,5 +288,45 @@ Versión de este programa: %2</translation>
         <source>PROGRAM_IS_CLOSING</source>
         <translation>El programa se cerrará en cuanto la prueba se haya detenido.</translation>
     </message>
+    <message>
+        <source>METER_TITLE</source>
+        <translation>Nivel de sonido</translation>
+    </message>
+    <message>
+        <source>METER_SOURCE</source>
+        <translation>Se escucha por: %1</translation>
+    </message>
+    <message>
+        <source>METER_WORDS</source>
+        <translation>Nivel %1 dBFS, pico %2 dBFS: %3</translation>
+    </message>
+    <message>
+        <source>METER_SILENT</source>
+        <translation>silencio</translation>
+    </message>
+    <message>
+        <source>METER_QUIET</source>
+        <translation>bajo</translation>
+    </message>
+    <message>
+        <source>METER_GOOD</source>
+        <translation>bueno</translation>
+    </message>
+    <message>
+        <source>METER_TOO_LOUD</source>
+        <translation>demasiado alto</translation>
+    </message>
+    <message>
+        <source>METER_NO_DATA</source>
+        <translation>Aún no se ha oído nada.</translation>
+    </message>
+    <message>
+        <source>METER_WAVE</source>
+        <translation>Forma de onda de la última reproducción</translation>
+    </message>
+    <message>
+        <source>METER_WAVE_WORDS</source>
+        <translation>Reproducción de la grabación: %1 s, pico %2 dBFS</translation>
+    </message>
 </context>
 </TS>

@@ -288,5 +288,45 @@ Version de ce programme : %2</translation>
         <source>PROGRAM_IS_CLOSING</source>
         <translation>Le programme se fermera dès que le test sera arrêté.</translation>
     </message>
+    <message>
+        <source>METER_TITLE</source>
+        <translation>Niveau sonore</translation>
+    </message>
+    <message>
+        <source>METER_SOURCE</source>
+        <translation>Écouté par : %1</translation>
+    </message>
+    <message>
+        <source>METER_WORDS</source>
+        <translation>Niveau %1 dBFS, crête %2 dBFS : %3</translation>
+    </message>
+    <message>
+        <source>METER_SILENT</source>
+        <translation>silencieux</translation>
+    </message>
+    <message>
+        <source>METER_QUIET</source>
+        <translation>faible</translation>
+    </message>
+    <message>
+        <source>METER_GOOD</source>
+        <translation>bon</translation>
+    </message>
+    <message>
+        <source>METER_TOO_LOUD</source>
+        <translation>trop fort</translation>
+    </message>
+    <message>
+        <source>METER_NO_DATA</source>
+        <translation>Rien n’a encore été entendu.</translation>
+    </message>
+    <message>
+        <source>METER_WAVE</source>
+        <translation>Forme d’onde de la dernière lecture</translation>
+    </message>
+    <message>
+        <source>METER_WAVE_WORDS</source>
+        <translation>Lecture de l’enregistrement : %1 s, crête %2 dBFS</translation>
+    </message>
 </context>
 </TS>

@@ -288,5 +288,45 @@ Versione di questo programma: %2</translation>
         <source>PROGRAM_IS_CLOSING</source>
         <translation>Il programma si chiuderà non appena il test si sarà interrotto.</translation>
     </message>
+    <message>
+        <source>METER_TITLE</source>
+        <translation>Livello audio</translation>
+    </message>
+    <message>
+        <source>METER_SOURCE</source>
+        <translation>Ascoltato da: %1</translation>
+    </message>
+    <message>
+        <source>METER_WORDS</source>
+        <translation>Livello %1 dBFS, picco %2 dBFS: %3</translation>
+    </message>
+    <message>
+        <source>METER_SILENT</source>
+        <translation>silenzioso</translation>
+    </message>
+    <message>
+        <source>METER_QUIET</source>
+        <translation>debole</translation>
+    </message>
+    <message>
+        <source>METER_GOOD</source>
+        <translation>buono</translation>
+    </message>
+    <message>
+        <source>METER_TOO_LOUD</source>
+        <translation>troppo forte</translation>
+    </message>
+    <message>
+        <source>METER_NO_DATA</source>
+        <translation>Non è stato ancora sentito nulla.</translation>
+    </message>
+    <message>
+        <source>METER_WAVE</source>
+        <translation>Forma d’onda dell’ultima riproduzione</translation>
+    </message>
+    <message>
+        <source>METER_WAVE_WORDS</source>
+        <translation>Riproduzione della registrazione: %1 s, picco %2 dBFS</translation>
+    </message>
 </context>
 </TS>

@@ -288,5 +288,45 @@
         <source>PROGRAM_IS_CLOSING</source>
         <translation>テストが停止すると、プログラムを閉じます。</translation>
     </message>
+    <message>
+        <source>METER_TITLE</source>
+        <translation>音量レベル</translation>
+    </message>
+    <message>
+        <source>METER_SOURCE</source>
+        <translation>聞き取り元：%1</translation>
+    </message>
+    <message>
+        <source>METER_WORDS</source>
+        <translation>レベル %1 dBFS、ピーク %2 dBFS：%3</translation>
+    </message>
+    <message>
+        <source>METER_SILENT</source>
+        <translation>無音</translation>
+    </message>
+    <message>
+        <source>METER_QUIET</source>
+        <translation>小さい</translation>
+    </message>
+    <message>
+        <source>METER_GOOD</source>
+        <translation>良好</translation>
+    </message>
+    <message>
+        <source>METER_TOO_LOUD</source>
+        <translation>大きすぎる</translation>
+    </message>
+    <message>
+        <source>METER_NO_DATA</source>
+        <translation>まだ何も聞こえていません。</translation>
+    </message>
+    <message>
+        <source>METER_WAVE</source>
+        <translation>最後の再生の波形</translation>
+    </message>
+    <message>
+        <source>METER_WAVE_WORDS</source>
+        <translation>録音の再生：%1 秒、ピーク %2 dBFS</translation>
+    </message>
 </context>
 </TS>

@@ -288,5 +288,45 @@ Versie van dit programma: %2</translation>
         <source>PROGRAM_IS_CLOSING</source>
         <translation>Het programma wordt gesloten zodra de test is gestopt.</translation>
     </message>
+    <message>
+        <source>METER_TITLE</source>
+        <translation>Geluidsniveau</translation>
+    </message>
+    <message>
+        <source>METER_SOURCE</source>
+        <translation>Gehoord via: %1</translation>
+    </message>
+    <message>
+        <source>METER_WORDS</source>
+        <translation>Niveau %1 dBFS, piek %2 dBFS: %3</translation>
+    </message>
+    <message>
+        <source>METER_SILENT</source>
+        <translation>stil</translation>
+    </message>
+    <message>
+        <source>METER_QUIET</source>
+        <translation>zacht</translation>
+    </message>
+    <message>
+        <source>METER_GOOD</source>
+        <translation>goed</translation>
+    </message>
+    <message>
+        <source>METER_TOO_LOUD</source>
+        <translation>te luid</translation>
+    </message>
+    <message>
+        <source>METER_NO_DATA</source>
+        <translation>Er is nog niets gehoord.</translation>
+    </message>
+    <message>
+        <source>METER_WAVE</source>
+        <translation>Golfvorm van de laatste weergave</translation>
+    </message>
+    <message>
+        <source>METER_WAVE_WORDS</source>
+        <translation>Weergave van de opname: %1 s, piek %2 dBFS</translation>
+    </message>
 </context>
 </TS>

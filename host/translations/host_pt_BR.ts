@@ -288,5 +288,45 @@ Versão deste programa: %2</translation>
         <source>PROGRAM_IS_CLOSING</source>
         <translation>O programa será fechado assim que o teste parar.</translation>
     </message>
+    <message>
+        <source>METER_TITLE</source>
+        <translation>Nível de som</translation>
+    </message>
+    <message>
+        <source>METER_SOURCE</source>
+        <translation>Ouvido por: %1</translation>
+    </message>
+    <message>
+        <source>METER_WORDS</source>
+        <translation>Nível %1 dBFS, pico %2 dBFS: %3</translation>
+    </message>
+    <message>
+        <source>METER_SILENT</source>
+        <translation>silencioso</translation>
+    </message>
+    <message>
+        <source>METER_QUIET</source>
+        <translation>baixo</translation>
+    </message>
+    <message>
+        <source>METER_GOOD</source>
+        <translation>bom</translation>
+    </message>
+    <message>
+        <source>METER_TOO_LOUD</source>
+        <translation>alto demais</translation>
+    </message>
+    <message>
+        <source>METER_NO_DATA</source>
+        <translation>Nada foi ouvido ainda.</translation>
+    </message>
+    <message>
+        <source>METER_WAVE</source>
+        <translation>Forma de onda da última reprodução</translation>
+    </message>
+    <message>
+        <source>METER_WAVE_WORDS</source>
+        <translation>Reprodução da gravação: %1 s, pico %2 dBFS</translation>
+    </message>
 </context>
 </TS>

@@ -288,5 +288,45 @@
         <source>PROGRAM_IS_CLOSING</source>
         <translation>测试停止后程序将立即关闭。</translation>
     </message>
+    <message>
+        <source>METER_TITLE</source>
+        <translation>声音电平</translation>
+    </message>
+    <message>
+        <source>METER_SOURCE</source>
+        <translation>监听来源：%1</translation>
+    </message>
+    <message>
+        <source>METER_WORDS</source>
+        <translation>电平 %1 dBFS，峰值 %2 dBFS：%3</translation>
+    </message>
+    <message>
+        <source>METER_SILENT</source>
+        <translation>无声</translation>
+    </message>
+    <message>
+        <source>METER_QUIET</source>
+        <translation>偏轻</translation>
+    </message>
+    <message>
+        <source>METER_GOOD</source>
+        <translation>良好</translation>
+    </message>
+    <message>
+        <source>METER_TOO_LOUD</source>
+        <translation>过响</translation>
+    </message>
+    <message>
+        <source>METER_NO_DATA</source>
+        <translation>尚未听到任何声音。</translation>
+    </message>
+    <message>
+        <source>METER_WAVE</source>
+        <translation>上次播放的波形</translation>
+    </message>
+    <message>
+        <source>METER_WAVE_WORDS</source>
+        <translation>录音播放：%1 秒，峰值 %2 dBFS</translation>
+    </message>
 </context>
 </TS>

@@ -20,6 +20,8 @@ class TestHostOptions : public QObject {
 private slots:
     void startsThePlainWindowWithoutArguments();
     void readsAnUnattendedRun();
+    void readsAMicrophoneRun();
+    void listensWithoutAnOperator();
     void readsSeveralEvents();
     void makesPathsAbsolute();
     void answersHelpBeforeAnythingElse();
@@ -50,6 +52,25 @@ void TestHostOptions::readsAnUnattendedRun()
     QCOMPARE(options->mistypedSequences, 2);
     QCOMPARE(options->language, QStringLiteral("de_DE"));
     QCOMPARE(options->schedule.stopAfter, std::chrono::milliseconds(1500));
+}
+
+void TestHostOptions::readsAMicrophoneRun()
+{
+    const auto result =
+        read(QStringLiteral("--unattended --test m --device Speakers --listen x --microphone Mic --speak-through Headphones"));
+    const auto *options = std::get_if<host::Options>(&result);
+    QVERIFY(options != nullptr);
+    QCOMPARE(options->microphone, QStringLiteral("Mic"));
+    QCOMPARE(options->speakThrough, QStringLiteral("Headphones"));
+}
+
+// For the level beside the dialog of a person.
+void TestHostOptions::listensWithoutAnOperator()
+{
+    const auto result = read(QStringLiteral("--listen mic1"));
+    const auto *options = std::get_if<host::Options>(&result);
+    QVERIFY(options != nullptr && !options->isUnattended);
+    QCOMPARE(options->source, QStringLiteral("mic1"));
 }
 
 void TestHostOptions::readsSeveralEvents()
@@ -102,6 +123,11 @@ void TestHostOptions::refusesWhatItCannotDo_data()
     row("report of no known format", "--unattended --test p --device 0 --listen x --report r.pdf",
         "its name must end in .json");
     row("report without unattended", "--report x", "'--report' goes with");
+    row("microphone without unattended", "--microphone x", "'--microphone' goes with '--unattended' only");
+    row("microphone of the playback test", "--unattended --test p --device 0 --listen x --microphone y",
+        "'--microphone' goes with '--test m' only");
+    row("speech in the playback test", "--unattended --test p --device 0 --listen x --speak-through y",
+        "'--speak-through' goes with '--test m' only");
     row("mistype without unattended", "--mistype 1", "'--mistype' goes with");
     row("mistype no number", "--unattended --test p --device 0 --listen x --mistype -1", "not '-1'");
     row("unknown language", "--language de", "unknown language 'de' (known: pt_BR, en_US");

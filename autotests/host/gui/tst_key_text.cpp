@@ -45,6 +45,7 @@ void TestKeyText::initTestCase()
         {"AUDIO/WHOLE._|KEY.", QStringLiteral("Ein Satz.|Noch einer.")},
         {"AUDIO/AN_INTERNAL_ERROR_OCCURRED._", QStringLiteral("Ein interner Fehler.")},
         {"AUDIO/PLEASE_TRY_AGAIN.", QStringLiteral("Bitte noch einmal.")},
+        {"AUDIO/LOUD_KEY", QStringLiteral("SPEAKERS")},
         {"AUDIO/A: B", QStringLiteral("Ganzes")},
         {"AUDIO/RUN_TEST", QStringLiteral("Modul")},
         {"HOST/RUN_TEST", QStringLiteral("Starten")},
@@ -70,6 +71,8 @@ void TestKeyText::showsEachSentence_data()
                                          << QStringList{QStringLiteral("Ein interner Fehler."),
                                                         QStringLiteral("Bitte noch einmal.")};
     QTest::newRow("whole before pieces") << QStringLiteral("A: B") << QStringList{QStringLiteral("Ganzes")};
+    QTest::newRow("a translation is not translated again")
+        << QStringLiteral("LOUD_KEY") << QStringList{QStringLiteral("SPEAKERS")};
     QTest::newRow("unknown key") << QStringLiteral("NO_SUCH_KEY") << QStringList{QStringLiteral("No such key")};
     QTest::newRow("unknown piece") << QStringLiteral("POSSIBLE_DEFECTIVE_COMPONENTS: LEFT_EAR, MICROPHONE")
                                    << QStringList{QStringLiteral("Vielleicht defekt: Left ear, Mikrofon")};

@@ -53,7 +53,12 @@ struct Program {
         return texts;
     }
 
-    QTemporaryDir folder;
+    // Windows removes no folder that is a process's current one.
+    struct Folder : QTemporaryDir {
+        Folder() : before(QDir::currentPath()) {}
+        ~Folder() { QDir::setCurrent(before); }
+        QString before;
+    } folder;
     struct Language : host::LanguageSetting {
         explicit Language(const QString &path) { useOwnFolder(path); }
     } language{folder.path()};

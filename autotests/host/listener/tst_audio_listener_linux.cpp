@@ -11,6 +11,7 @@ class TestAudioListenerLinux : public QObject {
 private slots:
     void endsWhenAskedTo();
     void endsOnADeadSoundServer();
+    void tellsASleepingSourceFromASilentOne();
     void tellsThatItsSourceIsLost();
 };
 
@@ -32,6 +33,19 @@ void TestAudioListenerLinux::endsOnADeadSoundServer()
     QVERIFY(listener.waitForEnd());
     QCOMPARE(listener.process().exitCode(), 3);
     QVERIFY(listener.process().readAllStandardError().contains("no sound server"));
+}
+
+void TestAudioListenerLinux::tellsASleepingSourceFromASilentOne()
+{
+    ListenerProcess listener(listeningArguments(QStringLiteral("Mic"), QStringLiteral("en_US")));
+    QVERIFY(!listener.waitFor(QStringLiteral("ready")).isEmpty());
+    QProcess server;
+    server.start(QStringLiteral("pactl"), {QStringLiteral("suspend-source"), QStringLiteral("mic1"), QStringLiteral("1")});
+    QVERIFY(server.waitForFinished() && server.exitCode() == 0);
+    double frameCount = -1;
+    for (int count = 0; count < 10 && frameCount != 0; ++count)
+        frameCount = listener.waitFor(QStringLiteral("level")).value(QLatin1String("frames")).toDouble(-1);
+    QCOMPARE(frameCount, 0.0);
 }
 
 void TestAudioListenerLinux::tellsThatItsSourceIsLost()

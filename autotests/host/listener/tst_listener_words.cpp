@@ -18,12 +18,16 @@ class TestListenerWords : public QObject {
 
 private slots:
     void readsItsOptions();
+    void readsWhatElseItCanListenFor();
     void namesWhatIsWrong_data();
     void namesWhatIsWrong();
     void tellsADigitInOneLine();
     void tellsAnotherSoundInOneLine();
+    void tellsAClipInOneLine();
+    void tellsTheLevelInOneLine();
     void relatesItsClockToTheCalendar();
     void tellsLostFramesOnlyWhereThereAreAny();
+    void tellsHowMuchALevelWasTakenFrom();
 };
 
 void TestListenerWords::readsItsOptions()
@@ -41,6 +45,20 @@ void TestListenerWords::readsItsOptions()
     QVERIFY(std::get<ListenerOptions>(help).task == ListenerTask::help);
 }
 
+void TestListenerWords::readsWhatElseItCanListenFor()
+{
+    const auto find = host::parseListenerOptions(
+        {QStringLiteral("p"), QStringLiteral("--source=Mic"), QStringLiteral("--find=a b.wav"), QStringLiteral("--meter")});
+    const auto *options = std::get_if<ListenerOptions>(&find);
+    QVERIFY(options != nullptr && options->task == ListenerTask::listen && options->isMetered);
+    QCOMPARE(options->clipFile, QStringLiteral("a b.wav"));
+    QVERIFY(options->clipsFolder.isEmpty() && options->language.isEmpty());
+    const auto level =
+        host::parseListenerOptions({QStringLiteral("p"), QStringLiteral("--source=Mic"), QStringLiteral("--meter")});
+    options = std::get_if<ListenerOptions>(&level);
+    QVERIFY(options != nullptr && options->isMetered && options->clipFile.isEmpty() && options->language.isEmpty());
+}
+
 void TestListenerWords::namesWhatIsWrong_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -49,6 +67,13 @@ void TestListenerWords::namesWhatIsWrong_data()
     QTest::newRow("no clips") << QStringList{QStringLiteral("--source=x")} << QStringLiteral("--clips");
     QTest::newRow("no language") << QStringList{QStringLiteral("--source=x"), QStringLiteral("--clips=y")}
                                  << QStringLiteral("--language");
+    QTest::newRow("meter without a source") << QStringList{QStringLiteral("--meter")} << QStringLiteral("--source");
+    QTest::newRow("meter with half a language")
+        << QStringList{QStringLiteral("--source=x"), QStringLiteral("--meter"), QStringLiteral("--language=en_US")}
+        << QStringLiteral("--clips");
+    QTest::newRow("a clip and digits") << QStringList{QStringLiteral("--source=x"), QStringLiteral("--find=y"),
+                                                      QStringLiteral("--clips=z")}
+                                       << QStringLiteral("--clips");
     QTest::newRow("no value") << QStringList{QStringLiteral("--source")} << QStringLiteral("source");
     QTest::newRow("unknown") << QStringList{QStringLiteral("--volume=3")} << QStringLiteral("volume");
     QTest::newRow("word") << QStringList{QStringLiteral("--list"), QStringLiteral("now")} << QStringLiteral("now");
@@ -89,6 +114,32 @@ void TestListenerWords::tellsAnotherSoundInOneLine()
              QByteArray(R"({"clipped":false,"durationMs":0,"event":"sound","levelDbfs":-40,"startMs":99})"));
 }
 
+void TestListenerWords::tellsAClipInOneLine()
+{
+    host::HeardClip clip;
+    clip.score = 0.98765432;
+    clip.isFound = true;
+    clip.start = host::SteadyTime(1234567ms);
+    clip.duration = 2700ms;
+    clip.levelDbfs = -17.26;
+    QCOMPARE(host::clipLine(clip), QByteArray(R"({"clipped":false,"durationMs":2700,"event":"clip","found":true,)"
+                                              R"("levelDbfs":-17.3,"score":0.9877,"startMs":1234567})"));
+}
+
+void TestListenerWords::tellsTheLevelInOneLine()
+{
+    host::MeterReading reading;
+    reading.end = host::SteadyTime(1234567ms);
+    reading.peakDbfs = -3.14;
+    reading.rmsDbfs = -20.06;
+    reading.channelDbfs = {-17, -120};
+    reading.differenceDbfs = -17;
+    reading.wave[1] = {-0.12345F, 0.5F};
+    QCOMPARE(host::meterLine(reading),
+             QByteArray(R"({"atMs":1234567,"channelDbfs":[-17,-120],"differenceDbfs":-17,"event":"meter","peakDbfs":-3.1,)"
+                        R"("rmsDbfs":-20.1,"wave":[0,0,-0.123,0.5,0,0,0,0,0,0]})"));
+}
+
 void TestListenerWords::relatesItsClockToTheCalendar()
 {
     using namespace std::chrono;
@@ -105,8 +156,14 @@ void TestListenerWords::relatesItsClockToTheCalendar()
 
 void TestListenerWords::tellsLostFramesOnlyWhereThereAreAny()
 {
-    QVERIFY(!host::levelLine(-120, 0).contains("droppedFrames"));
-    QVERIFY(host::levelLine(-120, 5).contains(R"("droppedFrames":5)"));
+    QVERIFY(!host::levelLine(-120, 48000, 0).contains("droppedFrames"));
+    QVERIFY(host::levelLine(-120, 48000, 5).contains(R"("droppedFrames":5)"));
+}
+
+void TestListenerWords::tellsHowMuchALevelWasTakenFrom()
+{
+    QVERIFY(host::levelLine(-120, 47104, 0).contains(R"("frames":47104)"));
+    QVERIFY(host::levelLine(-120, 0, 0).contains(R"("frames":0)"));
 }
 
 QTEST_GUILESS_MAIN(TestListenerWords)

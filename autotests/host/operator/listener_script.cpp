@@ -10,8 +10,9 @@ ListenerScript::ListenerScript(bool isReady)
 {
     if (!file_.open(QIODevice::WriteOnly | QIODevice::Truncate))
         qFatal("the script cannot be written");
+    levelToldMs_ = host::steadyNowMs();
     if (isReady)
-        say(R"({"event":"ready","steadyMs":1})");
+        say(R"({"event":"ready","steadyMs":)" + QByteArray::number(levelToldMs_) + '}');
 }
 
 // In one piece, so that the reader never sees half a line.
@@ -33,10 +34,13 @@ void ListenerScript::sound(double levelDbfs)
         QByteArray::number(host::steadyNowMs()) + '}');
 }
 
-void ListenerScript::level(double levelDbfs)
+void ListenerScript::level(double levelDbfs, double share, int droppedFrameCount)
 {
-    say(R"({"event":"level","levelDbfs":)" + QByteArray::number(levelDbfs) + R"(,"atMs":)" +
-        QByteArray::number(host::steadyNowMs() + 3000) + '}');
+    const qint64 atMs = host::steadyNowMs() + 3000;
+    const double frameCount = static_cast<double>(atMs - levelToldMs_) * 48 * share;
+    levelToldMs_ = atMs;
+    say(R"({"event":"level","levelDbfs":)" + QByteArray::number(levelDbfs) + R"(,"frames":)" + QByteArray::number(frameCount) +
+        R"(,"droppedFrames":)" + QByteArray::number(droppedFrameCount) + R"(,"atMs":)" + QByteArray::number(atMs) + '}');
 }
 
 void ListenerScript::end(int exitCode) { say("!exit " + QByteArray::number(exitCode)); }

@@ -16,9 +16,11 @@ public:
     /// A sound that is none, began now.
     void sound(double levelDbfs);
     /// Everything up to three seconds from now has been listened to.
-    void level(double levelDbfs);
+    /// \param share how much of the sound since the last level has arrived
+    void level(double levelDbfs, double share = 1, int droppedFrameCount = 0);
     void end(int exitCode);
 
 private:
     QFile file_;
+    qint64 levelToldMs_ = 0;
 };

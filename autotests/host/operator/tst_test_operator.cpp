@@ -51,6 +51,18 @@ RunRecord run(StandInDialog &dialog, const OperatorSettings &given)
     return record;
 }
 
+class RaiseCounter : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 QList<int> heardIn(const RunRecord &record)
 {
     QList<int> heard;
@@ -78,6 +90,14 @@ private slots:
     void mistypesBothSequences();
     void asksOnceForARepetition();
     void saysThatNothingWasHeard();
+    void doesNotCallADeviceSilentThatWasHeard_data();
+    void doesNotCallADeviceSilentThatWasHeard();
+    void keepsTheRowsOfTheBetterPlay();
+    void raisesItsDialogOverAnotherWindow();
+    void blamesNobodyForADeadMicrophone_data();
+    void blamesNobodyForADeadMicrophone();
+    void blamesNobodyWhereItCouldNotListen_data();
+    void blamesNobodyWhereItCouldNotListen();
     void closesWhereTheSoundIsNoDigit();
     void doesNotTypeADigitTwice();
     void closesWhenTheListenerDies();
@@ -166,6 +186,98 @@ void TestTestOperator::saysThatNothingWasHeard()
     QCOMPARE(heardIn(record), (QList<int>{-1, -1, -1}));
     QCOMPARE(record.digits.at(0).levelDbfs, -120.0);
     QVERIFY(record.reason.isEmpty()); // the module's own verdict
+}
+
+void TestTestOperator::blamesNobodyForADeadMicrophone_data()
+{
+    QTest::addColumn<double>("levelDbfs");
+    QTest::addColumn<bool>("isBlamed");
+    QTest::newRow("zeros only, as without a microphone") << -120.0 << false;
+    QTest::newRow("the noise of a quiet room") << -72.5 << true;
+}
+
+// In the air there is always some noise.
+void TestTestOperator::blamesNobodyForADeadMicrophone()
+{
+    QFETCH(const double, levelDbfs);
+    QFETCH(const bool, isBlamed);
+    ListenerScript script;
+    StandInDialog dialog({{5, 6, 8}}, [&script, levelDbfs](int digit) {
+        if (digit < 0)
+            script.level(-120);
+        else
+            script.sound(levelDbfs);
+    });
+    OperatorSettings given = settings();
+    given.source = QStringLiteral("Room Microphone");
+    const RunRecord record = run(dialog, given);
+    QCOMPARE(dialog.outcome(), isBlamed ? Outcome::noSound : Outcome::closed);
+    QCOMPARE(record.reason, isBlamed ? QString() : QStringLiteral("the capture source delivers nothing"));
+}
+
+void TestTestOperator::doesNotCallADeviceSilentThatWasHeard_data()
+{
+    QTest::addColumn<int>("heardCount");
+    QTest::addColumn<int>("mistyped");
+    QTest::newRow("silent after two digits") << 2 << 0;
+    QTest::newRow("silent in the second sequence") << 3 << 1;
+}
+
+// The listener is muted in the midst of it: what was heard before counts.
+void TestTestOperator::doesNotCallADeviceSilentThatWasHeard()
+{
+    QFETCH(const int, heardCount);
+    QFETCH(const int, mistyped);
+    ListenerScript script;
+    int played = 0;
+    StandInDialog dialog({{5, 6, 8}, {1, 2, 3}}, [&](int digit) {
+        if (digit < 0)
+            return script.level(-120);
+        if (++played <= heardCount)
+            script.digit(digit);
+    });
+    const RunRecord record = run(dialog, settings(mistyped));
+    QCOMPARE(dialog.outcome(), Outcome::closed);
+    QCOMPARE(record.reason, QStringLiteral("not recognised"));
+}
+
+void TestTestOperator::keepsTheRowsOfTheBetterPlay()
+{
+    ListenerScript script;
+    int played = 0;
+    StandInDialog dialog({{5, 6, 8}}, [&](int digit) {
+        if (digit < 0)
+            return script.level(-30);
+        ++played;
+        played == 2 || played > 4 ? script.sound(-30) : script.digit(digit); // two digits at first, one later
+    });
+    const RunRecord record = run(dialog, settings());
+    QCOMPARE(dialog.playCount(), 2);
+    QCOMPARE(heardIn(record), (QList<int>{5, -1, 8}));
+}
+
+void TestTestOperator::blamesNobodyWhereItCouldNotListen_data()
+{
+    QTest::addColumn<double>("share");
+    QTest::addColumn<int>("droppedFrameCount");
+    QTest::newRow("nothing arrived") << 0.0 << 0;
+    QTest::newRow("half of it arrived") << 0.5 << 0;
+    QTest::newRow("a frame was dropped") << 1.0 << 1;
+}
+
+// A capture that delivers nothing sounds like a silent device.
+void TestTestOperator::blamesNobodyWhereItCouldNotListen()
+{
+    QFETCH(const double, share);
+    QFETCH(const int, droppedFrameCount);
+    ListenerScript script;
+    StandInDialog dialog({{5, 6, 8}}, [&](int digit) {
+        if (digit < 0)
+            script.level(-120, share, droppedFrameCount);
+    });
+    const RunRecord record = run(dialog, settings());
+    QCOMPARE(dialog.outcome(), Outcome::closed);
+    QCOMPARE(record.reason, QStringLiteral("listener lost"));
 }
 
 void TestTestOperator::closesWhereTheSoundIsNoDigit()
@@ -260,6 +372,27 @@ void TestTestOperator::doesNotReachThroughWhatCoversAButton()
     QVERIFY(dialog.typed().isEmpty());
     delete cover;
     QTRY_COMPARE_WITH_TIMEOUT(dialog.outcome(), Outcome::passed, limitMs);
+}
+
+void TestTestOperator::raisesItsDialogOverAnotherWindow()
+{
+    ListenerScript script;
+    RaiseCounter raises;
+    QList<int> raisesBefore;
+    QWidget other;
+    StandInDialog dialog({{5, 6, 8}}, [&](int digit) {
+        if (digit >= 0)
+            return script.digit(digit);
+        script.level(-20);
+        raisesBefore.append(raises.count);
+        other.setGeometry(dialog.geometry());
+        other.show();
+    });
+    dialog.installEventFilter(&raises);
+    const RunRecord record = run(dialog, settings());
+    QCOMPARE(dialog.outcome(), Outcome::passed);
+    QCOMPARE(raisesBefore, QList<int>{0});
+    QVERIFY(raises.count > 0);
 }
 
 void TestTestOperator::worksNothingOutsideARun()

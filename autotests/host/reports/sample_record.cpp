@@ -58,3 +58,27 @@ host::RunRecord fullRecord()
     record.digits = {missedDigit(), heardDigit()};
     return record;
 }
+
+host::RunRecord microphoneRecord()
+{
+    host::RunRecord record = playbackRecord();
+    record.testLetter = QStringLiteral("m");
+    record.testNameKey = QStringLiteral("MICROPHONE_INTERACTIVE_TEST");
+    record.moduleCode = record.code = 0;
+    record.messages.clear();
+    record.volumeComplaint = QStringLiteral("no answer in time");
+    host::HeardRecording heard;
+    heard.microphone = QStringLiteral("Mic <1>");
+    heard.spokenThrough = QStringLiteral("Speakers");
+    heard.heardAtMs = 9876;
+    heard.score = 0.987654;
+    heard.isFound = true;
+    heard.latencyMs = -12.4;
+    heard.levelDbfs = -20.54;
+    heard.peakDbfs = -3.16;
+    heard.isSilent = false;
+    heard.isMonoInStereo = true;
+    heard.answer = true;
+    record.recording = heard;
+    return record;
+}

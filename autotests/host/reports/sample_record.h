@@ -11,3 +11,6 @@ host::HeardDigit heardDigit();
 host::HeardDigit missedDigit();
 /// `playbackRecord` with both.
 host::RunRecord fullRecord();
+
+/// Of the microphone test, with nobody there; the recording was heard.
+host::RunRecord microphoneRecord();

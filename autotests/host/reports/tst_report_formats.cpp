@@ -12,6 +12,8 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 using host::ReportFormat;
 
 Q_DECLARE_METATYPE(host::ReportFormat)
@@ -105,6 +107,9 @@ private slots:
     void letsNoTextBecomeMarkup();
     void boundsWhatItDraws();
     void writesText();
+    void tellsOfTheRecordingInEachFormat();
+    void tellsThatNoRecordingWasHeard_data();
+    void tellsThatNoRecordingWasHeard();
     void alignsTheTable();
 };
 
@@ -349,6 +354,47 @@ void TestReportFormats::writesText()
     QVERIFY(text.startsWith(QStringLiteral("\u300CAUDIO_PLAYBACK_TEST\u300D (AUDIO_PLAYBACK_TEST): failed\n")));
     QVERIFY(text.contains(QStringLiteral("\nerror: \u300CUSER_DID_NOT_REPORT_SOUND\u300D (USER_DID_NOT_REPORT_SOUND)\n")));
     QVERIFY(text.contains(QStringLiteral("\nWhat this run cannot tell\n  - ")));
+}
+
+void TestReportFormats::tellsOfTheRecordingInEachFormat()
+{
+    const QString text = QString::fromUtf8(host::convertReport(reportOf(microphoneRecord()), ReportFormat::text));
+    QVERIFY(text.contains(QStringLiteral("\nRecording\n  Microphone          Mic <1>\n  Spoken through      Speakers\n")));
+    QVERIFY(text.contains(QStringLiteral("\n  Latency (ms)        -12\n")));
+    QVERIFY(text.contains(QStringLiteral("\n  Volumes             no answer in time\n")));
+    const QList<Element> page = elementsOf(html(microphoneRecord()));
+    const auto hasCell = [&page](const char *cell) {
+        return std::any_of(page.begin(), page.end(), [cell](const Element &element) {
+            return element.name == QLatin1String("td") && element.text == QLatin1String(cell);
+        });
+    };
+    for (const char *cell : {"Mic <1>", "Speakers", "9876", "0.99", "-12", "-20.5", "-3.2", "yes", "no"})
+        QVERIFY2(hasCell(cell), cell);
+    QVERIFY(named(page, "svg").isEmpty());
+    QVERIFY(!html(microphoneRecord()).contains("digit was heard"));
+    QStringList properties;
+    for (const Element &property : named(elementsOf(junit(microphoneRecord())), "property"))
+        properties.append(property.attribute("name") + u'=' + property.attribute("value"));
+    QVERIFY(properties.contains(QStringLiteral("Microphone=Mic <1>")));
+}
+
+void TestReportFormats::tellsThatNoRecordingWasHeard_data()
+{
+    QTest::addColumn<bool>("isUnattended");
+    QTest::addColumn<QByteArray>("sentence");
+    QTest::newRow("unattended") << true << QByteArray("No recording was heard.");
+    QTest::newRow("attended") << false << QByteArray("A person listened: nothing was measured.");
+}
+
+void TestReportFormats::tellsThatNoRecordingWasHeard()
+{
+    QFETCH(const bool, isUnattended);
+    QFETCH(const QByteArray, sentence);
+    host::RunRecord record = microphoneRecord();
+    record.recording.reset();
+    record.isUnattended = isUnattended;
+    QVERIFY(html(record).contains(sentence));
+    QVERIFY(!html(record).contains("digit was heard"));
 }
 
 void TestReportFormats::alignsTheTable()

@@ -41,14 +41,17 @@ class TestRunReport : public QObject {
 private slots:
     void tellsTheRun();
     void tellsEveryDigit();
+    void tellsTheRecording();
     void tellsWhatIsNotKnownAsNull();
     void namesEachVerdict_data();
     void namesEachVerdict();
-    void tellsTheVerdictAndNotTheBareCode_data();
-    void tellsTheVerdictAndNotTheBareCode();
+    void isNeverAPassThatTheExitCodeDenies();
     void putsTheLimitsLast();
     void choosesTheLimits_data();
     void choosesTheLimits();
+    void tellsWhatSilenceCanMean_data();
+    void tellsWhatSilenceCanMean();
+    void tellsThatTheClipsAreTheirOwnMeasure();
     void writesTheWholeFile();
     void keepsTheOldFileWhenItCannotWrite();
     void namesTheFileThatItCannotWrite();
@@ -107,6 +110,31 @@ void TestRunReport::tellsEveryDigit()
     QCOMPARE(digit, expected);
 }
 
+void TestRunReport::tellsTheRecording()
+{
+    RunRecord record = playbackRecord();
+    QVERIFY(parsed(record).value(QLatin1String("recording")).isNull());
+    record.recording = microphoneRecord().recording;
+    const QJsonObject expected{{QStringLiteral("microphone"), QStringLiteral("Mic <1>")},
+                               {QStringLiteral("spokenThrough"), QStringLiteral("Speakers")},
+                               {QStringLiteral("heardAtMs"), 9876},
+                               {QStringLiteral("score"), 0.9877},
+                               {QStringLiteral("found"), true},
+                               {QStringLiteral("latencyMs"), -12},
+                               {QStringLiteral("levelDbfs"), -20.5},
+                               {QStringLiteral("peakDbfs"), -3.2},
+                               {QStringLiteral("clipped"), false},
+                               {QStringLiteral("silent"), false},
+                               {QStringLiteral("monoInStereo"), true},
+                               {QStringLiteral("answer"), QStringLiteral("yes")}};
+    QCOMPARE(parsed(record).value(QLatin1String("recording")).toObject(), expected);
+    record.recording = host::HeardRecording();
+    const QJsonObject unheard = parsed(record).value(QLatin1String("recording")).toObject();
+    for (const char *key : {"heardAtMs", "latencyMs", "answer"})
+        QVERIFY2(unheard.value(QLatin1String(key)).isNull(), key);
+    QVERIFY(unheard.value(QLatin1String("silent")).toBool());
+}
+
 void TestRunReport::tellsWhatIsNotKnownAsNull()
 {
     RunRecord record = playbackRecord();
@@ -122,17 +150,20 @@ void TestRunReport::tellsWhatIsNotKnownAsNull()
 void TestRunReport::namesEachVerdict_data()
 {
     QTest::addColumn<unsigned>("code");
+    QTest::addColumn<int>("told");
     QTest::addColumn<QString>("name");
-    QTest::newRow("0") << 0U << QStringLiteral("passed");
-    QTest::newRow("1") << 1U << QStringLiteral("failed");
-    QTest::newRow("3") << 3U << QStringLiteral("cannot be performed");
-    QTest::newRow("4") << 4U << QStringLiteral("not completed");
-    QTest::newRow("6") << 6U << QStringLiteral("invalid call");
+    QTest::newRow("0") << 0U << 0 << QStringLiteral("passed");
+    QTest::newRow("1") << 1U << 1 << QStringLiteral("failed");
+    QTest::newRow("3") << 3U << 3 << QStringLiteral("cannot be performed");
+    QTest::newRow("4") << 4U << 4 << QStringLiteral("not completed");
+    QTest::newRow("6") << 6U << 6 << QStringLiteral("invalid call");
+    QTest::newRow("5") << 5U << 4 << QStringLiteral("not completed"); // no module may return it
 }
 
 void TestRunReport::namesEachVerdict()
 {
     QFETCH(const unsigned, code);
+    QFETCH(const int, told);
     QFETCH(const QString, name);
     RunRecord record = playbackRecord();
     record.code = code;
@@ -140,30 +171,26 @@ void TestRunReport::namesEachVerdict()
     record.reason = QStringLiteral("listener lost");
     const QJsonObject report = parsed(record);
     const QJsonObject verdict = report.value(QLatin1String("verdict")).toObject();
-    QCOMPARE(verdict.value(QLatin1String("code")).toInt(), static_cast<int>(code));
+    QCOMPARE(verdict.value(QLatin1String("code")).toInt(), told);
     QCOMPARE(verdict.value(QLatin1String("name")).toString(), name);
     QCOMPARE(report.value(QLatin1String("moduleCode")).toInt(), 1);
     QVERIFY(!report.value(QLatin1String("stopped")).toBool());
     QCOMPARE(report.value(QLatin1String("reason")).toString(), QStringLiteral("listener lost"));
 }
 
-// The report says what the exit code says.
-void TestRunReport::tellsTheVerdictAndNotTheBareCode_data()
+void TestRunReport::isNeverAPassThatTheExitCodeDenies()
 {
-    QTest::addColumn<bool>("isStopped");
-    QTest::newRow("stopped by the user") << true;
-    QTest::newRow("passed in spite of an error") << false;
-}
-
-void TestRunReport::tellsTheVerdictAndNotTheBareCode()
-{
-    QFETCH(const bool, isStopped);
     RunRecord record = playbackRecord();
-    record.code = record.moduleCode = 0;
-    record.wasStopped = isStopped;
-    const QJsonObject report = parsed(record);
-    QCOMPARE(report.value(QLatin1String("verdict"))[QLatin1String("code")].toInt(), 4);
-    QCOMPARE(report.value(QLatin1String("stopped")).toBool(), isStopped);
+    record.code = 0;
+    QVERIFY(!record.messages.isEmpty()); // one that explains a failure
+    QCOMPARE(parsed(record).value(QLatin1String("verdict")).toObject().value(QLatin1String("code")).toInt(), 4);
+    record.messages.clear();
+    record.wasStopped = true;
+    const QJsonObject stopped = parsed(record);
+    QCOMPARE(stopped.value(QLatin1String("verdict")).toObject().value(QLatin1String("code")).toInt(), 4);
+    QVERIFY(stopped.value(QLatin1String("stopped")).toBool());
+    record.wasModuleCalled = false;
+    QVERIFY(parsed(record).value(QLatin1String("moduleCode")).isNull());
 }
 
 void TestRunReport::putsTheLimitsLast()
@@ -189,6 +216,11 @@ void TestRunReport::choosesTheLimits_data()
     QTest::newRow("monitor by its name") << QStringLiteral("p") << QStringLiteral("sink1.monitor") << server << room;
     QTest::newRow("microphone") << QStringLiteral("p") << QStringLiteral("Webcam") << room << server;
     QTest::newRow("attended") << QStringLiteral("p") << QString() << person << room;
+    QTest::newRow("microphone test at a monitor")
+        << QStringLiteral("m") << QStringLiteral("Monitor of X") << server << QStringLiteral("from another");
+    QTest::newRow("microphone test in a room")
+        << QStringLiteral("m") << QStringLiteral("Webcam") << QStringLiteral("from another") << server;
+    QTest::newRow("microphone test of a person") << QStringLiteral("m") << QString() << person << QStringLiteral("sentence");
     QTest::newRow("microphone test") << QStringLiteral("m") << QString() << QStringLiteral("One microphone") << server;
 }
 
@@ -206,6 +238,36 @@ void TestRunReport::choosesTheLimits()
     QVERIFY2(limits.contains(told), qPrintable(limits));
     QVERIFY2(!limits.contains(notTold), qPrintable(limits));
     QCOMPARE(limits.contains(QStringLiteral("full volume only")), letter == QLatin1String("p"));
+}
+
+void TestRunReport::tellsWhatSilenceCanMean_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<bool>("isHeard");
+    QTest::newRow("silent monitor") << QStringLiteral("Monitor of X") << false;
+    QTest::newRow("silent microphone") << QStringLiteral("Webcam") << false;
+    QTest::newRow("heard") << QStringLiteral("Monitor of X") << true;
+}
+
+void TestRunReport::tellsWhatSilenceCanMean()
+{
+    QFETCH(const QString, source);
+    QFETCH(const bool, isHeard);
+    RunRecord record = playbackRecord();
+    record.listenedTo = source;
+    record.digits = {missedDigit(), isHeard ? heardDigit() : missedDigit()};
+    const QString limits = host::runLimits(record).join(u'\n');
+    QCOMPARE(limits.contains(QStringLiteral("a source that is muted or hears another device")), !isHeard);
+    QCOMPARE(limits.contains(QStringLiteral("does not tell its true volumes")), !isHeard);
+}
+
+void TestRunReport::tellsThatTheClipsAreTheirOwnMeasure()
+{
+    const QString sentence = QStringLiteral("the very clips that were played");
+    QVERIFY(host::runLimits(playbackRecord()).join(u'\n').contains(sentence));
+    RunRecord attended = playbackRecord();
+    attended.isUnattended = false;
+    QVERIFY(!host::runLimits(attended).join(u'\n').contains(sentence));
 }
 
 void TestRunReport::writesTheWholeFile()
@@ -253,6 +315,13 @@ void TestRunReport::keepsToItsSchema_data()
     QTest::newRow("failed") << fullRecord();
     QTest::newRow("passed") << passed;
     QTest::newRow("nothing measurable") << unfinished;
+    QTest::newRow("microphone") << microphoneRecord();
+    RunRecord unasked = microphoneRecord();
+    unasked.recording = host::HeardRecording();
+    QTest::newRow("microphone unheard") << unasked;
+    RunRecord refused = playbackRecord();
+    refused.wasModuleCalled = false;
+    QTest::newRow("module not called") << refused;
 }
 
 void TestRunReport::keepsToItsSchema()
@@ -275,6 +344,8 @@ void TestRunReport::schemaRefusesWhatIsWrong_data()
                                                             {QStringLiteral("name"), QStringLiteral("passed")}});
     QTest::newRow("a digit beyond nine") << QStringLiteral("digits")
                                          << QJsonValue(QJsonArray{QJsonObject{{QStringLiteral("heard"), 10}}});
+    QTest::newRow("another answer") << QStringLiteral("recording")
+                                    << QJsonValue(QJsonObject{{QStringLiteral("answer"), QStringLiteral("perhaps")}});
     QTest::newRow("a text for a flag") << QStringLiteral("stopped") << QJsonValue(QStringLiteral("no"));
 }
 

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace host {
+
+enum class Loudness { silent, quiet, good, tooLoud };
+
+/// Silent below -50 dBFS RMS, quiet below -35, too loud where a sample reaches the end of the scale.
+Loudness loudnessOf(double rmsDbfs, double peakDbfs);
+
+/// Both levels and what they mean, in the language in force.
+QString levelWords(double rmsDbfs, double peakDbfs);
+
+/// Length and highest sample of a waveform of fifty pairs a second; empty for none.
+QString waveWords(const QList<double> &wave);
+
+} // namespace host

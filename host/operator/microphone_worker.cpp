@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/operator/microphone_worker.h"
+
+#include "host/operator/real_input.h"
+#include "host/operator/window_photographer.h"
+
+#include <QAbstractButton>
+#include <QEvent>
+#include <QScrollArea>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+constexpr auto choiceButton = "microphone_test_radio_button";
+constexpr auto nextButton = "microphone_test_next_button";
+constexpr auto recordButton = "microphone_test_record_button";
+constexpr auto playButton = "microphone_test_play_button";
+constexpr auto closeButton = "microphone_test_header_close";
+
+/// The listener tells a place up to 1.5 s after its end, and a sound server works a while behind.
+constexpr qint64 listenerDelayMs = 2'500;
+constexpr qint64 listenerLimitMs = 20'000;
+/// A page takes a press at once; a slow machine may take its time to show the next one.
+constexpr qint64 pageLimitMs = 20'000;
+/// The recording ends by itself after seven seconds, the playback of it after as many.
+constexpr qint64 jobLimitMs = 60'000;
+/// Opening a device of a sound server that does not answer takes 30 s.
+constexpr qint64 speakerLimitMs = 35'000;
+/// A press is repeated when it had no effect for that long.
+constexpr qint64 pressAgainMs = 2'000;
+/// The microphone is open by then: what is spoken before it is open is lost.
+constexpr qint64 speakAfterMs = 600;
+/// Channels hold the same when what is left of one without the other is that much quieter.
+constexpr double sameChannelsDb = 40.0;
+/// A channel holds nothing when it is that much quieter than the other.
+constexpr double silentChannelDb = 60.0;
+
+double powerOf(double decibels) { return std::pow(10.0, decibels / 10); }
+
+double decibelsOf(double power) { return power > 0 ? 10 * std::log10(power) : -120.0; }
+
+// A list that is longer than the dialog is scrolled, as a person would.
+void bringIntoView(QWidget *widget)
+{
+    for (QWidget *parent = widget->parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(parent))
+            area->ensureWidgetVisible(widget);
+    }
+}
+
+} // namespace
+
+MicrophoneWorker::MicrophoneWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, Speech speech)
+    : dialog_(dialog), log_(log), photographer_(photographer), speech_(std::move(speech)), stepStartMs_(steadyNowMs())
+{
+    dialog->installEventFilter(this);
+    watchPage(recordButton);
+    watchPage(playButton);
+    photographer_.take(dialog, QStringLiteral("microphone-choice"));
+}
+
+MicrophoneWorker::~MicrophoneWorker() = default;
+
+void MicrophoneWorker::watchPage(const char *name)
+{
+    if (auto *button = dialog_->findChild<QWidget *>(QLatin1String(name)))
+        button->installEventFilter(this);
+}
+
+void MicrophoneWorker::advance(bool isListenerLost)
+{
+    if (!dialog_ || !dialog_->isVisible())
+        return;
+    if (isListenerLost && step_ != Step::closing)
+        return close(QStringLiteral("listener lost"));
+    switch (step_) {
+    case Step::choosing:
+        return choose();
+    case Step::preparing:
+        return prepare();
+    case Step::pressing:
+        return pressRecord();
+    case Step::recording:
+        return speak();
+    case Step::playing:
+        return play();
+    case Step::repeating:
+        if (const QWidget *next = findShown(nextButton); next != nullptr && !next->isEnabled())
+            enter(Step::playing);
+        else if (inStepMs() > pageLimitMs)
+            close(QStringLiteral("the dialog did not play again"));
+        return;
+    case Step::judging:
+        return judge();
+    case Step::leaving:
+        return leave();
+    case Step::closing:
+        if (inStepMs() > pressAgainMs)
+            pressClose();
+        return;
+    }
+}
+
+void MicrophoneWorker::enter(Step step)
+{
+    step_ = step;
+    stepStartMs_ = steadyNowMs();
+    pressedMs_ = 0;
+}
+
+// The pages share names: only one of them is shown.
+QWidget *MicrophoneWorker::findShown(const char *name) const
+{
+    const QList<QWidget *> widgets = dialog_->findChildren<QWidget *>(QLatin1String(name));
+    const auto shown = std::find_if(widgets.begin(), widgets.end(), [](const QWidget *widget) { return widget->isVisible(); });
+    return shown == widgets.end() ? nullptr : *shown;
+}
+
+bool MicrophoneWorker::press(const char *name)
+{
+    if (pressedMs_ > 0 && steadyNowMs() - pressedMs_ < pressAgainMs)
+        return false;
+    if (!clickOn(findShown(name)))
+        return false;
+    pressedMs_ = steadyNowMs();
+    return true;
+}
+
+bool MicrophoneWorker::chooseMicrophone()
+{
+    QStringList names;
+    const QList<QAbstractButton *> choices = dialog_->findChildren<QAbstractButton *>(QLatin1String(choiceButton));
+    for (QAbstractButton *choice : choices) {
+        names.append(choice->text());
+        if (speech_.microphone.isEmpty() ? !choice->isChecked() : choice->text() != speech_.microphone)
+            continue;
+        speech_.microphone = choice->text();
+        if (choice->isChecked())
+            return true;
+        bringIntoView(choice);
+        clickOn(choice);
+        return false;
+    }
+    close(QStringLiteral("no microphone is named '%1' (there are: '%2')")
+              .arg(speech_.microphone, names.join(QStringLiteral("', '"))));
+    return false;
+}
+
+void MicrophoneWorker::choose()
+{
+    if (findShown(recordButton) != nullptr)
+        return enter(Step::preparing);
+    if (inStepMs() > pageLimitMs)
+        return close(QStringLiteral("the dialog did not take the microphone"));
+    if (chooseMicrophone())
+        press(nextButton);
+}
+
+void MicrophoneWorker::prepare()
+{
+    if (speaker_ == nullptr)
+        speaker_ = std::make_unique<SpeakerLink>(speech_.device, speech_.clip);
+    if (speaker_->hasFailed() || inStepMs() > speakerLimitMs)
+        return close(speaker_->errorText().isEmpty() ? QStringLiteral("the speech could not begin") : speaker_->errorText());
+    if (speaker_->isReady())
+        enter(Step::pressing);
+}
+
+void MicrophoneWorker::pressRecord()
+{
+    const QWidget *button = findShown(recordButton);
+    if (pressedMs_ > 0 && button != nullptr && !button->isEnabled())
+        return enter(Step::recording);
+    if (inStepMs() > pageLimitMs)
+        return close(QStringLiteral("the dialog did not record"));
+    if (press(recordButton))
+        recordPressedMs_ = pressedMs_;
+}
+
+void MicrophoneWorker::speak()
+{
+    if (!hasSpoken_ && steadyNowMs() - recordPressedMs_ >= speakAfterMs) {
+        hasSpoken_ = true;
+        speaker_->speak();
+    }
+    if (speaker_->hasFailed())
+        return close(speaker_->errorText());
+    if (playBeganMs_ > 0)
+        return enter(Step::playing);
+    if (inStepMs() > jobLimitMs)
+        close(QStringLiteral("the dialog did not end its recording"));
+}
+
+void MicrophoneWorker::play()
+{
+    const QWidget *next = findShown(nextButton);
+    if (next != nullptr && next->isEnabled()) {
+        playEndedMs_ = steadyNowMs();
+        photographer_.take(dialog_, QStringLiteral("microphone-played"));
+        return enter(Step::judging);
+    }
+    if (inStepMs() > jobLimitMs)
+        close(QStringLiteral("the dialog did not end its playback"));
+}
+
+// Before the dialog ends: the question that follows must have an answer.
+void MicrophoneWorker::judge()
+{
+    if (log_.listenedUpToMs() < playEndedMs_ + listenerDelayMs) {
+        if (inStepMs() > listenerLimitMs)
+            close(QStringLiteral("listener lost"));
+        return;
+    }
+    const HeardRecording heard = measured();
+    if (!heard.isFound && !heard.isSilent && !hasRepeated_)
+        return listenAgain();
+    heard_ = heard;
+    enter(Step::leaving);
+}
+
+// A busy machine may have torn the playback apart, as it would not a person's attention.
+void MicrophoneWorker::listenAgain()
+{
+    if (!press(playButton)) {
+        if (inStepMs() > listenerLimitMs)
+            close(QStringLiteral("the dialog did not play again"));
+        return;
+    }
+    hasRepeated_ = true;
+    playBeganMs_ = steadyNowMs();
+    enter(Step::repeating);
+}
+
+void MicrophoneWorker::leave()
+{
+    if (inStepMs() > pageLimitMs)
+        return close(QStringLiteral("the dialog did not go on"));
+    press(nextButton);
+}
+
+void MicrophoneWorker::close(const QString &reason)
+{
+    reason_ = reason;
+    heard_.reset();
+    enter(Step::closing);
+    pressClose();
+}
+
+void MicrophoneWorker::pressClose()
+{
+    stepStartMs_ = steadyNowMs();
+    clickOn(findShown(closeButton));
+}
+
+HeardRecording MicrophoneWorker::measured() const
+{
+    HeardRecording heard;
+    heard.microphone = speech_.microphone;
+    heard.spokenThrough = speech_.device;
+    heard.isSilent = log_.loudestBetween(playBeganMs_, playEndedMs_) < HeardLog::audibleDbfs;
+    measureLevels(heard);
+    const std::optional<HeardPlace> place = log_.bestPlaceBetween(playBeganMs_, playEndedMs_);
+    if (!place)
+        return heard;
+    heard.heardAtMs = place->startMs;
+    heard.score = place->score;
+    heard.isFound = place->isFound;
+    heard.levelDbfs = place->levelDbfs;
+    heard.isClipped = place->isClipped;
+    if (place->isFound)
+        heard.latencyMs = latencyTo(place->startMs);
+    return heard;
+}
+
+void MicrophoneWorker::measureLevels(HeardRecording &heard) const
+{
+    double left = 0;
+    double right = 0;
+    double difference = 0;
+    for (const MeteredMoment &moment : log_.momentsBetween(playBeganMs_, playEndedMs_)) {
+        heard.peakDbfs = std::max(heard.peakDbfs, moment.peakDbfs);
+        left += powerOf(moment.leftDbfs);
+        right += powerOf(moment.rightDbfs);
+        difference += powerOf(moment.differenceDbfs);
+    }
+    const double louder = std::max(left, right);
+    const bool isOneSilent = decibelsOf(louder) - decibelsOf(std::min(left, right)) > silentChannelDb;
+    heard.isMonoInStereo = !heard.isSilent && (isOneSilent || decibelsOf(louder) - decibelsOf(difference) > sameChannelsDb);
+}
+
+std::optional<double> MicrophoneWorker::latencyTo(qint64 startMs) const
+{
+    const std::optional<qint64> spokenMs = speaker_->startedMs();
+    if (!spokenMs)
+        return std::nullopt;
+    return static_cast<double>((startMs - playBeganMs_) - (*spokenMs - recordPressedMs_));
+}
+
+// The page that plays begins by itself when it is shown: a timer would see it too late.
+bool MicrophoneWorker::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isShow = event->type() == QEvent::Show && !event->spontaneous();
+    if (dialog_ && watched == dialog_ && event->type() == QEvent::Hide)
+        photographer_.take(dialog_, QStringLiteral("end"));
+    else if (isShow && watched->objectName() == QLatin1String(playButton) && playBeganMs_ == 0)
+        playBeganMs_ = steadyNowMs();
+    else if (isShow && watched->objectName() == QLatin1String(recordButton))
+        QMetaObject::invokeMethod(
+            this, [this] { photographer_.take(dialog_, QStringLiteral("microphone-record")); }, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace host

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/core/run_record.h"
+#include "host/operator/heard_log.h"
+#include "host/operator/speaker_link.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace host {
+
+class WindowPhotographer;
+
+/// What a microphone run speaks, and where.
+struct Speech {
+    QString microphone; ///< as the dialog names it; empty for the one that it has chosen
+    QString device;     ///< output that the microphone hears
+    QString clip;       ///< file
+};
+
+/// Asks for one repetition where something else was played back. Works one microphone dialog: chooses the microphone, has a
+/// sentence spoken while the dialog records, listens while the dialog plays the recording back, and goes on when it is over.
+/// Judges only what is heard during the playback: the listener heard the spoken sentence as well. Sees only what a person sees.
+class MicrophoneWorker : public QObject {
+    Q_OBJECT
+
+public:
+    MicrophoneWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, Speech speech);
+    ~MicrophoneWorker() override;
+
+    /// Does what is due. \param isListenerLost closes the dialog instead
+    void advance(bool isListenerLost);
+
+    bool works(const QWidget *dialog) const { return dialog_ == dialog; }
+    /// What was heard; nothing before the playback is over. Moments on the steady clock.
+    const std::optional<HeardRecording> &heard() const { return heard_; }
+    /// Where the playback lies on the steady clock; 0 where there was none.
+    qint64 playBeganMs() const { return playBeganMs_; }
+    qint64 playEndedMs() const { return playEndedMs_; }
+    /// Why it gave up; empty when it did not.
+    const QString &reason() const { return reason_; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    enum class Step { choosing, preparing, pressing, recording, playing, repeating, judging, leaving, closing };
+
+    void enter(Step step);
+    qint64 inStepMs() const { return steadyNowMs() - stepStartMs_; }
+    QWidget *findShown(const char *name) const;
+    bool press(const char *name);
+    void watchPage(const char *name);
+
+    void choose();
+    bool chooseMicrophone();
+    void prepare();
+    void pressRecord();
+    void speak();
+    void play();
+    void judge();
+    void listenAgain();
+    void leave();
+    void close(const QString &reason);
+    void pressClose();
+
+    HeardRecording measured() const;
+    void measureLevels(HeardRecording &heard) const;
+    std::optional<double> latencyTo(qint64 startMs) const;
+
+    QPointer<QWidget> dialog_;
+    const HeardLog &log_;
+    WindowPhotographer &photographer_;
+    Speech speech_;
+    std::unique_ptr<SpeakerLink> speaker_;
+
+    Step step_ = Step::choosing;
+    qint64 stepStartMs_ = 0;
+    qint64 pressedMs_ = 0;
+    qint64 recordPressedMs_ = 0;
+    bool hasSpoken_ = false;
+    bool hasRepeated_ = false;
+    qint64 playBeganMs_ = 0;
+    qint64 playEndedMs_ = 0;
+    std::optional<HeardRecording> heard_;
+    QString reason_;
+};
+
+} // namespace host

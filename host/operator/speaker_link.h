@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QProcess>
+#include <QString>
+
+#include <optional>
+
+namespace host {
+
+/// A process that speaks a clip through an output device, found beside the running executable. The device is opened first, so
+/// that the clip begins at once when it is asked for. GUI thread only.
+class SpeakerLink : public QObject {
+    Q_OBJECT
+
+public:
+    SpeakerLink(const QString &device, const QString &clip, QObject *parent = nullptr);
+    ~SpeakerLink() override; ///< ends it
+
+    bool isReady() const { return isReady_; }
+    /// It ended without having spoken; then `errorText()` says why.
+    bool hasFailed() const { return hasFailed_; }
+    const QString &errorText() const { return errorText_; }
+
+    void speak();
+    /// When it began, on the steady clock.
+    std::optional<qint64> startedMs() const { return startedMs_; }
+
+private:
+    void readLines();
+    void noteEnd();
+
+    QProcess process_;
+    bool isReady_ = false;
+    bool hasFailed_ = false;
+    bool hasFinished_ = false;
+    std::optional<qint64> startedMs_;
+    QString errorText_;
+};
+
+} // namespace host
