@@ -5,6 +5,7 @@
 #include "autotests/e2e/loss/call_watch.h"
 #include "autotests/e2e/loss/digit_person.h"
 #include "autotests/e2e/loss/findings.h"
+#include "autotests/e2e/loss/heartbeat.h"
 #include "autotests/e2e/loss/loss_plan.h"
 #include "autotests/e2e/loss/microphone_person.h"
 #include "autotests/e2e/loss/process_load.h"
@@ -44,6 +45,7 @@ constexpr long long pageLimitMs = 1000 + 1000;
 // A server that does not answer is waited for: twice when the volumes are put back.
 constexpr long long runLimitMs = answerLimitMs + 5000;
 constexpr int leftoverLimitMs = 8000;
+constexpr int hostsTime = 500; // ms
 constexpr std::chrono::milliseconds patience{1500}; // of a user before a dialog that stands still
 // A digit sounds for a second; the server wakes five seconds after it froze.
 constexpr long long frozenAtLeastMs = 3000;
@@ -67,7 +69,7 @@ QStringList linesLost(const std::string &before, const std::string &after)
     return lost;
 }
 
-bool waitUntil(const std::function<bool()> &isSo) { return QTest::qWaitFor(isSo, leftoverLimitMs); }
+bool waitUntil(const std::function<bool()> &isSo, int limitMs = leftoverLimitMs) { return QTest::qWaitFor(isSo, limitMs); }
 
 } // namespace
 
@@ -251,6 +253,10 @@ void LossCase::checkDevicesAfterwards()
 
 void LossCase::releaseWithLetGoWorker()
 {
+    // The host's own loop goes on.
+    Heartbeat heartbeat;
+    findings_.expect(!waitUntil([] { return audio::abandonedWorkerCount() == 0; }, hostsTime), QStringLiteral("no device hangs"));
+    findings_.expectAtMost(heartbeat.longestSilenceMs(), usuallyAtMostMs, "the time without an event in the host");
     const long long begin = nowMs();
     ReleaseModuleInterfaceInstance();
     findings_.expectEqual(call_watch::quitCount(), 0, "the number of shut-downs with a worker let go");
