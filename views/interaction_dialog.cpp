@@ -125,8 +125,6 @@ void InteractionDialog::goToNextWidget()
     // Before it is shown: the last page plays at once, and the list of devices is closed to this thread while a worker opens
     // one, for 30 s when the sound server does not answer.
     CheckMicrophoneConnection(next);
-    if (hasFinished())
-        return;
     checkedPage_ = next;
     pages->setCurrentIndex(next);
     checkedPage_ = noPage;

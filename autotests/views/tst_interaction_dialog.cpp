@@ -51,7 +51,7 @@ private slots:
     void handsOnTheChosenMicrophone();
     void withoutAMicrophoneItStaysUsable();
     void aMicrophoneThatIsGoneEndsIt();
-    void anOutputThatIsGoneEndsItAndStopsThePlayback();
+    void anOutputThatIsGoneEndsItBeforeThePlayback();
     void comparesNamesExactly();
     void otherPagesCheckNoDevice();
 };
@@ -344,14 +344,16 @@ void TestInteractionDialog::aMicrophoneThatIsGoneEndsIt()
     QVERIFY(!stage.dialog->isAborted());
 }
 
-void TestInteractionDialog::anOutputThatIsGoneEndsItAndStopsThePlayback()
+void TestInteractionDialog::anOutputThatIsGoneEndsItBeforeThePlayback()
 {
     Stage stage;
     const int result = stage.resultOf([&] {
         stage.goToRecordPage();
         stage.sound.outputs = {"Headphones"};
-        stage.dialog->goToNextWidget(); // the page starts to play before the dialog looks
+        stage.dialog->goToNextWidget();
     });
+    // The page plays as soon as it is shown, and a worker that opens a device would hold up the dialog's look.
+    QCOMPARE(stage.sound.openedCount.load(), 0);
     QCOMPARE(result, 5);
     QVERIFY(stage.dialog->isDeviceDisconnected());
     QVERIFY(stage.isQuiet());

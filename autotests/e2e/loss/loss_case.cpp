@@ -45,11 +45,11 @@ constexpr long long pageLimitMs = 1000 + 1000;
 // A server that does not answer is waited for: twice when the volumes are put back.
 constexpr long long runLimitMs = answerLimitMs + 5000;
 constexpr int leftoverLimitMs = 8000;
-constexpr int hostsTime = 500; // ms
+constexpr int hostsTime = 500;                      // ms
 constexpr std::chrono::milliseconds patience{1500}; // of a user before a dialog that stands still
 // A digit sounds for a second; the server wakes five seconds after it froze.
 constexpr long long frozenAtLeastMs = 3000;
-constexpr long long usuallyAtMostMs = 2900;
+constexpr long long usuallyAtMostMs = frozenAtLeastMs;
 
 template <typename Dialog>
 Dialog *shownDialog()
@@ -117,6 +117,7 @@ private:
     std::unique_ptr<DigitPerson> digitPerson_;
     std::vector<std::string> calls_;
     std::string levels_;
+    const int quitCount_ = call_watch::quitCount();
     std::uint32_t code_ = 99;
     long long closeMs_ = 0;
     long long runEndMs_ = 0;
@@ -151,7 +152,7 @@ void LossCase::closeWhenItStandsStill()
             return;
         timer->stop();
         closeMs_ = stillSince + patience.count();
-            microphonePerson_->close();
+        microphonePerson_->close();
     });
     timer->start(std::chrono::milliseconds(10));
 }
@@ -212,6 +213,8 @@ void LossCase::checkTold()
 // One cannot close its device; the next one cannot open its own where the whole server stands still.
 int LossCase::hangingDeviceCount() const
 {
+    if (plan_.harm == Harm::suspend && !process_load::waitsForSuspended())
+        return 0;
     const bool opensInVain = plan_.harm == Harm::freeze && plan_.job == Job::record && plan_.moment == Moment::late;
     return opensInVain ? 2 : 1;
 }
@@ -234,11 +237,14 @@ void LossCase::checkDigits()
     // A dialog that finds its device gone ends without a message; one that only had to wait is played to its end.
     findings_.expectEqual(code_, plan_.isLoss() ? 4U : 0U, "the code");
     checkMessages(false);
+    const bool isHeldUp = plan_.harm == Harm::freeze || (plan_.harm == Harm::suspend && process_load::waitsForSuspended());
+    const QString silence = QStringLiteral("the thread turned no event for %1 ms").arg(digitPerson_->longestSilenceMs());
+    // The digits sound on the dialog's own thread: it stands still for as long as the server does.
+    findings_.expect(isHeldUp == (digitPerson_->longestSilenceMs() > frozenAtLeastMs), silence);
     const long long since = digitPerson_->repeatedMs() != 0 ? digitPerson_->repeatedMs() : fault_.harmMs();
     if (plan_.isLoss()) {
         findings_.expectEqual(digitPerson_->repeatedMs() != 0, plan_.moment == Moment::late, "the repetition");
         findings_.expectAtMost(digitPerson_->endMs() - since, answerLimitMs, "the time until the dialog's end");
-        findings_.expectAtMost(digitPerson_->longestSilenceMs(), usuallyAtMostMs, "the time without an event");
     }
 }
 
@@ -265,11 +271,12 @@ void LossCase::releaseWithLetGoWorker()
 {
     // The host's own loop goes on.
     Heartbeat heartbeat;
-    findings_.expect(!waitUntil([] { return audio::abandonedWorkerCount() == 0; }, hostsTime), QStringLiteral("no device hangs"));
+    findings_.expect(!waitUntil([] { return audio::abandonedWorkerCount() == 0; }, hostsTime),
+                     QStringLiteral("no device hangs"));
     findings_.expectAtMost(heartbeat.longestSilenceMs(), usuallyAtMostMs, "the time without an event in the host");
     const long long begin = nowMs();
     ReleaseModuleInterfaceInstance();
-    findings_.expectEqual(call_watch::quitCount(), 0, "the number of shut-downs with a worker let go");
+    findings_.expectEqual(call_watch::quitCount(), quitCount_, "the number of shut-downs with a worker let go");
     findings_.expectAtMost(nowMs() - begin, answerLimitMs, "the time of the release");
     fault_.repair();
     findings_.expect(waitUntil([] { return audio::abandonedWorkerCount() == 0; }),
@@ -285,7 +292,7 @@ void LossCase::release()
     checkVolumes();
     checkDevicesAfterwards();
     ReleaseModuleInterfaceInstance();
-    findings_.expectEqual(call_watch::quitCount(), 1, "the number of shut-downs");
+    findings_.expectEqual(call_watch::quitCount(), quitCount_ + 1, "the number of shut-downs");
 }
 
 QString LossCase::times() const
@@ -333,6 +340,12 @@ bool LossCase::run()
 
 namespace {
 
+void useOnce()
+{
+    GetModuleInterfaceInstance()->componentManager()->refresh();
+    ReleaseModuleInterfaceInstance();
+}
+
 bool runCase(const LossPlan &plan, const QString &name)
 {
     QTemporaryDir folder;
@@ -341,6 +354,8 @@ bool runCase(const LossPlan &plan, const QString &name)
         return false;
     settings.close();
     QDir::setCurrent(folder.path());
+    if (process_load::keepsFirstUse())
+        useOnce();
     const int threadCount = process_load::threadCount();
     const int handleCount = process_load::handleCount();
     bool isGood = LossCase(plan, name).run();

@@ -19,6 +19,10 @@ int threadCount() { return entryCount("/proc/self/task"); }
 
 int handleCount() { return entryCount("/proc/self/fd"); }
 
+bool keepsFirstUse() { return false; }
+
+bool waitsForSuspended() { return true; }
+
 const char *shell() { return "/bin/sh"; }
 
 } // namespace process_load

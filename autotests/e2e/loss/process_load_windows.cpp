@@ -26,6 +26,10 @@ int handleCount()
     return static_cast<int>(count);
 }
 
+bool keepsFirstUse() { return true; }
+
+bool waitsForSuspended() { return false; }
+
 const char *shell() { return "Z:/bin/sh"; } // the tests run under Wine
 
 } // namespace process_load
