@@ -93,8 +93,11 @@ void InteractionDialog::connectJobSignals(QObject *page, const char *nextSlot)
 void InteractionDialog::stopJobs()
 {
     const QDeadlineTimer deadline(workerEndLimit); // one for both pages
-    recordAudio_->job().stop(deadline);
-    playAudio_->job().stop(deadline);
+    TimedJob *const jobs[] = {&recordAudio_->job(), &playAudio_->job()};
+    for (TimedJob *job : jobs)
+        job->requestStop(); // also to the second one before the first one takes all the time
+    for (TimedJob *job : jobs)
+        job->stop(deadline);
 }
 
 void InteractionDialog::Close() { done(dialog_result::closed); }
@@ -118,11 +121,19 @@ void InteractionDialog::Finish() { done(dialog_result::heard); }
 void InteractionDialog::goToNextWidget()
 {
     QStackedWidget *pages = ui_->microphone_test_popups_space;
-    pages->setCurrentIndex(pages->currentIndex() + 1);
+    const int next = pages->currentIndex() + 1;
+    // Before it is shown: the last page plays at once, and the list of devices is closed to this thread while a worker opens
+    // one, for 30 s when the sound server does not answer.
+    CheckMicrophoneConnection(next);
+    checkedPage_ = next;
+    pages->setCurrentIndex(next);
+    checkedPage_ = noPage;
 }
 
 void InteractionDialog::CheckMicrophoneConnection(int index)
 {
+    if (index == checkedPage_)
+        return;
     // By page, not by number: the form has placeholders before the real pages.
     const QWidget *page = ui_->microphone_test_popups_space->widget(index);
     const auto isGone = [](const QString &name, bool isCapture) {

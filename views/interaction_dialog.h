@@ -93,6 +93,8 @@ private:
     std::unique_ptr<HeaderDrag> drag_;
     bool isDeviceDisconnected_ = false;
     bool isAborted_ = false;
+    static constexpr int noPage = -1;
+    int checkedPage_ = noPage; ///< whose device is known to be there, while it comes up
     bool isReady_ = false; ///< constructed and not ended, so that events of the machine may close it
     bool isApplicationQuitting_ = false;
 };

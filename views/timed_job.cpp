@@ -29,6 +29,7 @@ TimedJob::~TimedJob() { stop(); }
 
 const audio::StopFlag &TimedJob::begin()
 {
+    letGo(); // of one that has reported and still closes its device
     isBusy_ = true;
     wasCancelledWhileBusy_ = false;
     elapsedSeconds_ = 0;
@@ -40,9 +41,10 @@ void TimedJob::wire(QObject &worker, const char *jobSlot, QThread &thread)
 {
     QObject::connect(&thread, SIGNAL(started()), &worker, jobSlot);
     QObject::connect(&worker, SIGNAL(SendResultStatus(int)), &page_, SLOT(set_result_status(int)));
-    // Directly: a worker that was left to itself must end without anybody's event loop.
-    QObject::connect(&worker, SIGNAL(SendResultStatus(int)), &thread, SLOT(quit()), Qt::DirectConnection);
     QObject::connect(&worker, SIGNAL(SendResultStatus(int)), &worker, SLOT(deleteLater()));
+    // Only when it has closed its device, which may take for ever: a thread that has begun to finish is waited for by its
+    // destructor, on this thread. Directly: a worker that was left to itself must end without anybody's event loop.
+    QObject::connect(&worker, SIGNAL(destroyed()), &thread, SLOT(quit()), Qt::DirectConnection);
     QObject::connect(&thread, SIGNAL(finished()), &thread, SLOT(deleteLater()));
 }
 
@@ -118,14 +120,19 @@ void TimedJob::stop(QDeadlineTimer deadline)
 {
     requestStop();
     const QPointer<QThread> thread = thread_;
-    thread_.clear();
     if (thread.isNull())
         return;
-    thread->quit();
-    if (thread->wait(deadline)) {
-        delete thread.data();
+    if (!thread->wait(deadline))
+        return letGo();
+    thread_.clear();
+    delete thread.data();
+}
+
+void TimedJob::letGo()
+{
+    if (thread_.isNull())
         return;
-    }
+    thread_.clear();
     audio::abandonWorker(stopFlag_);
     stopFlag_ = std::make_shared<std::atomic<bool>>(false);
 }

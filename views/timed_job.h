@@ -44,7 +44,7 @@ public:
     /// Begins a job: busy from now on, no second passed. Answers its own stop flag, for the worker that `start` is given.
     const audio::StopFlag &begin();
     /// Runs `jobSlot`, as SLOT() gives it, of `worker` on a new thread. The worker reports once by `SendResultStatus(int)`;
-    /// then it and the thread delete themselves.
+    /// then it closes its device, and it and the thread delete themselves.
     void start(std::unique_ptr<QObject> worker, const char *jobSlot);
     /// Keeps what the worker reported; the next tick acts on it.
     void report(int status) noexcept;
@@ -63,6 +63,7 @@ public:
 
 private:
     void wire(QObject &worker, const char *jobSlot, QThread &thread);
+    void letGo();
     Turn ending() const noexcept;
 
     QWidget &page_;

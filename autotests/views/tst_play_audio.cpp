@@ -14,6 +14,7 @@
 #include <QShowEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <memory>
@@ -101,6 +102,8 @@ private slots:
     void withoutARecordingItFails();
     void aDeviceThatCannotBeOpenedIsLost();
     void destructionStopsThePlayback();
+    void aDeviceThatHangsDoesNotHoldThePage();
+    void aSecondPlaybackLetsTheFirstOneGo();
     void noButtonIsADefaultOne();
     void screenReadersHearTheSeconds();
 };
@@ -362,6 +365,38 @@ void TestPlayAudio::destructionStopsThePlayback()
     stage.reset();
     QCOMPARE(sound.closedCount.load(), 1);
     QCOMPARE(audio::abandonedWorkerCount(), 0);
+}
+
+void TestPlayAudio::aDeviceThatHangsDoesNotHoldThePage()
+{
+    FakeSound sound;
+    sound.hangsOnClose = true;
+    Stage stage;
+    stage.play().click();
+    stage.tick(6);
+    QTRY_VERIFY_WITH_TIMEOUT(!stage.page.job().isBusy(), bound);
+    QTimer::singleShot(500, &stage.page,
+                       [&sound] { sound.hangsOnClose = false; }); // never, where the thread waits for the device
+    QTRY_VERIFY_WITH_TIMEOUT(!sound.hangsOnClose, bound);
+    stage.tick();
+    QVERIFY(named<QPushButton>(stage.page, "microphone_test_next_button")->isEnabled());
+}
+
+void TestPlayAudio::aSecondPlaybackLetsTheFirstOneGo()
+{
+    FakeSound sound;
+    sound.hangsOnClose = true;
+    Stage stage;
+    stage.play().click();
+    stage.tick(6);
+    QTRY_VERIFY_WITH_TIMEOUT(!stage.page.job().isBusy(), bound);
+    stage.tick();
+    QCOMPARE(audio::abandonedWorkerCount(), 0);
+    stage.play().click();
+    QCOMPARE(audio::abandonedWorkerCount(), 1);
+    sound.hangsOnClose = false;
+    QTRY_COMPARE_WITH_TIMEOUT(audio::abandonedWorkerCount(), 0, bound);
+    QVERIFY(stage.page.job().isBusy());
 }
 
 void TestPlayAudio::noButtonIsADefaultOne()

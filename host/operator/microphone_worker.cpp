@@ -31,6 +31,8 @@ constexpr qint64 pageLimitMs = 20'000;
 constexpr qint64 jobLimitMs = 60'000;
 /// Opening a device of a sound server that does not answer takes 30 s.
 constexpr qint64 speakerLimitMs = 35'000;
+/// A dialog ends some two seconds after it lost its device.
+constexpr qint64 ownEndLimitMs = 5'000;
 /// A press is repeated when it had no effect for that long.
 constexpr qint64 pressAgainMs = 2'000;
 /// The microphone is open by then: what is spoken before it is open is lost.
@@ -76,8 +78,8 @@ void MicrophoneWorker::advance(bool isListenerLost)
 {
     if (!dialog_ || !dialog_->isVisible())
         return;
-    if (isListenerLost && step_ != Step::closing)
-        return close(QStringLiteral("listener lost"));
+    if (isListenerLost && step_ != Step::lost && step_ != Step::closing)
+        return awaitItsOwnEnd(QStringLiteral("listener lost"));
     switch (step_) {
     case Step::choosing:
         return choose();
@@ -99,6 +101,10 @@ void MicrophoneWorker::advance(bool isListenerLost)
         return judge();
     case Step::leaving:
         return leave();
+    case Step::lost:
+        if (inStepMs() > ownEndLimitMs)
+            close(reason_);
+        return;
     case Step::closing:
         if (inStepMs() > pressAgainMs)
             pressClose();
@@ -189,7 +195,7 @@ void MicrophoneWorker::speak()
         speaker_->speak();
     }
     if (speaker_->hasFailed())
-        return close(speaker_->errorText());
+        return awaitItsOwnEnd(speaker_->errorText());
     if (playBeganMs_ > 0)
         return enter(Step::playing);
     if (inStepMs() > jobLimitMs)
@@ -241,6 +247,13 @@ void MicrophoneWorker::leave()
     if (inStepMs() > pageLimitMs)
         return close(QStringLiteral("the dialog did not go on"));
     press(nextButton);
+}
+
+// What took the listener away may have taken the dialog's device as well: only the dialog can tell.
+void MicrophoneWorker::awaitItsOwnEnd(const QString &reason)
+{
+    reason_ = reason;
+    enter(Step::lost);
 }
 
 void MicrophoneWorker::close(const QString &reason)

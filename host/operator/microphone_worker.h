@@ -34,7 +34,7 @@ public:
     MicrophoneWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, Speech speech);
     ~MicrophoneWorker() override;
 
-    /// Does what is due. \param isListenerLost closes the dialog instead
+    /// Does what is due. \param isListenerLost closes the dialog instead, unless it ends by itself
     void advance(bool isListenerLost);
 
     bool works(const QWidget *dialog) const { return dialog_ == dialog; }
@@ -50,7 +50,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    enum class Step { choosing, preparing, pressing, recording, playing, repeating, judging, leaving, closing };
+    enum class Step { choosing, preparing, pressing, recording, playing, repeating, judging, leaving, lost, closing };
 
     void enter(Step step);
     qint64 inStepMs() const { return steadyNowMs() - stepStartMs_; }
@@ -67,6 +67,7 @@ private:
     void judge();
     void listenAgain();
     void leave();
+    void awaitItsOwnEnd(const QString &reason);
     void close(const QString &reason);
     void pressClose();
 

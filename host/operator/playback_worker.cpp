@@ -33,6 +33,8 @@ constexpr qint64 waitLimitMs = 30'000;
 constexpr qint64 playLimitMs = 90'000;
 constexpr qint64 listenerLimitMs = 20'000;
 constexpr qint64 answerLimitMs = 10'000;
+/// A dialog ends some two seconds after it lost its device.
+constexpr qint64 ownEndLimitMs = 5'000;
 /// A press is repeated when it had no effect for that long.
 constexpr qint64 pressAgainMs = 2'000;
 /// The clocks of dialog and capture agree to a buffer or two.
@@ -74,8 +76,8 @@ void PlaybackWorker::advance(bool isListenerLost)
     if (!dialog_ || !dialog_->isVisible())
         return;
     noteMovie();
-    if (isListenerLost && step_ != Step::closing)
-        return close(QStringLiteral("listener lost"));
+    if (isListenerLost && step_ != Step::lost && step_ != Step::closing)
+        return awaitItsOwnEnd(QStringLiteral("listener lost"));
     if (sequence_ == 1 && step_ != Step::closing && isShown(secondMessage))
         return beginSecondSequence();
     switch (step_) {
@@ -89,6 +91,10 @@ void PlaybackWorker::advance(bool isListenerLost)
     case Step::answered:
         if (inStepMs() > answerLimitMs)
             close(QStringLiteral("the dialog did not take the answer"));
+        return;
+    case Step::lost:
+        if (inStepMs() > ownEndLimitMs)
+            close(reason_);
         return;
     case Step::closing:
         if (inStepMs() > pressAgainMs)
@@ -254,6 +260,13 @@ int PlaybackWorker::digitToType(int position) const
     while (answer_.contains(wrong))
         ++wrong;
     return wrong;
+}
+
+// What took the listener away may have taken the dialog's device as well: only the dialog can tell.
+void PlaybackWorker::awaitItsOwnEnd(const QString &reason)
+{
+    reason_ = reason;
+    enter(Step::lost);
 }
 
 void PlaybackWorker::close(const QString &reason)

@@ -28,7 +28,7 @@ public:
     PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences,
                    qint64 listenFromMs, const QStringList &endpoints);
 
-    /// Does what is due. \param isListenerLost closes the dialog instead
+    /// Does what is due. \param isListenerLost closes the dialog instead, unless it ends by itself
     void advance(bool isListenerLost);
 
     bool works(const QWidget *dialog) const { return dialog_ == dialog; }
@@ -41,7 +41,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    enum class Step { waiting, playing, deciding, typing, answered, closing };
+    enum class Step { waiting, playing, deciding, typing, answered, lost, closing };
 
     void enter(Step step);
     qint64 inStepMs() const { return steadyNowMs() - stepStartMs_; }
@@ -58,6 +58,7 @@ private:
     QString whyNotSilent() const;
     void type();
     void typeNext();
+    void awaitItsOwnEnd(const QString &reason);
     void close(const QString &reason);
     void pressClose();
 

@@ -310,7 +310,8 @@ void TestTestOperator::closesWhenTheListenerDies()
     StandInDialog dialog({{5, 6, 8}}, [&script](int) { script.end(1); });
     const RunRecord record = run(dialog, settings());
     QCOMPARE(dialog.outcome(), Outcome::closed);
-    QCOMPARE(dialog.playCount(), 0);
+    QVERIFY(dialog.playCount() <= 1); // it is given the time to end by itself, not to repeat
+    QVERIFY(dialog.typed().isEmpty());
     QCOMPARE(record.reason, QStringLiteral("listener lost"));
 }
 
