@@ -26,7 +26,7 @@ namespace {
 constexpr int threadEndLimit = 10000;             // ms
 constexpr std::chrono::milliseconds midJob{1300}; // a digit sounds, or the recorder has looked at its flag twice
 constexpr int closeLimit = 2600 + 1000;           // ms: looking at the flag, closing, and the digit that sounds
-constexpr int roundCount = 3;
+constexpr int roundCount = 2;
 
 // Found by name, as a host could: the test knows nothing of the module's classes.
 QWidget *openDialog()

@@ -22,13 +22,26 @@
 #include <QTest>
 #include <QTimer>
 
+#include <atomic>
+#include <utility>
+
 using namespace ostra;
 using page_probe::named;
 
 namespace {
 
-// A worker looks at its flag every 500 ms; closing took 0.3 s at most with this kind of server.
-constexpr int closeLimit = 600 + 2000; // ms
+// A worker looks at its flag every 500 ms; what the sound library takes to close is measured. The rest is for busy machines.
+constexpr int closeLimit = 600 + 1000; // ms
+std::atomic<qint64> closingTime = 0;   // ms
+decltype(audio::SdlApi::closeDevice) realClose = nullptr;
+
+void measureClose(SDL_AudioDeviceID id)
+{
+    QElapsedTimer timer;
+    timer.start();
+    realClose(id);
+    closingTime += timer.elapsed();
+}
 
 enum class Phase { choosing, recording, playing };
 enum class End { closeButton, escape, pageButton, event, program, windowManager, watcher, quit };
@@ -103,6 +116,7 @@ void TestCloseAnywhereSound::initTestCase()
 {
     audio::sdl().setEnvironment("SDL_AUDIODRIVER", audio::soundDriverName(), 1);
     QCOMPARE(audio::sdl().initSubSystem(SDL_INIT_AUDIO), 0);
+    realClose = std::exchange(audio::sdl().closeDevice, &measureClose);
 }
 
 void TestCloseAnywhereSound::cleanupTestCase()
@@ -157,6 +171,7 @@ void TestCloseAnywhereSound::leavesNothingBehind()
         begin(dialog, phase);
         QTimer::singleShot(moment, &dialog, [&] {
             streamCountAtEnd = sound_truth::openStreamCount();
+            closingTime = 0;
             sinceEnd.start();
             end(host, dialog, kind);
         });
@@ -173,14 +188,15 @@ void TestCloseAnywhereSound::leavesNothingBehind()
     const bool isPass = kind == End::program; // a program may close it
     QCOMPARE(code, isPass ? 0U : 4U);
     const int tickWait = kind == End::pageButton ? 1000 : 0; // the page waits for its next tick
-    QVERIFY2(took < closeLimit + tickWait, qPrintable(QString::number(took)));
+    QVERIFY2(took < closeLimit + tickWait + closingTime, qPrintable(QString::number(took)));
     QVERIFY(MicrophoneHost::dialog() == nullptr);
     QCOMPARE(audio::abandonedWorkerCount(), 0);
     if (sound_truth::canTell() && moment >= 150)
         QCOMPARE(streamCountAtEnd, streamCount + 1);
     QCOMPARE(sound_truth::openStreamCount(), streamCount);
     QCOMPARE(sound_truth::levels(), levels);
-    qInfo("ended in %lld ms", static_cast<long long>(took));
+    qInfo("ended in %lld ms, %lld of them in the sound library", static_cast<long long>(took),
+          static_cast<long long>(closingTime));
 }
 
 QTEST_MAIN(TestCloseAnywhereSound)
