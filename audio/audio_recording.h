@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 namespace ostra::audio {
 
@@ -22,6 +24,22 @@ struct AudioRecording {
 /// thread only after that report has arrived; one worker at a time.
 struct RecordingSlot {
     std::shared_ptr<AudioRecording> recording; ///< null until a first recording was made
+
+    /// On the worker's thread.
+    void store(std::shared_ptr<AudioRecording> newest) noexcept
+    {
+        recording = std::move(newest);
+        storedCount_.fetch_add(1, std::memory_order_release);
+    }
+    /// On the GUI thread: what was stored last.
+    std::shared_ptr<AudioRecording> stored() const noexcept
+    {
+        static_cast<void>(storedCount_.load(std::memory_order_acquire));
+        return recording;
+    }
+
+private:
+    std::atomic<unsigned> storedCount_ = 0; ///< hands the recording over by itself, whatever way the report takes
 };
 
 } // namespace ostra::audio

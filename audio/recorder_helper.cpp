@@ -33,7 +33,7 @@ int RecorderHelper::recordIntoSlot() noexcept
         std::shared_ptr<AudioRecording> recording = recorder_.record(deviceName_.toStdString(), seconds_);
         if (!recording)
             return worker_status::failed;
-        slot_->recording = std::move(recording);
+        slot_->store(std::move(recording));
         return worker_status::finished;
     });
 }

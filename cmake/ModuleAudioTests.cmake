@@ -6,6 +6,11 @@ set(MODULE_AUDIO_TEST_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen"
     "ASAN_OPTIONS=detect_leaks=1:abort_on_error=0"
     "UBSAN_OPTIONS=print_stacktrace=1")
+if(MODULE_AUDIO_THREAD_SANITIZE)
+    # Debian's Qt is not instrumented: what happens within it is not looked at.
+    list(APPEND MODULE_AUDIO_TEST_ENVIRONMENT
+        "TSAN_OPTIONS=ignore_noninstrumented_modules=1:second_deadlock_stack=1:halt_on_error=0:die_after_fork=0:exitcode=66:suppressions=${CMAKE_SOURCE_DIR}/autotests/support/tsan.supp:print_suppressions=0")
+endif()
 if(WIN32)
     # The libraries of the bundle find each other as they do beside the host's executable.
     list(APPEND MODULE_AUDIO_TEST_ENVIRONMENT "WINEPATH_FIRST=${MODULE_AUDIO_BUNDLE_DIR}")
@@ -14,6 +19,12 @@ endif()
 set(MODULE_AUDIO_SDL_LEAKS "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/autotests/support/lsan.supp:print_suppressions=0")
 # The same for whole programs with real windows.
 set(MODULE_AUDIO_HOST_LEAKS "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/autotests/support/lsan_host.supp:print_suppressions=0")
+
+# What the preset "linux-thread" builds: the programs of all tests with the label "thread".
+add_custom_target(thread_tests)
+function(ma_needs_threads program)
+    add_dependencies(thread_tests ${program})
+endfunction()
 
 # ma_add_test_command(<name> COMMAND ... [LABELS ...] [SOUND "<arguments of tools/virtual-sound-card run>"] [ENVIRONMENT ...]
 #                     [TIMEOUT s] [FOLDER dir] [SERIAL])
@@ -66,6 +77,9 @@ function(ma_add_test name)
     ma_test_program(${name} SOURCES ${A_SOURCES} WINDOWS ${A_WINDOWS} LINUX ${A_LINUX} USES ${A_USES} LINK Qt6::Test ${A_LINK}
         LINK_WINDOWS ${A_LINK_WINDOWS} LINK_LINUX ${A_LINK_LINUX} DEFINES ${A_DEFINES})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    if("thread" IN_LIST A_LABELS)
+        ma_needs_threads(${name})
+    endif()
     if(A_PROGRAM_ONLY)
         return()
     endif()

@@ -6,6 +6,7 @@
 #include "contract/sal.h"
 #include "ui_audio_playback_test_view.h"
 #include "utils/dpi.h"
+#include "utils/pace.h"
 #include "views/playback_form.h"
 #include "views/system_events.h"
 
@@ -63,8 +64,8 @@ AudioPlaybackTestView::AudioPlaybackTestView(QWidget *parent, QObject *eventFilt
     soundIndicator_.showIdle();
     drawNewSequence();
     playDelayTimer_.setSingleShot(true);
-    playDelayTimer_.start(playDelay);
-    systemEventTimer_.start(systemEventInterval);
+    playDelayTimer_.start(utils::paced(playDelay));
+    systemEventTimer_.start(utils::paced(systemEventInterval));
 }
 
 AudioPlaybackTestView::~AudioPlaybackTestView()
@@ -117,7 +118,7 @@ void AudioPlaybackTestView::startSecondSequence()
     playback_form::showSecondSequence(*ui_, dpi != nullptr && dpi->dpiStep() > widestUnwrappedDpi);
     clipIndex_ = 0;
     isReadyToPlay_ = true;
-    playDelayTimer_.start(playDelay);
+    playDelayTimer_.start(utils::paced(playDelay));
 }
 
 void AudioPlaybackTestView::type(int digit)
@@ -222,7 +223,7 @@ void AudioPlaybackTestView::CheckAudioIsPlaying()
     ++clipIndex_;
     isReadyToPlay_ = true;
     playbackStepTimer_.stop();
-    playDelayTimer_.start(playDelay);
+    playDelayTimer_.start(utils::paced(playDelay));
 }
 
 void AudioPlaybackTestView::CheckSystemEventAbortion()

@@ -3,6 +3,7 @@
 
 #include "audio/audio_devices.h"
 #include "utils/dpi.h"
+#include "utils/pace.h"
 #include "views/microphone_form.h"
 #include "views/play_audio.h"
 #include "views/record_audio.h"
@@ -31,7 +32,7 @@ InteractionDialog::InteractionDialog(const QString &outputDeviceName, QWidget *p
       recordAudio_(new RecordAudio(recording_)), playAudio_(new PlayAudio(recording_, outputDeviceName)), events_(events)
 {
     connect(&systemEventTimer_, &QTimer::timeout, this, &InteractionDialog::CheckSystemEvent);
-    systemEventTimer_.start(systemEventInterval);
+    systemEventTimer_.start(utils::paced(systemEventInterval));
     ui_ = formOf<Ui::InteractionDialog>(*this);
     prepareHeader();
     prepareWindow();

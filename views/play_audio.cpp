@@ -28,7 +28,11 @@ PlayAudio::PlayAudio(std::shared_ptr<audio::RecordingSlot> recording, QString de
 
 PlayAudio::~PlayAudio() = default;
 
-int PlayAudio::limitSeconds() const { return recording_->recording ? recording_->recording->seconds : 0; }
+int PlayAudio::limitSeconds() const
+{
+    const std::shared_ptr<audio::AudioRecording> recording = recording_->stored();
+    return recording ? recording->seconds : 0;
+}
 
 void PlayAudio::enableButtons(bool isEnabled)
 {
@@ -51,7 +55,7 @@ void PlayAudio::OnBtnPlayClicked()
     if (job_.isBusy())
         return;
     enableButtons(false);
-    job_.start(std::make_unique<audio::PlayerHelper>(recording_->recording, job_.begin(), deviceName_), SLOT(PlayAudio()));
+    job_.start(std::make_unique<audio::PlayerHelper>(recording_->stored(), job_.begin(), deviceName_), SLOT(PlayAudio()));
 }
 
 void PlayAudio::OnTimerTick()

@@ -3,6 +3,7 @@
 
 #include "audio/abandoned_workers.h"
 #include "audio/worker_status.h"
+#include "utils/pace.h"
 
 #include <QLCDNumber>
 #include <QString>
@@ -15,7 +16,7 @@ namespace ostra {
 
 namespace {
 
-constexpr std::chrono::milliseconds tickInterval{1000};
+constexpr std::chrono::seconds tickInterval{1};
 
 } // namespace
 
@@ -54,7 +55,7 @@ void TimedJob::start(std::unique_ptr<QObject> worker, const char *jobSlot)
     worker->moveToThread(thread.get());
     wire(*worker, jobSlot, *thread);
     thread->start(QThread::InheritPriority);
-    timer_.start(tickInterval);
+    timer_.start(utils::paced(tickInterval));
     if (!thread->isRunning() && !thread->isFinished()) {
         report(audio::worker_status::failed); // the system has no thread left
         return;
@@ -83,7 +84,7 @@ TimedJob::Turn TimedJob::ending() const noexcept
 
 TimedJob::Turn TimedJob::tick(int limitSeconds)
 {
-    elapsedSeconds_ += timer_.interval() / 1000;
+    elapsedSeconds_ += static_cast<int>(tickInterval.count());
     if (isBusy_) {
         if (elapsedSeconds_ > limitSeconds)
             stopFlag_->exchange(false);

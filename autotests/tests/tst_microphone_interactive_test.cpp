@@ -12,6 +12,8 @@
 #include <QObject>
 #include <QTest>
 
+#include <atomic>
+#include <future>
 #include <memory>
 #include <thread>
 
@@ -333,8 +335,14 @@ void TestMicrophoneInteractiveTest::runsOnAnotherThread()
             }
             void requestInput(InputRequest *request) override
             {
-                QMetaObject::invokeMethod(
-                    qApp, [this, request] { host_.reporter()->requestInput(request); }, Qt::BlockingQueuedConnection);
+                // Qt's own blocking call hands over by a semaphore that ThreadSanitizer does not see.
+                std::promise<void> shown;
+                const auto show = [&] {
+                    host_.reporter()->requestInput(request);
+                    shown.set_value();
+                };
+                QMetaObject::invokeMethod(qApp, show, Qt::QueuedConnection);
+                shown.get_future().wait();
             }
             void reserved3() override {}
             bool canReceiveInput() override { return host_.reporter()->canReceiveInput(); }

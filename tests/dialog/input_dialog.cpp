@@ -2,6 +2,7 @@
 #include "tests/dialog/input_dialog.h"
 
 #include "contract/test_context.h"
+#include "utils/pace.h"
 
 #include <QDebug>
 #include <QEventLoop>
@@ -70,7 +71,7 @@ int InputDialog::runLoop()
     if (!hasFinished_)
         show();
     qDebug().nospace() << "Before loop: " << result();
-    timer.start(watcherInterval);
+    timer.start(utils::paced(watcherInterval));
     if (!hasFinished_)
         loop.exec();
     if (self)
