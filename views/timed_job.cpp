@@ -5,6 +5,8 @@
 #include "audio/worker_status.h"
 #include "utils/pace.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLCDNumber>
 #include <QString>
 #include <QThread>
@@ -17,6 +19,17 @@ namespace ostra {
 namespace {
 
 constexpr std::chrono::seconds tickInterval{1};
+
+/// Deletes its worker while it still runs. The worker closes its device then, which may take for ever, and a thread that has
+/// begun to finish is waited for by its destructor, on the GUI thread.
+class JobThread final : public QThread {
+protected:
+    void run() override
+    {
+        exec();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+};
 
 } // namespace
 
@@ -42,16 +55,15 @@ void TimedJob::wire(QObject &worker, const char *jobSlot, QThread &thread)
 {
     QObject::connect(&thread, SIGNAL(started()), &worker, jobSlot);
     QObject::connect(&worker, SIGNAL(SendResultStatus(int)), &page_, SLOT(set_result_status(int)));
+    // Directly: a worker that was left to itself must end without anybody's event loop.
+    QObject::connect(&worker, SIGNAL(SendResultStatus(int)), &thread, SLOT(quit()), Qt::DirectConnection);
     QObject::connect(&worker, SIGNAL(SendResultStatus(int)), &worker, SLOT(deleteLater()));
-    // Only when it has closed its device, which may take for ever: a thread that has begun to finish is waited for by its
-    // destructor, on this thread. Directly: a worker that was left to itself must end without anybody's event loop.
-    QObject::connect(&worker, SIGNAL(destroyed()), &thread, SLOT(quit()), Qt::DirectConnection);
     QObject::connect(&thread, SIGNAL(finished()), &thread, SLOT(deleteLater()));
 }
 
 void TimedJob::start(std::unique_ptr<QObject> worker, const char *jobSlot)
 {
-    auto thread = std::make_unique<QThread>(); // no parent: it may have to outlive the page
+    auto thread = std::make_unique<JobThread>(); // no parent: it may have to outlive the page
     worker->moveToThread(thread.get());
     wire(*worker, jobSlot, *thread);
     thread->start(QThread::InheritPriority);
