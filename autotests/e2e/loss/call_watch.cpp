@@ -27,6 +27,7 @@ struct Notes {
     int openCount = 0;
     int startCount = 0;
     int quitCount = 0;
+    bool hasStopped = false; ///< some device, and the module has seen it
     std::vector<int> digits;
     std::function<void(int)> onStart;
 };
@@ -114,6 +115,14 @@ void pauseDevice(SDL_AudioDeviceID id, int isPaused)
         told(count);
 }
 
+SDL_AudioStatus deviceStatus(SDL_AudioDeviceID id)
+{
+    const SDL_AudioStatus status = real().deviceStatus(id);
+    const std::lock_guard lock(notes().mutex);
+    notes().hasStopped = notes().hasStopped || (status == SDL_AUDIO_STOPPED && notes().running.count(id) > 0);
+    return status;
+}
+
 SDL_RWops *streamFromFile(const char *path, const char *mode)
 {
     const std::string text = path;
@@ -144,6 +153,7 @@ void install()
     api.openDevice = &openDevice;
     api.closeDevice = &closeDevice;
     api.pauseDevice = &pauseDevice;
+    api.deviceStatus = &deviceStatus;
     api.streamFromFile = &streamFromFile;
     api.quit = &quit;
 }
@@ -179,7 +189,7 @@ bool isSomeDeviceStopped()
         if (real().deviceStatus(id) == SDL_AUDIO_STOPPED)
             return true;
     }
-    return false;
+    return notes().hasStopped;
 }
 
 int quitCount()

@@ -22,7 +22,7 @@ std::string callsInProgress();
 
 /// Devices that were opened and whose closing has not ended.
 int openDeviceCount();
-/// Whether the sound library has stopped a device that nobody has begun to close.
+/// Whether the sound library has stopped a device before anybody began to close it.
 bool isSomeDeviceStopped();
 /// Calls that shut the sound library down.
 int quitCount();

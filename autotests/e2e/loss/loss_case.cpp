@@ -181,7 +181,8 @@ void LossCase::runTest()
     call_watch::forgetDigits();
     code_ = module_->diagnosticAt(0)->testAt(isDigits() ? 0 : 1)->run(&context);
     runEndMs_ = nowMs();
-    findings_.note(QStringLiteral("hanging calls: ") + QString::fromStdString(call_watch::callsInProgress()));
+    if (const std::string calls = call_watch::callsInProgress(); !calls.empty())
+        findings_.note(QStringLiteral("hanging calls: ") + QString::fromStdString(calls));
     calls_ = context.calls;
     letGoCount_ = audio::abandonedWorkerCount();
 }
