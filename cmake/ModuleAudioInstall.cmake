@@ -24,4 +24,4 @@ if(WIN32)
 endif()
 
 include(ModuleAudioSdk)
-ma_install_sdk(bundle INCLUDE_DIR include/module_audio MODULE_DIR . CONFIG_DIR lib/cmake/module_audio)
+ma_install_sdk(bundle INCLUDE_DIR include/module_audio MODULE_DIR . CONFIG_DIR lib/cmake/module_audio OPTIONS COMPONENT sdk)
