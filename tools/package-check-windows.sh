@@ -80,7 +80,7 @@ check_packages() {
     wineserver --wait # it goes on by a copy of itself
     after=$(prefix_files)
     # The folder of the user's own settings is all that may stay.
-    diff <(printf '%s\n' "$before") <(printf '%s\n' "$after") | sed -n 's/^> //p' |
-        grep -v '/AppData/Local\(/Tamrex\|$\)' >"$log" && fail "the uninstaller left files"
+    added "$before" "$after" | grep -v '/AppData/Local\(/Tamrex\|$\)' >"$log" || true
+    [ ! -s "$log" ] || fail "the uninstaller left files"
     [ "$(registry || true)" = "$registered" ] || fail "the uninstaller left entries in the registry: $(registry)"
 }
