@@ -1,26 +1,32 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/cli/command_line.h"
 
+#include "host/cli/option_table.h"
+
 #include <QCommandLineOption>
 #include <QCommandLineParser>
 
 #include <algorithm>
+#include <array>
 
 namespace host {
 
 namespace {
 
-const QString help = QStringLiteral("help");
-const QString version = QStringLiteral("version");
-const QString json = QStringLiteral("json");
-const QString config = QStringLiteral("config");
+using Result = std::variant<CommandLine, UsageError>;
+
+UsageError error(const QString &reason) { return {reason + QStringLiteral(" (try --help)")}; }
+
+QString nameOf(const OptionRow &option) { return QLatin1String(option.name); }
 
 void addOptions(QCommandLineParser &parser)
 {
-    parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), help}));
-    parser.addOption(QCommandLineOption(version));
-    parser.addOption(QCommandLineOption(json));
-    parser.addOption(QCommandLineOption(config, {}, QStringLiteral("DIR")));
+    for (const OptionRow &row : optionRows()) {
+        QStringList names{nameOf(row)};
+        if (row.letter != nullptr)
+            names.prepend(QLatin1String(row.letter));
+        parser.addOption(QCommandLineOption(names, {}, QLatin1String(row.value)));
+    }
 }
 
 // The parser gives the bare name: "x" stands for "-x", one of "-vx", "--x" and "--x=1".
@@ -37,40 +43,109 @@ UsageError parserError(const QCommandLineParser &parser, const QStringList &argu
 {
     const QStringList unknown = parser.unknownOptionNames();
     if (!unknown.isEmpty())
-        return {QStringLiteral("unknown option '%1' (try --help)").arg(optionText(unknown.first(), arguments))};
+        return error(QStringLiteral("unknown option '%1'").arg(optionText(unknown.first(), arguments)));
     QString reason = parser.errorText();
     if (reason.endsWith(u'.'))
         reason.chop(1);
-    return {QStringLiteral("%1 (try --help)").arg(reason.replace(0, 1, reason.first(1).toLower()))};
+    return error(reason.replace(0, 1, reason.first(1).toLower()));
 }
 
 Command commandNamed(const QString &name)
 {
-    if (name == QLatin1String("list"))
-        return Command::list;
-    return name == QLatin1String("info") ? Command::info : Command::none;
+    constexpr std::array<std::pair<const char *, Command>, 5> names{{{"list", Command::list},
+                                                                     {"info", Command::info},
+                                                                     {"run", Command::run},
+                                                                     {"report", Command::report},
+                                                                     {"clips", Command::clips}}};
+    const auto found =
+        std::find_if(names.begin(), names.end(), [&name](const auto &entry) { return name == QLatin1String(entry.first); });
+    return found == names.end() ? Command::none : found->second;
 }
 
-std::variant<CommandLine, UsageError> readCommand(const QCommandLineParser &parser)
+// One of the options that answer at once, by their own order and not by that of the arguments.
+std::optional<CommandLine> answerAtOnce(const QCommandLineParser &parser)
+{
+    constexpr std::array<std::pair<const char *, Command>, 4> answers{{{"help", Command::help},
+                                                                       {"version", Command::version},
+                                                                       {"print-manual", Command::manual},
+                                                                       {"print-completion", Command::completion}}};
+    for (const auto &[option, command] : answers) {
+        if (!parser.isSet(QLatin1String(option)))
+            continue;
+        CommandLine line;
+        line.command = command;
+        const QString topic = parser.positionalArguments().value(0);
+        line.topic = findCommand(topic) != nullptr ? topic : QString();
+        return line;
+    }
+    return std::nullopt;
+}
+
+std::optional<UsageError> checkArguments(const CommandRow &command, const QStringList &words)
+{
+    const qsizetype count = command.arguments == nullptr ? 1 : 2;
+    if (words.size() > count)
+        return error(QStringLiteral("unexpected argument '%1'").arg(words.at(count)));
+    if (words.size() < count)
+        return error(
+            QStringLiteral("'%1' needs its argument: %2").arg(QLatin1String(command.name), QLatin1String(command.arguments)));
+    const QStringList known = wordsOf(command.words);
+    if (!known.isEmpty() && !known.contains(words.at(1)))
+        return error(QStringLiteral("'%1' does not know '%2'").arg(QLatin1String(command.name), words.at(1)));
+    return std::nullopt;
+}
+
+std::optional<UsageError> checkOption(const CommandRow &command, const OptionRow &option, const QStringList &values)
+{
+    if (!takesOption(command, option))
+        return error(QStringLiteral("'--%1' does not go with '%2'").arg(nameOf(option), QLatin1String(command.name)));
+    const QStringList known = wordsOf(option.words);
+    for (const QString &value : values) {
+        if (!known.isEmpty() && !known.contains(value))
+            return error(QStringLiteral("'--%1' does not know '%2' (known: %3)")
+                             .arg(nameOf(option), value, known.join(QStringLiteral(", "))));
+    }
+    return std::nullopt;
+}
+
+Result readOptions(const QCommandLineParser &parser, const CommandRow &command, CommandLine line)
+{
+    for (const OptionRow &option : optionRows()) {
+        if (!parser.isSet(nameOf(option)))
+            continue;
+        const QStringList values = parser.values(nameOf(option));
+        if (const auto wrong = checkOption(command, option, values))
+            return *wrong;
+        line.switches.insert(nameOf(option));
+        if (option.value != nullptr)
+            line.values.insert(nameOf(option), values);
+    }
+    line.isJson = line.isSet("json");
+    line.isGnuExit = line.isSet("gnu-exit");
+    if (line.isSet("config"))
+        line.configFolder = line.last("config");
+    return line;
+}
+
+Result readCommand(const QCommandLineParser &parser)
 {
     const QStringList words = parser.positionalArguments();
-    CommandLine line{words.isEmpty() ? Command::none : commandNamed(words.first()), parser.isSet(json), {}};
     if (words.isEmpty())
-        return UsageError{QStringLiteral("no command is given (try --help)")};
-    if (line.command == Command::none)
-        return UsageError{QStringLiteral("unknown command '%1' (try --help)").arg(words.first())};
-    if (words.size() > 1)
-        return UsageError{QStringLiteral("unexpected argument '%1' (try --help)").arg(words.at(1))};
-    if (parser.isSet(config) && line.command != Command::list)
-        return UsageError{QStringLiteral("'--config' goes with 'list' only (try --help)")};
-    if (parser.isSet(config))
-        line.configFolder = parser.value(config);
-    return line;
+        return error(QStringLiteral("no command is given"));
+    const CommandRow *command = findCommand(words.first());
+    if (command == nullptr)
+        return error(QStringLiteral("unknown command '%1'").arg(words.first()));
+    if (const auto wrong = checkArguments(*command, words))
+        return *wrong;
+    CommandLine line;
+    line.command = commandNamed(words.first());
+    line.file = words.value(1);
+    return readOptions(parser, *command, line);
 }
 
 } // namespace
 
-std::variant<CommandLine, UsageError> parseCommandLine(const QStringList &arguments)
+Result parseCommandLine(const QStringList &arguments)
 {
     if (arguments.size() < 2)
         return CommandLine{};
@@ -78,10 +153,8 @@ std::variant<CommandLine, UsageError> parseCommandLine(const QStringList &argume
     addOptions(parser);
     if (!parser.parse(arguments))
         return parserError(parser, arguments);
-    if (parser.isSet(help))
-        return CommandLine{Command::help, false, {}};
-    if (parser.isSet(version))
-        return CommandLine{Command::version, false, {}};
+    if (const auto answer = answerAtOnce(parser))
+        return *answer;
     return readCommand(parser);
 }
 

@@ -7,7 +7,12 @@ namespace host {
 
 /// The first lines of the help, with a pointer to the rest.
 QString usageText();
-/// All that --help prints: commands, options, examples and exit codes.
-QString helpText();
+/// All that --help prints: commands, options, examples and exit codes; of one command when `topic` names it.
+QString helpText(const QString &topic = QString());
+
+/// The manual page, section 1, as troff.
+QString manualPage();
+/// The completion for the shell bash.
+QString bashCompletion();
 
 } // namespace host

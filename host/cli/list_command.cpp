@@ -7,6 +7,7 @@
 #include "host/cli/text_table.h"
 #include "host/core/device_list.h"
 #include "host/core/module_library.h"
+#include "host/precheck/virtual_devices.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -38,9 +39,10 @@ QJsonArray jsonProperties(const Device &device)
     return properties;
 }
 
-QJsonObject jsonDevice(qsizetype number, const Device &device)
+QJsonObject jsonDevice(qsizetype number, const Device &device, bool isVirtual)
 {
     return {{QLatin1String("number"), number},
+            {QLatin1String("virtual"), isVirtual},
             {QLatin1String("name"), device.name},
             {QLatin1String("id"), device.id},
             {QLatin1String("numberOfChannels"), jsonNumber(device.property(numberOfChannels))},
@@ -52,27 +54,31 @@ QJsonObject jsonDevice(qsizetype number, const Device &device)
 
 void printDocument(const ModuleLibrary &library, const QList<Device> &devices, Console &console)
 {
+    const VirtualDevices virtualDevices = readVirtualDevices();
     QJsonArray list;
     for (qsizetype number = 0; number < devices.size(); ++number)
-        list.append(jsonDevice(number, devices[number]));
+        list.append(jsonDevice(number, devices[number], virtualDevices.contains(devices[number].name)));
     printJson(console, {{QLatin1String("productVersion"), library.productVersion()}, {QLatin1String("devices"), list}});
 }
 
-QStringList tableRow(qsizetype number, const Device &device)
+QStringList tableRow(qsizetype number, const Device &device, bool isVirtual)
 {
     QStringList row{QString::number(number), device.name};
     for (const char *key : {numberOfChannels, sampleRate, driverName, driverVersion})
         row.append(device.property(key).value_or(QString()));
+    row.append(isVirtual ? QStringLiteral("yes") : QStringLiteral("no"));
     return row;
 }
 
 void printTable(const QList<Device> &devices, Console &console)
 {
+    const VirtualDevices virtualDevices = readVirtualDevices();
     QList<QStringList> rows;
     for (qsizetype number = 0; number < devices.size(); ++number)
-        rows.append(tableRow(number, devices[number]));
+        rows.append(tableRow(number, devices[number], virtualDevices.contains(devices[number].name)));
     const QStringList header{QStringLiteral("No"),          QStringLiteral("Device"), QStringLiteral("Channels"),
-                             QStringLiteral("Sample rate"), QStringLiteral("Driver"), QStringLiteral("Driver version")};
+                             QStringLiteral("Sample rate"), QStringLiteral("Driver"), QStringLiteral("Driver version"),
+                             QStringLiteral("Virtual")};
     console.print(textTable(header, rows, console.isStyled() ? TableStyle::boldHeader : TableStyle::plain));
 }
 

@@ -8,10 +8,10 @@ int main(int argc, char *argv[])
 {
     host::Console console;
     const QCoreApplication application(argc, argv);
-    host::ExitCode code = host::runProgram(QCoreApplication::arguments(), console);
+    host::ProgramEnd end = host::runProgram(QCoreApplication::arguments(), console);
     if (!console.flush()) {
         console.complain(QStringLiteral("the output could not be written"));
-        code = code == host::ExitCode::success ? host::ExitCode::notCompleted : code;
+        end.code = end.code == host::ExitCode::success ? host::ExitCode::notCompleted : end.code;
     }
-    return static_cast<int>(code);
+    return end.isGnuExit ? host::gnuCodeOf(end.code) : static_cast<int>(end.code);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/cli/program.h"
 
+#include "host/cli/clips_command.h"
 #include "host/cli/command_line.h"
 #include "host/cli/console.h"
 #include "host/cli/help_text.h"
@@ -8,6 +9,9 @@
 #include "host/cli/json_output.h"
 #include "host/cli/list_command.h"
 #include "host/cli/maudio_command.h"
+#include "host/cli/report_command.h"
+#include "host/cli/run_command.h"
+#include "host/cli/self_check.h"
 #include "host/core/module_library.h"
 
 #include <QDir>
@@ -47,45 +51,81 @@ ExitCode runModuleOption(const QStringList &arguments, Console &console)
                       [&](const ModuleLibrary &library) { return runMaudio(library, arguments.mid(2), console); });
 }
 
-ExitCode runCommand(const CommandLine &line, Console &console)
+ExitCode runModuleCommand(const CommandLine &line, Console &console)
 {
-    if (line.configFolder && !(QFileInfo(*line.configFolder).isDir() && QDir::setCurrent(*line.configFolder)))
-        return refuse(QStringLiteral("'%1' is not a folder that can be used (--config)").arg(*line.configFolder), console);
     return withModule(line.isJson, console, [&](const ModuleLibrary &library) {
         return line.command == Command::list ? runList(library, line.isJson, console) : runInfo(library, line.isJson, console);
     });
+}
+
+ExitCode runVersionCommand(Console &console)
+{
+    ModuleLibrary library;
+    return runVersion(library, console);
+}
+
+ExitCode explainUsage(Console &console)
+{
+    console.explain(usageText());
+    return ExitCode::usage;
+}
+
+ExitCode print(const QString &text, Console &console)
+{
+    console.print(text);
+    return ExitCode::success;
 }
 
 ExitCode runOrdinary(const CommandLine &line, Console &console)
 {
     switch (line.command) {
     case Command::none:
-        console.explain(usageText());
-        return ExitCode::usage;
+        return explainUsage(console);
     case Command::help:
-        console.print(helpText());
-        return ExitCode::success;
-    case Command::version: {
-        ModuleLibrary library;
-        return runVersion(library, console);
-    }
-    case Command::list:
+        return print(helpText(line.topic), console);
+    case Command::version:
+        return runVersionCommand(console);
+    case Command::manual:
+        return print(manualPage(), console);
+    case Command::completion:
+        return print(bashCompletion(), console);
+    case Command::report:
+        return convertReports(line, console);
+    case Command::clips:
+        return verifyClips(line, console);
+    case Command::run:
+        return runTests(line, console);
     case Command::info:
+        return line.isSet("self-check") ? runSelfCheck(line.isJson, console) : runModuleCommand(line, console);
+    case Command::list:
         break;
     }
-    return runCommand(line, console);
+    return runModuleCommand(line, console);
+}
+
+// `run` hands the folder to the graphical host, which changes into it by itself.
+bool enterFolder(const CommandLine &line)
+{
+    if (!line.configFolder)
+        return true;
+    const bool isFolder = QFileInfo(*line.configFolder).isDir();
+    return line.command == Command::run ? isFolder : isFolder && QDir::setCurrent(*line.configFolder);
 }
 
 } // namespace
 
-ExitCode runProgram(const QStringList &arguments, Console &console)
+ProgramEnd runProgram(const QStringList &arguments, Console &console)
 {
     if (arguments.size() > 1 && arguments.at(1).startsWith(moduleOption))
-        return runModuleOption(arguments, console);
+        return {runModuleOption(arguments, console), false};
     const auto parsed = parseCommandLine(arguments);
     if (const auto *error = std::get_if<UsageError>(&parsed))
-        return refuse(error->message, console);
-    return runOrdinary(std::get<CommandLine>(parsed), console);
+        return {refuse(error->message, console), false};
+    const auto &line = std::get<CommandLine>(parsed);
+    if (!enterFolder(line))
+        return {refuse(QStringLiteral("'%1' is not a folder that can be used (--config)").arg(*line.configFolder), console),
+                line.isGnuExit};
+    return {runOrdinary(line, console), line.isGnuExit};
 }
 
 } // namespace host

@@ -9,7 +9,13 @@ namespace host {
 
 class Console;
 
+/// How a run ended, and whether GNU's codes were asked for.
+struct ProgramEnd {
+    ExitCode code = ExitCode::success;
+    bool isGnuExit = false;
+};
+
 /// The whole run of the command-line program. `arguments` begin with the program's own path. Needs the application object.
-ExitCode runProgram(const QStringList &arguments, Console &console);
+ProgramEnd runProgram(const QStringList &arguments, Console &console);
 
 } // namespace host

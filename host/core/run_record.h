@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/core/device_list.h"
+#include "host/core/digit_measurement.h"
 
 #include <QDateTime>
 #include <QList>
@@ -35,6 +36,7 @@ struct HeardDigit {
     double latencyMs = 0.0;   ///< from the dialog's "playing" to the first sound; below zero when not known
     double levelDbfs = 0.0;   ///< RMS level of what was captured
     bool clipped = false;
+    std::optional<DigitMeasurement> measured;
 };
 
 /// What an unattended microphone run heard while the dialog played its recording back.

@@ -4,7 +4,11 @@
 #include "contract/result_codes.h"
 #include "host/core/verdict.h"
 #include "host/gui/key_text.h"
-#include "host/reports/digit_table.h"
+#include "host/reports/run_report.h"
+#include "host/reports/text_report.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cstdio>
 
@@ -83,7 +87,7 @@ QString runSummary(const RunRecord &record)
     }
     if (record.recording)
         text += recordingLines(*record.recording);
-    return text + digitTable(record);
+    return text + digitTableText(QJsonDocument::fromJson(runReport(record)).object());
 }
 
 QString unknownDevice(const QString &name, const QList<Device> &devices)

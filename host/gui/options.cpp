@@ -2,6 +2,7 @@
 #include "host/gui/options.h"
 
 #include "host/core/language_setting.h"
+#include "host/reports/report_formats.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
@@ -28,7 +29,7 @@ constexpr std::array<KnownOption, 16> knownOptions{{
     {"listen", "SOURCE", "the capture source that hears the device; test m shows its level", false},
     {"microphone", "NAME", "the microphone that test m chooses (the first one)", true},
     {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
-    {"report", "FILE", "write the report of the run there", true},
+    {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},
     {"screenshots", "DIR", "photograph the windows into that folder", true},
     {"mistype", "N", "for proofs: get N sequences wrong", true},
     {"language", "CODE", "language, such as de_DE; kept for later starts", false},
@@ -114,6 +115,10 @@ std::optional<OptionsError> checkUnattended(const QCommandLineParser &parser, co
         return error(QStringLiteral("--unattended needs '--device NAME'"));
     if (options.source.isEmpty())
         return error(QStringLiteral("--unattended needs '--listen SOURCE'"));
+    for (const QString &file : options.reportFiles) {
+        if (!reportFormatOf(file))
+            return error(QStringLiteral("the report '%1' cannot be written: %2").arg(file, reportSuffixes()));
+    }
     for (const char *name : {"microphone", "speak-through"}) {
         if (options.test != QLatin1String("m") && parser.isSet(QLatin1String(name)))
             return error(QStringLiteral("'--%1' goes with '--test m' only").arg(QLatin1String(name)));
@@ -149,7 +154,9 @@ Options readValues(const QCommandLineParser &parser)
     options.microphone = parser.value(QStringLiteral("microphone"));
     options.speakThrough = parser.value(QStringLiteral("speak-through"));
     options.language = parser.value(QStringLiteral("language"));
-    options.reportFile = absolute(parser.value(QStringLiteral("report")));
+    const QStringList reports = parser.values(QStringLiteral("report"));
+    for (const QString &file : reports)
+        options.reportFiles.append(absolute(file));
     options.screenshotsFolder = absolute(parser.value(QStringLiteral("screenshots")));
     options.configFolder = absolute(parser.value(QStringLiteral("config")));
     return options;

@@ -21,7 +21,7 @@ struct Options {
     QString source;       ///< with or without `isUnattended`
     QString microphone;   ///< empty for the first one
     QString speakThrough; ///< output; empty for the tested device
-    QString reportFile;
+    QStringList reportFiles;
     QString language;
     QString screenshotsFolder;
     QString configFolder;

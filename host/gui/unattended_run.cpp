@@ -2,9 +2,12 @@
 #include "host/gui/unattended_run.h"
 
 #include "contract/result_codes.h"
+#include "host/core/capture_source.h"
 #include "host/core/verdict.h"
 #include "host/gui/console_output.h"
+#include "host/gui/key_text.h"
 #include "host/operator/test_operator.h"
+#include "host/precheck/precheck.h"
 #include "host/reports/run_report.h"
 
 #include <QCoreApplication>
@@ -51,8 +54,10 @@ bool UnattendedRun::prepare(QString &problem)
     else if (const QString other = deviceOfMonitor(options_.source); !other.isEmpty() && other != deviceName())
         problem = QStringLiteral("'%1' hears another device than '%2', which would be blamed for its silence")
                       .arg(options_.source, deviceName());
-    else if (!options_.reportFile.isEmpty() && !QFileInfo(QFileInfo(options_.reportFile).path()).isWritable())
-        problem = QStringLiteral("the report '%1' cannot be written: its folder is missing or closed").arg(options_.reportFile);
+    for (const QString &file : options_.reportFiles) {
+        if (problem.isEmpty() && !QFileInfo(QFileInfo(file).path()).isWritable())
+            problem = QStringLiteral("the report '%1' cannot be written: its folder is missing or closed").arg(file);
+    }
     return problem.isEmpty();
 }
 
@@ -63,12 +68,20 @@ int UnattendedRun::run()
         return static_cast<int>(ostra::result::notCompleted);
     print(runSummary(*record));
     const std::uint32_t code = codeOf(verdictOf(*record));
-    const bool isReported = writeReport(*record);
+    const bool isReported = writeReports(*record);
     return static_cast<int>(isReported || code != ostra::result::passed ? code : ostra::result::notCompleted);
 }
 
 std::optional<RunRecord> UnattendedRun::perform()
 {
+    const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
+    const auto findings = checkBeforeRun({deviceName(), clips, language_, isRecording()});
+    for (const PrecheckFinding &finding : findings)
+        complain(precheckText(finding));
+    for (const PrecheckFinding &finding : findings) {
+        if (finding.isBlocking())
+            return unheard(QStringLiteral("clips: ") + precheckText(finding));
+    }
     TestOperator person(operatorSettings());
     if (meter_)
         QObject::connect(&person, &TestOperator::metered, meter_);
@@ -88,6 +101,8 @@ std::optional<RunRecord> UnattendedRun::perform()
             record.reason = QStringLiteral("the run took longer than five minutes");
     });
 }
+
+bool UnattendedRun::isRecording() const { return options_.test == QLatin1String("m") || !isMonitor(options_.source); }
 
 OperatorSettings UnattendedRun::operatorSettings() const
 {
@@ -125,15 +140,17 @@ RunRecord UnattendedRun::unheard(const QString &reason) const
     return record;
 }
 
-bool UnattendedRun::writeReport(const RunRecord &record) const
+bool UnattendedRun::writeReports(const RunRecord &record) const
 {
-    if (options_.reportFile.isEmpty())
-        return true;
-    QString problem;
-    if (writeRunReport(record, options_.reportFile, &problem))
-        return true;
-    complain(problem);
-    return false;
+    bool isWritten = true;
+    for (const QString &file : options_.reportFiles) {
+        QString problem;
+        if (writeRunReport(record, file, &problem, [](const QString &key) { return shownText(key); }))
+            continue;
+        complain(problem);
+        isWritten = false;
+    }
+    return isWritten;
 }
 
 } // namespace host

@@ -27,16 +27,17 @@ public:
     /// What is heard goes there, ten times a second.
     void setMeter(std::function<void(const MeteredMoment &)> meter) { meter_ = std::move(meter); }
 
-    /// Runs it, writes the report, prints verdict and digits on standard output, and returns the program's exit code.
+    /// Runs it, writes the reports, prints verdict and digits on standard output, and returns the program's exit code.
     int run();
 
 private:
     std::optional<RunRecord> perform();
     QString deviceName() const; ///< once it is known
     QString deviceOfMonitor(const QString &source) const;
+    bool isRecording() const;
     OperatorSettings operatorSettings() const;
     RunRecord unheard(const QString &reason) const;
-    bool writeReport(const RunRecord &record) const;
+    bool writeReports(const RunRecord &record) const;
 
     TestSession &session_;
     Options options_;

@@ -20,6 +20,30 @@ double milliseconds(std::chrono::time_point<Clock> time)
 
 double rounded(double value, double steps) { return std::round(value * steps) / steps; }
 
+QJsonArray listOf(const QList<double> &values, double steps)
+{
+    QJsonArray list;
+    for (const double value : values)
+        list.append(rounded(value, steps));
+    return list;
+}
+
+QJsonObject measurementOf(const DigitMeasurement &measured)
+{
+    QJsonObject object{{QStringLiteral("peakDbfs"), rounded(measured.peakDbfs, 10)},
+                       {QStringLiteral("clippedFrameCount"), measured.clippedFrameCount},
+                       {QStringLiteral("lowest"), listOf(measured.lowest, 10'000)},
+                       {QStringLiteral("highest"), listOf(measured.highest, 10'000)},
+                       {QStringLiteral("bandLevelsDbfs"), listOf(measured.bandLevelsDbfs, 10)}};
+    if (measured.snrDb)
+        object.insert(QStringLiteral("snrDb"), rounded(*measured.snrDb, 10));
+    if (measured.residualDbfs)
+        object.insert(QStringLiteral("residualDbfs"), rounded(*measured.residualDbfs, 10));
+    if (measured.clockErrorPpm)
+        object.insert(QStringLiteral("clockErrorPpm"), rounded(*measured.clockErrorPpm, 10));
+    return object;
+}
+
 QByteArray line(const char *event, QJsonObject object)
 {
     object.insert(QLatin1String("event"), QLatin1String(event));
@@ -51,6 +75,8 @@ QByteArray soundLine(const HeardSound &sound)
     object.insert(QStringLiteral("digit"), *sound.digit);
     object.insert(QStringLiteral("score"), rounded(sound.score, 10'000));
     object.insert(QStringLiteral("margin"), rounded(sound.margin, 10'000));
+    if (sound.measured)
+        object.insert(QStringLiteral("measured"), measurementOf(*sound.measured));
     return line("digit", object);
 }
 

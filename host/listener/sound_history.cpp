@@ -29,8 +29,14 @@ float SoundHistory::withoutDirectCurrent(Channel &channel, float sample) const
 void SoundHistory::watchForClipping(Channel &channel, float sample)
 {
     channel.fullFrameCount = std::abs(sample) >= fullScale ? channel.fullFrameCount + 1 : 0;
-    if (channel.fullFrameCount == clippedFrameCount)
-        clippedFrames_.push_back(frameCount());
+    if (channel.fullFrameCount < clippedFrameCount)
+        return;
+    // The first frames of a run are known as such only now; another channel may have told them already.
+    const bool isNew = channel.fullFrameCount == clippedFrameCount;
+    for (std::int64_t frame = frameCount() - (isNew ? clippedFrameCount - 1 : 0); frame <= frameCount(); ++frame) {
+        if (clippedFrames_.empty() || clippedFrames_.back() < frame)
+            clippedFrames_.push_back(frame);
+    }
 }
 
 void SoundHistory::append(std::span<const float> interleaved, SteadyTime end)
@@ -92,6 +98,12 @@ bool SoundHistory::isClipped(FrameSpan span) const
 {
     const auto found = std::lower_bound(clippedFrames_.begin(), clippedFrames_.end(), span.first);
     return found != clippedFrames_.end() && *found < span.end;
+}
+
+std::int64_t SoundHistory::countClipped(FrameSpan span) const
+{
+    const auto first = std::lower_bound(clippedFrames_.begin(), clippedFrames_.end(), span.first);
+    return std::lower_bound(first, clippedFrames_.end(), span.end) - first;
 }
 
 SteadyTime SoundHistory::timeOf(std::int64_t frame) const

@@ -38,6 +38,8 @@ public:
     double levelDbfs(FrameSpan span) const;
     /// Whether three frames in a row stand at the end of the scale, as those of a cut-off wave do.
     bool isClipped(FrameSpan span) const;
+    /// How many such frames there are, in whichever channel.
+    std::int64_t countClipped(FrameSpan span) const;
     SteadyTime timeOf(std::int64_t frame) const;
 
 private:

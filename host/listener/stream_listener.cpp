@@ -13,7 +13,9 @@ constexpr std::size_t rememberedDigitCount = 8;
 
 } // namespace
 
-StreamListener::StreamListener(const measure::DigitClips &clips, Sink sink) : sink_(std::move(sink)), search_(clips) {}
+StreamListener::StreamListener(const measure::DigitClips &clips, Sink sink)
+    : sink_(std::move(sink)), search_(clips), measuring_(clips)
+{}
 
 void StreamListener::feed(std::span<const float> interleaved, SteadyTime end)
 {
@@ -49,6 +51,7 @@ void StreamListener::tellDigits(const std::vector<FoundDigit> &digits)
         sound.digit = found.digit;
         sound.score = found.score;
         sound.margin = found.margin;
+        sound.measured = measuring_.measure(history_, found);
         sink_(sound);
         digits_.push_back(found.span);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "host/listener/digit_measuring.h"
 #include "host/listener/digit_search.h"
 #include "host/listener/ear.h"
 #include "host/listener/loud_spans.h"
@@ -22,6 +23,7 @@ struct HeardSound {
     std::chrono::milliseconds duration{0};
     double levelDbfs = lowestDbfs; ///< RMS over its duration
     bool isClipped = false;
+    std::optional<DigitMeasurement> measured; ///< of a digit
 };
 
 /// Tells the digits and other sounds of a capture, in the order of their ends, up to 2.4 s after they ended. One thread.
@@ -45,6 +47,7 @@ private:
     SoundHistory history_;
     LoudSpans spans_;
     DigitSearch search_;
+    DigitMeasuring measuring_;
     std::deque<FrameSpan> undecided_;
     std::deque<FrameSpan> digits_;
 };

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "host/core/digit_measurement.h"
+
 #include <QList>
 
+#include <memory>
 #include <optional>
 
 namespace host {
@@ -18,6 +21,7 @@ struct HeardEvent {
     double margin = 0;
     double levelDbfs = 0;
     bool isClipped = false;
+    std::shared_ptr<const DigitMeasurement> measured; ///< null when nothing was measured; shared, as events are sorted
 };
 
 /// A place that is like the clip that the listener looks for.

@@ -31,6 +31,34 @@ Kind kindOf(const QString &event)
     return event == QLatin1String("lost") ? Kind::lost : Kind::unknown;
 }
 
+double number(const QJsonObject &object, const char *key) { return object.value(QLatin1String(key)).toDouble(); }
+
+std::optional<double> optionalNumber(const QJsonObject &object, const char *key)
+{
+    const QJsonValue value = object.value(QLatin1String(key));
+    return value.isDouble() ? std::optional(value.toDouble()) : std::nullopt;
+}
+
+QList<double> numbers(const QJsonObject &object, const char *key)
+{
+    QList<double> list;
+    const QJsonArray values = object.value(QLatin1String(key)).toArray();
+    for (const QJsonValue value : values)
+        list.append(value.toDouble());
+    return list;
+}
+
+std::shared_ptr<const DigitMeasurement> measurementOf(const QJsonValue &value)
+{
+    const QJsonObject object = value.toObject();
+    if (object.isEmpty())
+        return nullptr;
+    return std::make_shared<const DigitMeasurement>(DigitMeasurement{
+        optionalNumber(object, "snrDb"), optionalNumber(object, "residualDbfs"), optionalNumber(object, "clockErrorPpm"),
+        number(object, "peakDbfs"), object.value(QLatin1String("clippedFrameCount")).toInteger(), numbers(object, "lowest"),
+        numbers(object, "highest"), numbers(object, "bandLevelsDbfs")});
+}
+
 HeardEvent soundOf(const QJsonObject &object, const char *moment)
 {
     HeardEvent event;
@@ -41,10 +69,9 @@ HeardEvent soundOf(const QJsonObject &object, const char *moment)
     event.margin = object.value(QLatin1String("margin")).toDouble();
     event.levelDbfs = object.value(QLatin1String("levelDbfs")).toDouble();
     event.isClipped = object.value(QLatin1String("clipped")).toBool();
+    event.measured = measurementOf(object.value(QLatin1String("measured")));
     return event;
 }
-
-double number(const QJsonObject &object, const char *key) { return object.value(QLatin1String(key)).toDouble(); }
 
 // A missing level must not pass for 0 dBFS, the loudest there is.
 bool hasNumbers(const QJsonObject &object, const char *moment, std::initializer_list<const char *> levels)

@@ -298,6 +298,8 @@ QList<HeardDigit> PlaybackWorker::rowsOfPlay() const
             row.heard = sound.digit;
             row.score = sound.score;
             row.margin = sound.margin;
+            if (sound.measured)
+                row.measured = *sound.measured;
             row.latencyMs = latencyOf(sound.startMs);
             row.levelDbfs = sound.levelDbfs;
             row.clipped = sound.isClipped;

@@ -3,6 +3,7 @@
 
 #include "contract/result_codes.h"
 #include "host/core/verdict.h"
+#include "host/reports/report_formats.h"
 #include "host/reports/run_limits.h"
 
 #include <QJsonArray>
@@ -11,6 +12,7 @@
 #include <QSaveFile>
 
 #include <cmath>
+#include <optional>
 
 namespace host {
 
@@ -36,43 +38,85 @@ QJsonObject deviceOf(const Device &device)
         {QStringLiteral("name"), device.name}, {QStringLiteral("id"), device.id}, {QStringLiteral("properties"), properties}};
 }
 
-QJsonArray progressOf(const RunRecord &record)
+QString translated(const QString &key, const TextLookup &lookUp) { return lookUp && !key.isEmpty() ? lookUp(key) : key; }
+
+QJsonArray progressOf(const RunRecord &record, const TextLookup &lookUp)
 {
     QJsonArray steps;
     for (const RunProgress &step : record.progress)
-        steps.append(
-            QJsonObject{{QStringLiteral("percent"), static_cast<qint64>(step.percent)}, {QStringLiteral("text"), step.text}});
+        steps.append(QJsonObject{{QStringLiteral("percent"), static_cast<qint64>(step.percent)},
+                                 {QStringLiteral("text"), step.text},
+                                 {QStringLiteral("translated"), translated(step.text, lookUp)}});
     return steps;
 }
 
-QJsonArray messagesOf(const RunRecord &record)
+QJsonArray messagesOf(const RunRecord &record, const TextLookup &lookUp)
 {
     QJsonArray messages;
     for (const RunMessage &message : record.messages)
-        messages.append(
-            QJsonObject{{QStringLiteral("level"), static_cast<qint64>(message.level)}, {QStringLiteral("text"), message.text}});
+        messages.append(QJsonObject{{QStringLiteral("level"), static_cast<qint64>(message.level)},
+                                    {QStringLiteral("text"), message.text},
+                                    {QStringLiteral("translated"), translated(message.text, lookUp)}});
     return messages;
 }
 
-QJsonObject digitRow(const HeardDigit &digit)
+QJsonValue measuredOrNull(const std::optional<double> &value, double steps)
+{
+    return value ? QJsonValue(rounded(*value, steps)) : QJsonValue();
+}
+
+QJsonArray listOf(const QList<double> &values, double steps)
+{
+    QJsonArray list;
+    for (const double value : values)
+        list.append(rounded(value, steps));
+    return list;
+}
+
+QJsonValue measurementOf(const std::optional<DigitMeasurement> &measured)
+{
+    if (!measured)
+        return {};
+    return QJsonObject{{QStringLiteral("snrDb"), measuredOrNull(measured->snrDb, 10)},
+                       {QStringLiteral("residualDbfs"), measuredOrNull(measured->residualDbfs, 10)},
+                       {QStringLiteral("clockErrorPpm"), measuredOrNull(measured->clockErrorPpm, 10)},
+                       {QStringLiteral("peakDbfs"), rounded(measured->peakDbfs, 10)},
+                       {QStringLiteral("clippedFrameCount"), measured->clippedFrameCount},
+                       {QStringLiteral("envelopeStepMs"), envelopeStepMs},
+                       {QStringLiteral("lowest"), listOf(measured->lowest, 10'000)},
+                       {QStringLiteral("highest"), listOf(measured->highest, 10'000)},
+                       {QStringLiteral("lowestBandHz"), lowestBandHz},
+                       {QStringLiteral("bandLevelsDbfs"), listOf(measured->bandLevelsDbfs, 10)}};
+}
+
+// The module tells nobody what it draws. A sequence that it accepted was what was typed; the last one, when the test passed.
+QJsonValue playedOrNull(const RunRecord &record, const HeardDigit &digit)
+{
+    const bool isAccepted = record.moduleCode == ostra::result::passed && digit.sequence == record.digits.last().sequence;
+    return isAccepted ? digitOrNull(digit.typed) : QJsonValue();
+}
+
+QJsonObject digitRow(const RunRecord &record, const HeardDigit &digit)
 {
     return {{QStringLiteral("sequence"), digit.sequence},
             {QStringLiteral("position"), digit.position},
             {QStringLiteral("playedAtMs"), knownOrNull(static_cast<double>(digit.playedAtMs))},
+            {QStringLiteral("played"), playedOrNull(record, digit)},
             {QStringLiteral("heard"), digitOrNull(digit.heard)},
             {QStringLiteral("typed"), digitOrNull(digit.typed)},
             {QStringLiteral("score"), rounded(digit.score, 10'000)},
             {QStringLiteral("margin"), rounded(digit.margin, 10'000)},
             {QStringLiteral("latencyMs"), knownOrNull(digit.latencyMs)},
             {QStringLiteral("levelDbfs"), rounded(digit.levelDbfs, 10)},
-            {QStringLiteral("clipped"), digit.clipped}};
+            {QStringLiteral("clipped"), digit.clipped},
+            {QStringLiteral("measured"), measurementOf(digit.measured)}};
 }
 
 QJsonArray digitsOf(const RunRecord &record)
 {
     QJsonArray rows;
     for (const HeardDigit &digit : record.digits)
-        rows.append(digitRow(digit));
+        rows.append(digitRow(record, digit));
     return rows;
 }
 
@@ -96,23 +140,25 @@ QJsonValue recordingOf(const std::optional<HeardRecording> &heard)
          heard->answer ? QJsonValue(*heard->answer ? QStringLiteral("yes") : QStringLiteral("no")) : QJsonValue()}};
 }
 
-QJsonObject bodyOf(const RunRecord &record)
+QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
 {
+    const std::uint32_t code = codeOf(verdictOf(record));
     return {{QStringLiteral("formatVersion"), reportFormatVersion},
-            {QStringLiteral("test"),
-             QJsonObject{{QStringLiteral("letter"), record.testLetter}, {QStringLiteral("nameKey"), record.testNameKey}}},
+            {QStringLiteral("test"), QJsonObject{{QStringLiteral("letter"), record.testLetter},
+                                                 {QStringLiteral("nameKey"), record.testNameKey},
+                                                 {QStringLiteral("translated"), translated(record.testNameKey, lookUp)}}},
             {QStringLiteral("device"), deviceOf(record.device)},
             {QStringLiteral("language"), record.language},
             {QStringLiteral("startedUtc"), momentOf(record.startedUtc)},
             {QStringLiteral("endedUtc"), momentOf(record.endedUtc)},
-            {QStringLiteral("verdict"), QJsonObject{{QStringLiteral("code"), static_cast<qint64>(codeOf(verdictOf(record)))},
-                                                    {QStringLiteral("name"), resultName(codeOf(verdictOf(record)))}}},
+            {QStringLiteral("verdict"),
+             QJsonObject{{QStringLiteral("code"), static_cast<qint64>(code)}, {QStringLiteral("name"), resultName(code)}}},
             {QStringLiteral("moduleCode"),
              record.wasModuleCalled ? QJsonValue(static_cast<qint64>(record.moduleCode)) : QJsonValue()},
             {QStringLiteral("stopped"), record.wasStopped},
             {QStringLiteral("reason"), record.reason},
-            {QStringLiteral("progress"), progressOf(record)},
-            {QStringLiteral("messages"), messagesOf(record)},
+            {QStringLiteral("progress"), progressOf(record, lookUp)},
+            {QStringLiteral("messages"), messagesOf(record, lookUp)},
             {QStringLiteral("unattended"), record.isUnattended},
             {QStringLiteral("listenedTo"), record.listenedTo},
             {QStringLiteral("digits"), digitsOf(record)},
@@ -152,22 +198,32 @@ QString resultName(std::uint32_t code)
 }
 
 // The toolkit sorts an object's members, and the limits belong below what they limit: both objects become one.
-QByteArray runReport(const RunRecord &record)
+QByteArray runReport(const RunRecord &record, const TextLookup &lookUp)
 {
-    const QByteArray body = indented(bodyOf(record));
+    const QByteArray body = indented(bodyOf(record, lookUp));
     const QByteArray limits = indented({{QStringLiteral("limits"), QJsonArray::fromStringList(runLimits(record))}});
     return body.left(body.lastIndexOf("\n}")) + ',' + limits.mid(limits.indexOf('\n'));
 }
 
-bool writeRunReport(const RunRecord &record, const QString &file, QString *error)
+bool writeReportFile(const QByteArray &report, const QString &file, QString *error)
 {
-    const QByteArray report = runReport(record);
     QSaveFile output(file);
     if (!output.open(QIODevice::WriteOnly))
         return refuse(error, file, output.errorString());
     if (output.write(report) != report.size() || !output.commit())
         return refuse(error, file, output.errorString());
     return true;
+}
+
+bool writeRunReport(const RunRecord &record, const QString &file, QString *error, const TextLookup &lookUp)
+{
+    const QByteArray json = runReport(record, lookUp);
+    const std::optional<ReportFormat> format = reportFormatOf(file);
+    if (!format)
+        return refuse(error, file, reportSuffixes());
+    const QByteArray report =
+        *format == ReportFormat::json ? json : convertReport(QJsonDocument::fromJson(json).object(), *format);
+    return writeReportFile(report, file, error);
 }
 
 } // namespace host

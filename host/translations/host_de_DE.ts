@@ -32,6 +32,34 @@
         <translation>Es wurde kein Ausgabegerät gefunden. Schließen Sie eines an. Die Liste aktualisiert sich selbst.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOUND_SERVER_SILENT</source>
+        <translation>Der Soundserver antwortet nicht: Lautstärke und Stummschaltung konnten nicht geprüft werden.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_MUTED</source>
+        <translation>„%1“ ist stummgeschaltet. Daran wurde nichts geändert: Der Test schaltet den Ton für seine Dauer selbst ein.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_AT_ZERO</source>
+        <translation>Die Lautstärke von „%1“ ist 0. Daran wurde nichts geändert: Der Test erhöht sie für seine Dauer selbst.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_MISSING</source>
+        <translation>Die gesprochenen Ziffern der Sprache %1 fehlen. Der Test kann nicht ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIP_DAMAGED</source>
+        <translation>Die Tondatei %1 fehlt oder ist nicht die mitgelieferte. Der Test kann nicht ausgeführt werden: Der Fehler würde dem Gerät angelastet.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_UNCHECKED</source>
+        <translation>Es gibt keine Liste der mitgelieferten Tondateien: Sie konnten nicht geprüft werden.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_MICROPHONE_BLOCKED</source>
+        <translation>Die Datenschutzeinstellungen des Systems sperren das Mikrofon für Programme: Es würde nur Stille aufnehmen.</translation>
+    </message>
+    <message>
         <source>VALUE_NOT_KNOWN</source>
         <translation>unbekannt</translation>
     </message>

@@ -32,6 +32,34 @@
         <translation>No output device was found. Connect one: the list follows by itself.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOUND_SERVER_SILENT</source>
+        <translation>The sound server does not answer: volume and mute could not be checked.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_MUTED</source>
+        <translation>“%1” is muted. Nothing was changed: the test itself switches the sound on while it runs.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_AT_ZERO</source>
+        <translation>The volume of “%1” is 0. Nothing was changed: the test itself raises it while it runs.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_MISSING</source>
+        <translation>The spoken digits of the language %1 are missing. The test cannot be run.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIP_DAMAGED</source>
+        <translation>The sound file %1 is missing or is not the one that was supplied. The test cannot be run: the device would be blamed for it.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_UNCHECKED</source>
+        <translation>There is no list of the supplied sound files: they could not be checked.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_MICROPHONE_BLOCKED</source>
+        <translation>The privacy settings of the system keep programs from the microphone: it would record silence.</translation>
+    </message>
+    <message>
         <source>VALUE_NOT_KNOWN</source>
         <translation>not known</translation>
     </message>

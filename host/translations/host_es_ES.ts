@@ -32,6 +32,34 @@
         <translation>No se ha encontrado ningún dispositivo de salida. Conecte uno; la lista se actualiza sola.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOUND_SERVER_SILENT</source>
+        <translation>El servidor de sonido no responde: no se pudieron comprobar el volumen ni el silencio.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_MUTED</source>
+        <translation>«%1» está silenciado. No se ha cambiado nada: la prueba activa el sonido por sí misma mientras se ejecuta.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_AT_ZERO</source>
+        <translation>El volumen de «%1» es 0. No se ha cambiado nada: la prueba lo sube por sí misma mientras se ejecuta.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_MISSING</source>
+        <translation>Faltan los dígitos hablados del idioma %1. La prueba no se puede ejecutar.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIP_DAMAGED</source>
+        <translation>El archivo de sonido %1 falta o no es el suministrado. La prueba no se puede ejecutar: se culparía al dispositivo.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_UNCHECKED</source>
+        <translation>No hay una lista de los archivos de sonido suministrados: no se pudieron comprobar.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_MICROPHONE_BLOCKED</source>
+        <translation>La configuración de privacidad del sistema impide que los programas usen el micrófono: solo grabaría silencio.</translation>
+    </message>
+    <message>
         <source>VALUE_NOT_KNOWN</source>
         <translation>desconocido</translation>
     </message>

@@ -32,6 +32,34 @@
         <translation>Aucun périphérique de sortie n’a été trouvé. Branchez-en un : la liste se met à jour d’elle-même.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOUND_SERVER_SILENT</source>
+        <translation>Le serveur de son ne répond pas : le volume et la coupure du son n’ont pas pu être vérifiés.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_MUTED</source>
+        <translation>Le son de « %1 » est coupé. Rien n’a été modifié : le test le rétablit lui-même pendant son exécution.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_AT_ZERO</source>
+        <translation>Le volume de « %1 » est à 0. Rien n’a été modifié : le test l’augmente lui-même pendant son exécution.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_MISSING</source>
+        <translation>Les chiffres parlés de la langue %1 sont absents. Le test ne peut pas être exécuté.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIP_DAMAGED</source>
+        <translation>Le fichier son %1 est absent ou n’est pas celui qui a été fourni. Le test ne peut pas être exécuté : l’appareil serait mis en cause à tort.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_UNCHECKED</source>
+        <translation>Il n’y a pas de liste des fichiers son fournis : ils n’ont pas pu être vérifiés.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_MICROPHONE_BLOCKED</source>
+        <translation>Les paramètres de confidentialité du système interdisent le microphone aux programmes : il n’enregistrerait que du silence.</translation>
+    </message>
+    <message>
         <source>VALUE_NOT_KNOWN</source>
         <translation>inconnu</translation>
     </message>

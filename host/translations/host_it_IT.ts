@@ -32,6 +32,34 @@
         <translation>Nessun dispositivo di uscita trovato. Collegarne uno: l’elenco si aggiorna da solo.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOUND_SERVER_SILENT</source>
+        <translation>Il server audio non risponde: non è stato possibile controllare il volume e la disattivazione dell’audio.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_MUTED</source>
+        <translation>L’audio di “%1” è disattivato. Non è stato modificato nulla: il test lo attiva da sé durante l’esecuzione.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_AT_ZERO</source>
+        <translation>Il volume di “%1” è a 0. Non è stato modificato nulla: il test lo alza da sé durante l’esecuzione.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_MISSING</source>
+        <translation>Mancano le cifre parlate della lingua %1. Non è possibile eseguire il test.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIP_DAMAGED</source>
+        <translation>Il file audio %1 manca o non è quello fornito. Non è possibile eseguire il test: la colpa verrebbe attribuita al dispositivo.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_UNCHECKED</source>
+        <translation>Non esiste un elenco dei file audio forniti: non è stato possibile controllarli.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_MICROPHONE_BLOCKED</source>
+        <translation>Le impostazioni di privacy del sistema negano il microfono ai programmi: registrerebbe solo silenzio.</translation>
+    </message>
+    <message>
         <source>VALUE_NOT_KNOWN</source>
         <translation>sconosciuto</translation>
     </message>

@@ -32,6 +32,34 @@
         <translation>出力デバイスが見つかりませんでした。接続すると、一覧は自動的に更新されます。</translation>
     </message>
     <message>
+        <source>PRECHECK_SOUND_SERVER_SILENT</source>
+        <translation>サウンドサーバーが応答しません。音量とミュートを確認できませんでした。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_MUTED</source>
+        <translation>「%1」はミュートされています。何も変更していません。テストの実行中はテスト自身が音を出せるようにします。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_AT_ZERO</source>
+        <translation>「%1」の音量は 0 です。何も変更していません。テストの実行中はテスト自身が音量を上げます。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_MISSING</source>
+        <translation>言語 %1 の数字の音声がありません。テストを実行できません。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIP_DAMAGED</source>
+        <translation>音声ファイル %1 がないか、付属のファイルではありません。デバイスのせいにされてしまうため、テストを実行できません。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_UNCHECKED</source>
+        <translation>付属の音声ファイルの一覧がありません。ファイルを確認できませんでした。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_MICROPHONE_BLOCKED</source>
+        <translation>システムのプライバシー設定により、プログラムはマイクを使用できません。無音しか録音されません。</translation>
+    </message>
+    <message>
         <source>VALUE_NOT_KNOWN</source>
         <translation>不明</translation>
     </message>

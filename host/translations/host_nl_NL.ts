@@ -32,6 +32,34 @@
         <translation>Er is geen uitvoerapparaat gevonden. Sluit er een aan; de lijst wordt vanzelf bijgewerkt.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOUND_SERVER_SILENT</source>
+        <translation>De geluidsserver antwoordt niet: volume en demping konden niet worden gecontroleerd.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_MUTED</source>
+        <translation>‘%1’ is gedempt. Er is niets gewijzigd: de test zet het geluid zelf aan terwijl deze wordt uitgevoerd.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_AT_ZERO</source>
+        <translation>Het volume van ‘%1’ is 0. Er is niets gewijzigd: de test verhoogt het zelf terwijl deze wordt uitgevoerd.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_MISSING</source>
+        <translation>De gesproken cijfers van de taal %1 ontbreken. De test kan niet worden uitgevoerd.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIP_DAMAGED</source>
+        <translation>Het geluidsbestand %1 ontbreekt of is niet het meegeleverde. De test kan niet worden uitgevoerd: het apparaat zou de schuld krijgen.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_UNCHECKED</source>
+        <translation>Er is geen lijst van de meegeleverde geluidsbestanden: ze konden niet worden gecontroleerd.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_MICROPHONE_BLOCKED</source>
+        <translation>De privacyinstellingen van het systeem blokkeren de microfoon voor programma’s: er zou alleen stilte worden opgenomen.</translation>
+    </message>
+    <message>
         <source>VALUE_NOT_KNOWN</source>
         <translation>onbekend</translation>
     </message>

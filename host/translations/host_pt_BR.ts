@@ -32,6 +32,34 @@
         <translation>Nenhum dispositivo de saída foi encontrado. Conecte um; a lista se atualiza sozinha.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOUND_SERVER_SILENT</source>
+        <translation>O servidor de som não responde: não foi possível verificar o volume nem o silenciamento.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_MUTED</source>
+        <translation>“%1” está sem som. Nada foi alterado: o próprio teste ativa o som enquanto é executado.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_AT_ZERO</source>
+        <translation>O volume de “%1” está em 0. Nada foi alterado: o próprio teste o aumenta enquanto é executado.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_MISSING</source>
+        <translation>Faltam os dígitos falados do idioma %1. O teste não pode ser executado.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIP_DAMAGED</source>
+        <translation>O arquivo de som %1 está ausente ou não é o que foi fornecido. O teste não pode ser executado: a culpa recairia sobre o dispositivo.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_UNCHECKED</source>
+        <translation>Não há uma lista dos arquivos de som fornecidos: não foi possível verificá-los.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_MICROPHONE_BLOCKED</source>
+        <translation>As configurações de privacidade do sistema impedem os programas de usar o microfone: ele gravaria apenas silêncio.</translation>
+    </message>
+    <message>
         <source>VALUE_NOT_KNOWN</source>
         <translation>desconhecido</translation>
     </message>

@@ -32,6 +32,34 @@
         <translation>未找到输出设备。请连接设备，列表会自动更新。</translation>
     </message>
     <message>
+        <source>PRECHECK_SOUND_SERVER_SILENT</source>
+        <translation>声音服务器没有响应：无法检查音量和静音状态。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_MUTED</source>
+        <translation>“%1”已静音。未作任何更改：测试运行时会自行打开声音。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_DEVICE_AT_ZERO</source>
+        <translation>“%1”的音量为 0。未作任何更改：测试运行时会自行调高音量。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_MISSING</source>
+        <translation>缺少语言 %1 的数字语音。无法运行测试。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIP_DAMAGED</source>
+        <translation>声音文件 %1 缺失，或不是随附的文件。无法运行测试：否则会错怪设备。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLIPS_UNCHECKED</source>
+        <translation>没有随附声音文件的清单：无法检查这些文件。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_MICROPHONE_BLOCKED</source>
+        <translation>系统的隐私设置禁止程序使用麦克风：只会录到静音。</translation>
+    </message>
+    <message>
         <source>VALUE_NOT_KNOWN</source>
         <translation>未知</translation>
     </message>

@@ -17,6 +17,8 @@ private slots:
     void accepts_data();
     void accepts();
     void takesTheConfigurationFolder();
+    void collectsRepeatedOptions();
+    void knowsWhatHelpIsAbout();
     void refuses_data();
     void refuses();
 };
@@ -50,6 +52,13 @@ void TestCommandLine::accepts_data()
     add("--version", Command::version, false);
     add("--help --version", Command::help, false);
     add("-- list", Command::list, false);
+    add("list --gnu-exit", Command::list, false);
+    add("info --self-check --json", Command::info, true);
+    add("run --device 0 --device 1 --test p --test m", Command::run, false);
+    add("report a.json -o a.html --output a.xml", Command::report, false);
+    add("clips verify --json", Command::clips, true);
+    add("--print-manual", Command::manual, false);
+    add("--print-completion", Command::completion, false);
 }
 
 void TestCommandLine::accepts()
@@ -72,6 +81,22 @@ void TestCommandLine::takesTheConfigurationFolder()
     }
 }
 
+void TestCommandLine::collectsRepeatedOptions()
+{
+    const auto parsed = parse(QStringLiteral("run --device 0 --device 1 --report a.json --report b.xml --listen x --listen y"));
+    const auto &line = std::get<CommandLine>(parsed);
+    QCOMPARE(line.all("device"), (QStringList{QStringLiteral("0"), QStringLiteral("1")}));
+    QCOMPARE(line.all("report"), (QStringList{QStringLiteral("a.json"), QStringLiteral("b.xml")}));
+    QCOMPARE(line.last("listen"), QStringLiteral("y"));
+    QVERIFY(line.isSet("device") && !line.isSet("allow-virtual") && !line.isGnuExit);
+}
+
+void TestCommandLine::knowsWhatHelpIsAbout()
+{
+    QCOMPARE(std::get<CommandLine>(parse(QStringLiteral("run --help"))).topic, QStringLiteral("run"));
+    QCOMPARE(std::get<CommandLine>(parse(QStringLiteral("nonsense --help"))).topic, QString());
+}
+
 void TestCommandLine::refuses_data()
 {
     QTest::addColumn<QString>("words");
@@ -88,7 +113,15 @@ void TestCommandLine::refuses_data()
     add("play", "unknown command 'play'");
     add("List", "unknown command 'List'");
     add("list info", "unexpected argument 'info'");
-    add("info --config .", "'--config' goes with 'list' only");
+    add("info --config .", "'--config' does not go with 'info'");
+    add("list --self-check", "'--self-check' does not go with 'list'");
+    add("run --test x", "'--test' does not know 'x' (known: p, m)");
+    add("run --device 0 more", "unexpected argument 'more'");
+    add("report", "'report' needs its argument: FILE");
+    add("clips", "'clips' needs its argument: verify");
+    add("clips make", "'clips' does not know 'make'");
+    add("clips verify --language xx_YY",
+        "'--language' does not know 'xx_YY' (known: pt_BR, en_US, es_ES, fr_FR, it_IT, de_DE, nl_NL, zh_CN, ja_JP)");
     add("list --config", "missing value after '--config'");
     add("list --json=yes", "unexpected value after '--json'");
 }

@@ -86,11 +86,13 @@ void TestHostOptions::readsSeveralEvents()
 
 void TestHostOptions::makesPathsAbsolute()
 {
-    const auto result =
-        read(QStringLiteral("--unattended --test m --device 0 --listen x --report r.json --screenshots pictures --config ."));
+    const auto result = read(QStringLiteral(
+        "--unattended --test m --device 0 --listen x --report r.json --report r.HTML --screenshots pictures --config ."));
     const auto *options = std::get_if<host::Options>(&result);
     QVERIFY(options != nullptr);
-    QCOMPARE(options->reportFile, QDir::current().absoluteFilePath(QStringLiteral("r.json")));
+    const QDir current = QDir::current();
+    QCOMPARE(options->reportFiles, (QStringList{current.absoluteFilePath(QStringLiteral("r.json")),
+                                                current.absoluteFilePath(QStringLiteral("r.HTML"))}));
     QCOMPARE(options->screenshotsFolder, QDir::current().absoluteFilePath(QStringLiteral("pictures")));
     QVERIFY(QDir::isAbsolutePath(options->configFolder));
 }
@@ -118,6 +120,8 @@ void TestHostOptions::refusesWhatItCannotDo_data()
     row("no device", "--unattended --test p --listen x", "--device NAME");
     row("no source", "--unattended --test p --device 0", "--listen SOURCE");
     row("test without unattended", "--test p", "'--test' goes with '--unattended' only");
+    row("report of no known format", "--unattended --test p --device 0 --listen x --report r.pdf",
+        "its name must end in .json");
     row("report without unattended", "--report x", "'--report' goes with");
     row("microphone without unattended", "--microphone x", "'--microphone' goes with '--unattended' only");
     row("microphone of the playback test", "--unattended --test p --device 0 --listen x --microphone y",

@@ -12,6 +12,8 @@ class TestListenerLine : public QObject {
 
 private slots:
     void readsADigit();
+    void readsWhatWasMeasured();
+    void keepsWhatCouldNotBeMeasured();
     void readsALevel();
     void tellsTheKind_data();
     void tellsTheKind();
@@ -30,6 +32,32 @@ void TestListenerLine::readsADigit()
     QCOMPARE(line.sound.levelDbfs, -20.5);
     QVERIFY(line.sound.isClipped);
     QCOMPARE(line.sound.startMs, qint64(12));
+}
+
+void TestListenerLine::readsWhatWasMeasured()
+{
+    const ListenerLine line = readListenerLine(
+        R"({"event":"digit","digit":7,"levelDbfs":-20,"startMs":12,"measured":{"snrDb":61.5,"residualDbfs":-80.5,)"
+        R"("clockErrorPpm":-3,"peakDbfs":-4,"clippedFrameCount":5,"lowest":[-0.5],"highest":[0.25],"bandLevelsDbfs":[-40,-50]}})");
+    QVERIFY(line.sound.measured != nullptr);
+    QCOMPARE(line.sound.measured->snrDb, std::optional(61.5));
+    QCOMPARE(line.sound.measured->residualDbfs, std::optional(-80.5));
+    QCOMPARE(line.sound.measured->clockErrorPpm, std::optional(-3.0));
+    QCOMPARE(line.sound.measured->peakDbfs, -4.0);
+    QCOMPARE(line.sound.measured->clippedFrameCount, qint64(5));
+    QCOMPARE(line.sound.measured->lowest, QList<double>{-0.5});
+    QCOMPARE(line.sound.measured->highest, QList<double>{0.25});
+    QCOMPARE(line.sound.measured->bandLevelsDbfs, (QList<double>{-40, -50}));
+}
+
+void TestListenerLine::keepsWhatCouldNotBeMeasured()
+{
+    const ListenerLine bare = readListenerLine(R"({"event":"digit","digit":7,"levelDbfs":-20,"startMs":12})");
+    QVERIFY(bare.kind == Kind::sound && bare.sound.measured == nullptr);
+    const ListenerLine partial =
+        readListenerLine(R"({"event":"digit","digit":7,"levelDbfs":-20,"startMs":12,"measured":{"peakDbfs":-4}})");
+    QVERIFY(partial.sound.measured != nullptr);
+    QVERIFY(!partial.sound.measured->snrDb && !partial.sound.measured->residualDbfs && !partial.sound.measured->clockErrorPpm);
 }
 
 void TestListenerLine::readsALevel()

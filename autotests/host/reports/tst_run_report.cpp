@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "host/reports/digit_table.h"
+#include "autotests/host/reports/json_schema.h"
+#include "autotests/host/reports/sample_record.h"
 #include "host/reports/run_limits.h"
 #include "host/reports/run_report.h"
 
@@ -11,61 +12,18 @@
 #include <QObject>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimeZone>
 
-using host::HeardDigit;
 using host::RunRecord;
 
 namespace {
 
-RunRecord playbackRecord()
-{
-    RunRecord record;
-    record.testLetter = QStringLiteral("p");
-    record.testNameKey = QStringLiteral("AUDIO_PLAYBACK_TEST");
-    record.device = {QStringLiteral("Kopfh\u00F6rer \"1\""),
-                     QStringLiteral("id 7"),
-                     {{QStringLiteral("UDI"), QStringLiteral("u")}, {QStringLiteral("SAMPLE_RATE"), QStringLiteral("48000")}}};
-    record.language = QStringLiteral("ja_JP");
-    record.startedUtc = QDateTime(QDate(2026, 3, 1), QTime(10, 0, 0, 250), QTimeZone(3600));
-    record.endedUtc = record.startedUtc.addMSecs(9500);
-    record.moduleCode = 1;
-    record.code = 1;
-    record.progress = {{0, {}}, {100, QStringLiteral("USER_DID_NOT_REPORT_SOUND")}};
-    record.messages = {{QStringLiteral("USER_DID_NOT_REPORT_SOUND"), 2}};
-    record.isUnattended = true;
-    record.listenedTo = QStringLiteral("Monitor of Speakers");
-    record.screenshots = {QStringLiteral("01-prompt.png")};
-    record.restoredVolumes = {QStringLiteral("Speakers")};
-    return record;
-}
-
-HeardDigit heardDigit()
-{
-    HeardDigit digit;
-    digit.sequence = 2;
-    digit.position = 3;
-    digit.playedAtMs = 4321;
-    digit.heard = 7;
-    digit.typed = 0;
-    digit.score = 0.987654;
-    digit.margin = 0.5;
-    digit.latencyMs = 61;
-    digit.levelDbfs = -21.04;
-    digit.clipped = true;
-    return digit;
-}
-
-HeardDigit missedDigit()
-{
-    HeardDigit digit;
-    digit.playedAtMs = -1;
-    digit.latencyMs = -1;
-    digit.levelDbfs = -120;
-    return digit;
-}
-
 QJsonObject parsed(const RunRecord &record) { return QJsonDocument::fromJson(host::runReport(record)).object(); }
+
+QJsonObject schema()
+{
+    QFile file(QStringLiteral(SOURCE_FOLDER "/docs/report.schema.json"));
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+}
 
 QByteArray contentOf(const QString &path)
 {
@@ -74,6 +32,8 @@ QByteArray contentOf(const QString &path)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(host::RunRecord)
 
 class TestRunReport : public QObject {
     Q_OBJECT
@@ -95,8 +55,13 @@ private slots:
     void writesTheWholeFile();
     void keepsTheOldFileWhenItCannotWrite();
     void namesTheFileThatItCannotWrite();
-    void drawsATable();
-    void drawsNoTableWithoutDigits();
+    void keepsToItsSchema_data();
+    void keepsToItsSchema();
+    void schemaRefusesWhatIsWrong_data();
+    void schemaRefusesWhatIsWrong();
+    void bringsKeysAndTranslations();
+    void knowsWhatWasPlayedWhenItWasAccepted();
+    void refusesAnUnknownSuffix();
 };
 
 void TestRunReport::tellsTheRun()
@@ -125,14 +90,23 @@ void TestRunReport::tellsTheRun()
 
 void TestRunReport::tellsEveryDigit()
 {
-    RunRecord record = playbackRecord();
-    record.digits = {missedDigit(), heardDigit()};
-    const QJsonObject digit = parsed(record).value(QLatin1String("digits")).toArray().at(1).toObject();
+    const QJsonObject digit = parsed(fullRecord()).value(QLatin1String("digits")).toArray().at(1).toObject();
+    const QJsonObject measured{{QStringLiteral("snrDb"), 62.3},
+                               {QStringLiteral("residualDbfs"), -83.2},
+                               {QStringLiteral("clockErrorPpm"), -4.0},
+                               {QStringLiteral("peakDbfs"), -3.1},
+                               {QStringLiteral("clippedFrameCount"), 17},
+                               {QStringLiteral("envelopeStepMs"), 5},
+                               {QStringLiteral("lowest"), QJsonArray{-0.25, -0.5, -0.1}},
+                               {QStringLiteral("highest"), QJsonArray{0.2, 0.4, 0.1}},
+                               {QStringLiteral("lowestBandHz"), 100},
+                               {QStringLiteral("bandLevelsDbfs"), QJsonArray{-40, -30.5, -90}}};
     const QJsonObject expected{{QStringLiteral("sequence"), 2},      {QStringLiteral("position"), 3},
-                               {QStringLiteral("playedAtMs"), 4321}, {QStringLiteral("heard"), 7},
-                               {QStringLiteral("typed"), 0},         {QStringLiteral("score"), 0.9877},
-                               {QStringLiteral("margin"), 0.5},      {QStringLiteral("latencyMs"), 61},
-                               {QStringLiteral("levelDbfs"), -21.0}, {QStringLiteral("clipped"), true}};
+                               {QStringLiteral("playedAtMs"), 4321}, {QStringLiteral("played"), QJsonValue::Null},
+                               {QStringLiteral("heard"), 7},         {QStringLiteral("typed"), 0},
+                               {QStringLiteral("score"), 0.9877},    {QStringLiteral("margin"), 0.5},
+                               {QStringLiteral("latencyMs"), 61},    {QStringLiteral("levelDbfs"), -21.0},
+                               {QStringLiteral("clipped"), true},    {QStringLiteral("measured"), measured}};
     QCOMPARE(digit, expected);
 }
 
@@ -140,20 +114,8 @@ void TestRunReport::tellsTheRecording()
 {
     RunRecord record = playbackRecord();
     QVERIFY(parsed(record).value(QLatin1String("recording")).isNull());
-    host::HeardRecording heard;
-    heard.microphone = QStringLiteral("Mic");
-    heard.spokenThrough = QStringLiteral("Speakers");
-    heard.heardAtMs = 9876;
-    heard.score = 0.987654;
-    heard.isFound = true;
-    heard.latencyMs = -12.4;
-    heard.levelDbfs = -20.54;
-    heard.peakDbfs = -3.16;
-    heard.isSilent = false;
-    heard.isMonoInStereo = true;
-    heard.answer = true;
-    record.recording = heard;
-    const QJsonObject expected{{QStringLiteral("microphone"), QStringLiteral("Mic")},
+    record.recording = microphoneRecord().recording;
+    const QJsonObject expected{{QStringLiteral("microphone"), QStringLiteral("Mic <1>")},
                                {QStringLiteral("spokenThrough"), QStringLiteral("Speakers")},
                                {QStringLiteral("heardAtMs"), 9876},
                                {QStringLiteral("score"), 0.9877},
@@ -181,7 +143,7 @@ void TestRunReport::tellsWhatIsNotKnownAsNull()
     const QJsonObject report = parsed(record);
     QVERIFY(report.value(QLatin1String("endedUtc")).isNull());
     const QJsonObject digit = report.value(QLatin1String("digits")).toArray().at(0).toObject();
-    for (const char *key : {"playedAtMs", "heard", "typed", "latencyMs"})
+    for (const char *key : {"playedAtMs", "played", "measured", "heard", "typed", "latencyMs"})
         QVERIFY2(digit.value(QLatin1String(key)).isNull(), key);
 }
 
@@ -212,6 +174,7 @@ void TestRunReport::namesEachVerdict()
     QCOMPARE(verdict.value(QLatin1String("code")).toInt(), told);
     QCOMPARE(verdict.value(QLatin1String("name")).toString(), name);
     QCOMPARE(report.value(QLatin1String("moduleCode")).toInt(), 1);
+    QVERIFY(!report.value(QLatin1String("stopped")).toBool());
     QCOMPARE(report.value(QLatin1String("reason")).toString(), QStringLiteral("listener lost"));
 }
 
@@ -322,7 +285,7 @@ void TestRunReport::writesTheWholeFile()
 void TestRunReport::keepsTheOldFileWhenItCannotWrite()
 {
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("report"));
+    const QString file = folder.filePath(QStringLiteral("report.json"));
     QVERIFY(QDir().mkpath(file + QStringLiteral("/kept")));
     QString error;
     QVERIFY(!host::writeRunReport(playbackRecord(), file, &error));
@@ -339,17 +302,96 @@ void TestRunReport::namesTheFileThatItCannotWrite()
     QVERIFY2(error.contains(QLatin1Char('\'') + file + QLatin1Char('\'')) && !error.contains(u'\n'), qPrintable(error));
 }
 
-void TestRunReport::drawsATable()
+void TestRunReport::keepsToItsSchema_data()
 {
-    RunRecord record;
-    record.digits = {missedDigit(), heardDigit()};
-    QCOMPARE(host::digitTable(record),
-             QStringLiteral("Sequence  Digit  Played at ms  Heard  Typed  Score  Margin  Latency ms    dBFS  Clipped\n"
-                            "       1      1             -      -      -   0.00    0.00           -  -120.0       no\n"
-                            "       2      3          4321      7      0   0.99    0.50          61   -21.0      yes\n"));
+    QTest::addColumn<RunRecord>("record");
+    RunRecord passed = fullRecord();
+    passed.moduleCode = passed.code = 0;
+    passed.messages.clear();
+    RunRecord unfinished = playbackRecord();
+    unfinished.endedUtc = QDateTime();
+    unfinished.digits = {missedDigit()};
+    unfinished.digits.first().measured.emplace();
+    QTest::newRow("failed") << fullRecord();
+    QTest::newRow("passed") << passed;
+    QTest::newRow("nothing measurable") << unfinished;
+    QTest::newRow("microphone") << microphoneRecord();
+    RunRecord unasked = microphoneRecord();
+    unasked.recording = host::HeardRecording();
+    QTest::newRow("microphone unheard") << unasked;
+    RunRecord refused = playbackRecord();
+    refused.wasModuleCalled = false;
+    QTest::newRow("module not called") << refused;
 }
 
-void TestRunReport::drawsNoTableWithoutDigits() { QCOMPARE(host::digitTable(RunRecord()), QString()); }
+void TestRunReport::keepsToItsSchema()
+{
+    QFETCH(const RunRecord, record);
+    const QStringList errors = schemaErrors(parsed(record), schema());
+    QVERIFY2(errors.isEmpty(), qPrintable(errors.join(u'\n')));
+}
+
+void TestRunReport::schemaRefusesWhatIsWrong_data()
+{
+    QTest::addColumn<QString>("member");
+    QTest::addColumn<QJsonValue>("value");
+    QTest::newRow("another version") << QStringLiteral("formatVersion") << QJsonValue(2);
+    QTest::newRow("local time") << QStringLiteral("startedUtc") << QJsonValue(QStringLiteral("2026-03-01T10:00:00.250+01:00"));
+    QTest::newRow("missing") << QStringLiteral("limits") << QJsonValue(QJsonValue::Undefined);
+    QTest::newRow("unknown member") << QStringLiteral("host") << QJsonValue(1);
+    QTest::newRow("another code") << QStringLiteral("verdict")
+                                  << QJsonValue(QJsonObject{{QStringLiteral("code"), 2},
+                                                            {QStringLiteral("name"), QStringLiteral("passed")}});
+    QTest::newRow("a digit beyond nine") << QStringLiteral("digits")
+                                         << QJsonValue(QJsonArray{QJsonObject{{QStringLiteral("heard"), 10}}});
+    QTest::newRow("another answer") << QStringLiteral("recording")
+                                    << QJsonValue(QJsonObject{{QStringLiteral("answer"), QStringLiteral("perhaps")}});
+    QTest::newRow("a text for a flag") << QStringLiteral("stopped") << QJsonValue(QStringLiteral("no"));
+}
+
+void TestRunReport::schemaRefusesWhatIsWrong()
+{
+    QFETCH(const QString, member);
+    QFETCH(const QJsonValue, value);
+    QJsonObject report = parsed(fullRecord());
+    report.insert(member, value);
+    const QStringList errors = schemaErrors(report, schema());
+    QVERIFY(!errors.isEmpty());
+    for (const QString &error : errors)
+        QVERIFY2(error.startsWith(QStringLiteral("report.") + member), qPrintable(error));
+}
+
+void TestRunReport::bringsKeysAndTranslations()
+{
+    const auto lookUp = [](const QString &key) { return QStringLiteral("\u300C%1\u300D").arg(key); };
+    const QJsonObject report = QJsonDocument::fromJson(host::runReport(playbackRecord(), lookUp)).object();
+    const QJsonValue message = report.value(QLatin1String("messages"))[0];
+    QCOMPARE(message[QLatin1String("text")].toString(), QStringLiteral("USER_DID_NOT_REPORT_SOUND"));
+    QCOMPARE(message[QLatin1String("translated")].toString(), QStringLiteral("\u300CUSER_DID_NOT_REPORT_SOUND\u300D"));
+    QCOMPARE(report.value(QLatin1String("test"))[QLatin1String("translated")].toString(),
+             QStringLiteral("\u300CAUDIO_PLAYBACK_TEST\u300D"));
+    QCOMPARE(report.value(QLatin1String("progress"))[0][QLatin1String("translated")].toString(), QString());
+    QCOMPARE(parsed(playbackRecord()).value(QLatin1String("messages"))[0][QLatin1String("translated")].toString(),
+             QStringLiteral("USER_DID_NOT_REPORT_SOUND"));
+}
+
+void TestRunReport::knowsWhatWasPlayedWhenItWasAccepted()
+{
+    RunRecord record = fullRecord();
+    record.moduleCode = record.code = 0;
+    const QJsonValue digits = parsed(record).value(QLatin1String("digits"));
+    QVERIFY(digits[0][QLatin1String("played")].isNull()); // of the first sequence, which was not accepted
+    QCOMPARE(digits[1][QLatin1String("played")].toInt(-1), 0);
+}
+
+void TestRunReport::refusesAnUnknownSuffix()
+{
+    const QTemporaryDir folder;
+    QString error;
+    QVERIFY(!host::writeRunReport(playbackRecord(), folder.filePath(QStringLiteral("report.doc")), &error));
+    QVERIFY2(error.endsWith(QStringLiteral("its name must end in .json, .xml, .html or .txt")), qPrintable(error));
+    QVERIFY(QDir(folder.path()).isEmpty());
+}
 
 QTEST_GUILESS_MAIN(TestRunReport)
 #include "tst_run_report.moc"

@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "autotests/host/cli/cli_process.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QObject>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QByteArray report =
+    R"({"formatVersion":1,"test":{"nameKey":"AUDIO_PLAYBACK_TEST","translated":"Wiedergabe"},)"
+    R"("device":{"name":"Speakers"},"language":"de_DE","verdict":{"code":3,"name":"cannot be performed"}})";
+
+bool write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+QByteArray read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QJsonObject parsed(const QByteArray &bytes) { return QJsonDocument::fromJson(bytes).object(); }
+
+} // namespace
+
+// The commands that read and write files, and what `run` refuses before it starts anything.
+class TestCliCommands : public QObject {
+    Q_OBJECT
+
+private slots:
+    void convertsAReport();
+    void printsAReport();
+    void refusesWhatIsNoReport_data();
+    void refusesWhatIsNoReport();
+    void leavesNothingWhereItCannotWrite();
+    void findsTheOwnClipsIntact();
+    void findsADamagedClip();
+    void needsAManifest();
+    void tellsWhatIsLacking();
+    void refusesVirtualDevices_data();
+    void refusesVirtualDevices();
+    void refusesRuns_data();
+    void refusesRuns();
+};
+
+void TestCliCommands::convertsAReport()
+{
+    const QTemporaryDir folder;
+    const QString source = folder.filePath(QStringLiteral("r.json"));
+    QVERIFY(write(source, report));
+    const QString page = folder.filePath(QStringLiteral("Bericht \u8033.html"));
+    const QString suite = folder.filePath(QStringLiteral("r.xml"));
+    const CliRun run = runCli({QStringLiteral("report"), source, QStringLiteral("-o"), page, QStringLiteral("-o"), suite});
+    QCOMPARE(run.errors, QByteArray());
+    QCOMPARE(run.output, QByteArray());
+    QCOMPARE(run.code, 0);
+    QVERIFY(read(page).startsWith("<!DOCTYPE html>"));
+    QVERIFY(read(page).contains("<span lang=\"de-DE\">Wiedergabe</span>"));
+    QVERIFY(read(suite).contains("<skipped message=\"cannot be performed\""));
+}
+
+void TestCliCommands::printsAReport()
+{
+    const QTemporaryDir folder;
+    const QString source = folder.filePath(QStringLiteral("r.json"));
+    QVERIFY(write(source, report));
+    const CliRun run = runCli({QStringLiteral("report"), source});
+    QVERIFY2(run.output.startsWith("Wiedergabe (AUDIO_PLAYBACK_TEST): cannot be performed\n"), run.output.constData());
+    QVERIFY(!run.output.contains('\r'));
+    QCOMPARE(run.code, 0);
+}
+
+void TestCliCommands::refusesWhatIsNoReport_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QByteArray>("complaint");
+    QTest::newRow("not JSON") << QByteArray("<html>") << QString() << QByteArray("cannot be read: it is no JSON: ");
+    QTest::newRow("other JSON") << QByteArray("{}") << QString() << QByteArray("cannot be read: it is no report of a test\n");
+    QTest::newRow("newer") << QByteArray("{\"formatVersion\":99}") << QString() << QByteArray("newer than this program\n");
+    QTest::newRow("unknown suffix") << report << QStringLiteral("r.pdf") << QByteArray("its name must end in .json");
+}
+
+void TestCliCommands::refusesWhatIsNoReport()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QString, output);
+    QFETCH(const QByteArray, complaint);
+    const QTemporaryDir folder;
+    const QString source = folder.filePath(QStringLiteral("r.json"));
+    QVERIFY(write(source, content));
+    QStringList arguments{QStringLiteral("report"), source};
+    if (!output.isEmpty())
+        arguments << QStringLiteral("--output") << folder.filePath(output);
+    const CliRun run = runCli(arguments);
+    QVERIFY2(run.errors.contains(complaint), run.errors.constData());
+    QCOMPARE(run.output, QByteArray());
+    QCOMPARE(run.code, 2);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+}
+
+void TestCliCommands::leavesNothingWhereItCannotWrite()
+{
+    const QTemporaryDir folder;
+    const QString source = folder.filePath(QStringLiteral("r.json"));
+    QVERIFY(write(source, report));
+    const QStringList arguments{QStringLiteral("report"), source, QStringLiteral("--output"),
+                                folder.filePath(QStringLiteral("none/r.html"))};
+    QCOMPARE(runCli(arguments).code, 4);
+    QCOMPARE(runCli(arguments + QStringList{QStringLiteral("--gnu-exit")}).code, 99);
+}
+
+void TestCliCommands::findsTheOwnClipsIntact()
+{
+    const CliRun run = runCli({QStringLiteral("clips"), QStringLiteral("verify")});
+    QCOMPARE(run.errors, QByteArray());
+    QCOMPARE(run.output.count("10 of 10 clips are as supplied\n"), 9);
+    QCOMPARE(run.code, 0);
+}
+
+void TestCliCommands::findsADamagedClip()
+{
+    const QTemporaryDir folder;
+    const QString own = bundleFolder() + QStringLiteral("/audio_files/");
+    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("nl_NL")));
+    QVERIFY(QFile::copy(own + QStringLiteral("manifest.sha256"), folder.filePath(QStringLiteral("manifest.sha256"))));
+    for (int digit = 0; digit < 9; ++digit) {
+        const QString name = QStringLiteral("nl_NL/%1_nl_NL.wav").arg(digit);
+        QVERIFY(write(folder.filePath(name), read(own + name) + (digit == 4 ? "x" : "")));
+    }
+    QStringList arguments{QStringLiteral("clips"), QStringLiteral("verify"),     QStringLiteral("--folder"),
+                          folder.path(),           QStringLiteral("--language"), QStringLiteral("nl_NL")};
+    const CliRun run = runCli(arguments);
+    QCOMPARE(run.output, QByteArray("nl_NL  8 of 10 clips are as supplied\n"
+                                    "  nl_NL/4_nl_NL.wav: not the one that was supplied\n"
+                                    "  nl_NL/9_nl_NL.wav: missing\n"));
+    QCOMPARE(run.code, 1);
+
+    const CliRun json = runCli(arguments << QStringLiteral("--json"));
+    QCOMPARE(json.code, 1);
+    const QJsonValue language = parsed(json.output).value(QLatin1String("languages"))[0];
+    QCOMPARE(language[QLatin1String("intact")].toInt(), 8);
+    QCOMPARE(language[QLatin1String("faults")][1][QLatin1String("file")].toString(), QStringLiteral("nl_NL/9_nl_NL.wav"));
+}
+
+void TestCliCommands::needsAManifest()
+{
+    const QTemporaryDir folder;
+    const QStringList arguments{QStringLiteral("clips"), QStringLiteral("verify"), QStringLiteral("--folder"), folder.path()};
+    const CliRun run = runCli(arguments);
+    QCOMPARE(run.errors, QByteArray("TamrexDiagnosticsCLI: there is no manifest.sha256 to compare the clips with\n"));
+    QCOMPARE(run.code, 3);
+    QCOMPARE(runCli(arguments + QStringList{QStringLiteral("--gnu-exit")}).code, 77);
+}
+
+// A program without its companions knows what it cannot do.
+void TestCliCommands::tellsWhatIsLacking()
+{
+    const QTemporaryDir folder;
+    const QDir bundle(bundleFolder());
+    for (const QString &name : bundle.entryList(QDir::Files)) {
+        if (!name.startsWith(QStringLiteral("audio_listener")))
+            QVERIFY(QFile::copy(bundle.filePath(name), QDir(folder.path()).filePath(name)));
+    }
+    const QStringList arguments{QStringLiteral("info"), QStringLiteral("--self-check")};
+    const CliRun run = runCli(arguments, cliEnvironment(), cliPath(folder.path()));
+    QVERIFY2(run.output.contains("program: audio_listener     LACKING: "), run.output.constData());
+    QVERIFY(run.output.contains("program: TamrexDiagnostics  ok\n"));
+    QVERIFY(run.output.contains("clips: ja_JP                LACKING: "));
+    QVERIFY(run.output.contains("pictures: png               ok\n"));
+    QCOMPARE(run.code, 3);
+
+    const CliRun json = runCli(arguments + QStringList{QStringLiteral("--json")});
+    const QJsonArray checks = parsed(json.output).value(QLatin1String("checks")).toArray();
+    QCOMPARE(checks.size(), 16);
+    QVERIFY(checks[0][QLatin1String("ok")].toBool());
+}
+
+void TestCliCommands::refusesVirtualDevices_data()
+{
+    QTest::addColumn<QStringList>("more");
+    QTest::addColumn<int>("code");
+    QTest::newRow("plain") << QStringList() << 3;
+    QTest::newRow("for build tools") << QStringList{QStringLiteral("--gnu-exit")} << 77;
+}
+
+void TestCliCommands::refusesVirtualDevices()
+{
+    QFETCH(const QStringList, more);
+    const CliRun run =
+        runCli(QStringList{QStringLiteral("run"), QStringLiteral("--device"), QStringLiteral("Speakers")} + more);
+    QVERIFY2(run.errors.startsWith("TamrexDiagnosticsCLI: 'Speakers' is a virtual device: "), run.errors.constData());
+    QTEST(run.code, "code");
+}
+
+void TestCliCommands::refusesRuns_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("complaint");
+    const auto add = [](const char *name, const QStringList &arguments, const QByteArray &complaint) {
+        QTest::newRow(name) << QStringList{QStringLiteral("run")} + arguments << complaint;
+    };
+    add("no device", {}, "'run' needs '--device NAME' (list shows them)");
+    add("unknown device", {QStringLiteral("--device=Nothing")}, "unknown device 'Nothing' (list shows them)");
+    add("unknown format", {QStringLiteral("--device=0"), QStringLiteral("--report=r.doc")},
+        "the report 'r.doc' cannot be written: its name must end in .json, .xml, .html or .txt");
+    add("no such folder", {QStringLiteral("--device=0"), QStringLiteral("--config=no/such")},
+        "'no/such' is not a folder that can be used (--config)");
+    add("two languages", {QStringLiteral("--device=0"), QStringLiteral("--config=."), QStringLiteral("--language=de_DE")},
+        "'--language' and '--config' exclude each other");
+}
+
+void TestCliCommands::refusesRuns()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QByteArray, complaint);
+    const CliRun run = runCli(arguments);
+    QCOMPARE(run.errors, "TamrexDiagnosticsCLI: " + complaint + "\n");
+    QCOMPARE(run.code, 2);
+}
+
+QTEST_GUILESS_MAIN(TestCliCommands)
+#include "tst_cli_commands.moc"

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "host/cli/exit_code.h"
+
+#include <QList>
+#include <QString>
+
+namespace host {
+
+class Console;
+
+/// One ability of this installation.
+struct SelfCheck {
+    QString name; ///< such as "pictures: svg"
+    bool isThere = false;
+    QString lacking; ///< what does not work without it
+};
+
+/// Looks for the formats of the dialogs' pictures, for the programs and libraries that belong beside this one, and for the
+/// clips. Needs the application object.
+QList<SelfCheck> checkInstallation();
+
+/// Prints them, as text or as a JSON document, and returns 3 when something is lacking.
+ExitCode runSelfCheck(bool isJson, Console &console);
+
+} // namespace host

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/reports/report_formats.h"
+
+#include "host/reports/html_report.h"
+#include "host/reports/junit_report.h"
+#include "host/reports/run_report.h"
+#include "host/reports/text_report.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+
+namespace host {
+
+std::optional<ReportFormat> reportFormatOf(const QString &file)
+{
+    const QString suffix = QFileInfo(file).suffix().toLower();
+    if (suffix == QLatin1String("json"))
+        return ReportFormat::json;
+    if (suffix == QLatin1String("xml"))
+        return ReportFormat::junit;
+    if (suffix == QLatin1String("html") || suffix == QLatin1String("htm"))
+        return ReportFormat::html;
+    return suffix == QLatin1String("txt") ? std::optional(ReportFormat::text) : std::nullopt;
+}
+
+QString reportSuffixes() { return QStringLiteral("its name must end in .json, .xml, .html or .txt"); }
+
+std::variant<QJsonObject, ReportError> readReport(const QByteArray &bytes)
+{
+    QJsonParseError parsing;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &parsing);
+    if (parsing.error != QJsonParseError::NoError)
+        return ReportError{
+            QStringLiteral("it is no JSON: %1 at byte %2").arg(parsing.errorString(), QString::number(parsing.offset))};
+    const int version = document.object().value(QLatin1String("formatVersion")).toInt();
+    if (version == reportFormatVersion)
+        return document.object();
+    return ReportError{version > reportFormatVersion ? QStringLiteral("its format is newer than this program")
+                                                     : QStringLiteral("it is no report of a test")};
+}
+
+QByteArray convertReport(const QJsonObject &report, ReportFormat format)
+{
+    switch (format) {
+    case ReportFormat::junit:
+        return junitReport(report);
+    case ReportFormat::html:
+        return htmlReport(report);
+    case ReportFormat::text:
+        return textReport(report);
+    case ReportFormat::json:
+        break;
+    }
+    return QJsonDocument(report).toJson(QJsonDocument::Indented);
+}
+
+} // namespace host

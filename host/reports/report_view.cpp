@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/reports/report_view.h"
+
+#include "contract/result_codes.h"
+
+#include <QDateTime>
+
+namespace host {
+
+namespace {
+
+const QString unknownValue = QStringLiteral("-");
+
+bool isAllowed(QChar letter)
+{
+    const ushort code = letter.unicode();
+    const bool isControl = code < 0x20 || (code >= 0x7F && code < 0xA0);
+    return code == u'\n' || code == u'\t' || (!isControl && code != 0xFFFE && code != 0xFFFF);
+}
+
+QString numberText(const QJsonValue &value, int decimals)
+{
+    return value.isDouble() ? QString::number(value.toDouble(), 'f', decimals) : unknownValue;
+}
+
+QString yesOrNo(bool value) { return value ? QStringLiteral("yes") : QStringLiteral("no"); }
+
+QStringList digitHeader()
+{
+    return {QStringLiteral("Sequence"),     QStringLiteral("Digit"),       QStringLiteral("Played at (ms)"),
+            QStringLiteral("Played"),       QStringLiteral("Heard"),       QStringLiteral("Typed"),
+            QStringLiteral("Score"),        QStringLiteral("Margin"),      QStringLiteral("Latency (ms)"),
+            QStringLiteral("Level (dBFS)"), QStringLiteral("Peak (dBFS)"), QStringLiteral("SNR (dB)"),
+            QStringLiteral("Clock (ppm)"),  QStringLiteral("Clipped")};
+}
+
+QStringList digitCells(const QJsonObject &digit)
+{
+    const QJsonObject measured = digit.value(QLatin1String("measured")).toObject();
+    QStringList cells;
+    const std::pair<const char *, int> numbers[] = {{"sequence", 0},  {"position", 0}, {"playedAtMs", 0}, {"played", 0},
+                                                    {"heard", 0},     {"typed", 0},    {"score", 2},      {"margin", 2},
+                                                    {"latencyMs", 0}, {"levelDbfs", 1}};
+    for (const auto &[key, decimals] : numbers)
+        cells.append(numberText(digit.value(QLatin1String(key)), decimals));
+    for (const char *key : {"peakDbfs", "snrDb", "clockErrorPpm"})
+        cells.append(numberText(measured.value(QLatin1String(key)), 1));
+    cells.append(yesOrNo(digit.value(QLatin1String("clipped")).toBool()));
+    return cells;
+}
+
+} // namespace
+
+QString plainText(QString text)
+{
+    for (qsizetype index = 0; index < text.size(); ++index) {
+        const QChar letter = text.at(index);
+        const bool isPair = letter.isHighSurrogate() && index + 1 < text.size() && text.at(index + 1).isLowSurrogate();
+        if (isPair)
+            ++index;
+        else if (letter.isSurrogate() || !isAllowed(letter))
+            text[index] = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
+QString ReportView::text(const char *key) const { return plainText(report_.value(QLatin1String(key)).toString()); }
+
+bool ReportView::flag(const char *key) const { return report_.value(QLatin1String(key)).toBool(); }
+
+QJsonArray ReportView::list(const char *key) const { return report_.value(QLatin1String(key)).toArray(); }
+
+QStringList ReportView::lines(const char *key) const
+{
+    QStringList lines;
+    const QJsonArray values = list(key);
+    for (const QJsonValue value : values)
+        lines.append(plainText(value.toString()));
+    return lines;
+}
+
+int ReportView::code() const
+{
+    const QJsonValue code = report_.value(QLatin1String("verdict"))[QLatin1String("code")];
+    return code.toInt(static_cast<int>(ostra::result::notCompleted));
+}
+
+QString ReportView::verdictName() const
+{
+    return plainText(report_.value(QLatin1String("verdict"))[QLatin1String("name")].toString(QStringLiteral("not completed")));
+}
+
+bool ReportView::isMicrophoneTest() const
+{
+    return report_.value(QLatin1String("test"))[QLatin1String("letter")].toString() == QLatin1String("m");
+}
+
+QString ReportView::testKey() const
+{
+    return plainText(report_.value(QLatin1String("test"))[QLatin1String("nameKey")].toString());
+}
+
+QString ReportView::testName() const
+{
+    return plainText(report_.value(QLatin1String("test"))[QLatin1String("translated")].toString(testKey()));
+}
+
+QString ReportView::deviceName() const
+{
+    return plainText(report_.value(QLatin1String("device"))[QLatin1String("name")].toString());
+}
+
+QString ReportView::languageTag() const
+{
+    const QString code = text("language");
+    return code.isEmpty() ? QStringLiteral("en") : QString(code).replace(u'_', u'-');
+}
+
+double ReportView::seconds() const
+{
+    const QDateTime started = QDateTime::fromString(text("startedUtc"), Qt::ISODateWithMs);
+    const QDateTime ended = QDateTime::fromString(text("endedUtc"), Qt::ISODateWithMs);
+    constexpr double msPerSecond = 1000.0;
+    return started.isValid() && ended.isValid() ? static_cast<double>(started.msecsTo(ended)) / msPerSecond : 0.0;
+}
+
+QList<std::pair<QString, QString>> ReportView::facts() const
+{
+    QList<std::pair<QString, QString>> facts{
+        {QStringLiteral("Device"), deviceName()},
+        {QStringLiteral("Language"), text("language")},
+        {QStringLiteral("Started (UTC)"), text("startedUtc")},
+        {QStringLiteral("Ended (UTC)"), text("endedUtc")},
+        {QStringLiteral("Duration (s)"), QString::number(seconds(), 'f', 1)},
+        {QStringLiteral("Result code"), QString::number(code())},
+        {QStringLiteral("Module's code"), numberText(report_.value(QLatin1String("moduleCode")), 0)},
+        {QStringLiteral("Unattended"), yesOrNo(flag("unattended"))},
+        {QStringLiteral("Stopped"), yesOrNo(flag("stopped"))},
+        {QStringLiteral("Listened to"), text("listenedTo")},
+        {QStringLiteral("Reason"), text("reason")},
+        {QStringLiteral("Volumes put back"), lines("restoredVolumes").join(QStringLiteral(", "))},
+        {QStringLiteral("Volumes"), text("volumeComplaint")},
+        {QStringLiteral("Pictures"), lines("screenshots").join(QStringLiteral(", "))}};
+    facts.removeIf([](const auto &fact) { return fact.second.isEmpty(); });
+    return facts;
+}
+
+QList<std::pair<QString, QString>> ReportView::recordingFacts() const
+{
+    const QJsonObject heard = report_.value(QLatin1String("recording")).toObject();
+    if (heard.isEmpty())
+        return {};
+    const auto number = [&heard](const char *key, int decimals) {
+        return numberText(heard.value(QLatin1String(key)), decimals);
+    };
+    const auto flag = [&heard](const char *key) { return yesOrNo(heard.value(QLatin1String(key)).toBool()); };
+    const auto words = [&heard](const char *key) { return plainText(heard.value(QLatin1String(key)).toString(unknownValue)); };
+    return {{QStringLiteral("Microphone"), words("microphone")},
+            {QStringLiteral("Spoken through"), words("spokenThrough")},
+            {QStringLiteral("Sentence found"), flag("found")},
+            {QStringLiteral("Heard at (ms)"), number("heardAtMs", 0)},
+            {QStringLiteral("Score"), number("score", 2)},
+            {QStringLiteral("Latency (ms)"), number("latencyMs", 0)},
+            {QStringLiteral("Level (dBFS)"), number("levelDbfs", 1)},
+            {QStringLiteral("Peak (dBFS)"), number("peakDbfs", 1)},
+            {QStringLiteral("Clipped"), flag("clipped")},
+            {QStringLiteral("Silent"), flag("silent")},
+            {QStringLiteral("Mono in stereo"), flag("monoInStereo")},
+            {QStringLiteral("Answer"), words("answer")}};
+}
+
+QList<QStringList> ReportView::digitRows() const
+{
+    const QJsonArray digits = list("digits");
+    if (digits.isEmpty())
+        return {};
+    QList<QStringList> rows{digitHeader()};
+    for (const QJsonValue digit : digits)
+        rows.append(digitCells(digit.toObject()));
+    return rows;
+}
+
+} // namespace host
