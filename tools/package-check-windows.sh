@@ -38,6 +38,26 @@ run_programs() { # folder
     wineserver --kill || true
 }
 
+# Under Wine it can prove some things, and must find nothing wrong.
+check_field_check() { # folder with the unpacked zip
+    local program=$packages/field-check.exe results=$work/results
+    [ -f "$program" ] || fail "there is no field check"
+    cp "$program" "$setup" "$1"
+    cd "$work"
+    "$here/tools/virtual-sound-card" run --sink Speakers --source Mic -- xvfb-run --auto-servernum \
+        --server-args="-screen 0 1280x1024x24" timeout 600 wine "$1/field-check.exe" --nobody --results "Z:$results" >"$log" 2>&1 ||
+        fail "the field check ended with $?"
+    wineserver --kill || true
+    cmake "-DREPORT=$results/field-check.json" -P "$here/tools/field-check/read_report.cmake" >"$log" 2>&1 ||
+        fail "the field check's report cannot be read"
+    [ "$(grep -cE '^[a-z-]+: (proved|not possible here)\.' "$log")" -eq 9 ] || fail "the field check has other findings"
+    for name in com-on-worker-threads planted-library installer; do
+        grep -q "^$name: proved" "$log" || fail "the field check does not prove $name"
+    done
+    head -c 8 "$results/screen.png" | grep -aq PNG || fail "the field check took no picture"
+    cat "$log"
+}
+
 check_packages() {
     needs wine
     needs xvfb-run
@@ -59,6 +79,7 @@ check_packages() {
     check_imports "$folder"
     run_programs "$folder"
     say "windows: the zip runs"
+    local unpacked=$folder name
 
     before=$(prefix_files)
     registered=$(registry || true)
@@ -83,4 +104,5 @@ check_packages() {
     added "$before" "$after" | grep -v '/AppData/Local\(/Tamrex\|$\)' >"$log" || true
     [ ! -s "$log" ] || fail "the uninstaller left files"
     [ "$(registry || true)" = "$registered" ] || fail "the uninstaller left entries in the registry: $(registry)"
+    check_field_check "$(dirname "$unpacked")"
 }
