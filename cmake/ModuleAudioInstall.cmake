@@ -22,3 +22,6 @@ if(WIN32)
         install(DIRECTORY "${qt_bin}/../plugins/${plugins}" DESTINATION .)
     endforeach()
 endif()
+
+include(ModuleAudioSdk)
+ma_install_sdk(bundle INCLUDE_DIR include/module_audio MODULE_DIR . CONFIG_DIR lib/cmake/module_audio OPTIONS COMPONENT sdk)

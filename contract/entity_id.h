@@ -10,15 +10,18 @@ namespace ostra {
 /// Two identities are compared by `key` alone. The fields keep the low 24 bits of category and index; the key takes both
 /// unmasked, so an overlong category overlaps the module number: (15, 0x01000001, 2) and (15, 1, 2) share one key.
 struct EntityId {
-    static constexpr std::uint32_t fieldMask = 0xFFFFFFU;
-    static constexpr unsigned fieldBits = 24;
+    static constexpr std::uint32_t fieldMask = 0xFFFFFFU; ///< the bits that the fields keep
+    static constexpr unsigned fieldBits = 24;             ///< how far the key shifts
 
+    /// Fills all four fields.
     constexpr EntityId(std::uint16_t moduleNumber, std::uint32_t categoryNumber, std::uint32_t indexNumber) noexcept
         : module(moduleNumber), category(categoryNumber & fieldMask), index(indexNumber & fieldMask),
           key((((std::uint64_t{moduleNumber} << fieldBits) | categoryNumber) << fieldBits) | indexNumber)
     {}
 
+    /// By `key` alone.
     friend constexpr bool operator==(const EntityId &left, const EntityId &right) noexcept { return left.key == right.key; }
+    /// By `key` alone.
     friend constexpr bool operator<(const EntityId &left, const EntityId &right) noexcept { return left.key < right.key; }
 
     std::uint16_t module;   ///< module number, 15 for this module

@@ -14,6 +14,7 @@ namespace ostra {
 /// A question, a prompt or a dialog that a test puts to the user through `ProgressReporter::requestInput`. Owned by the test.
 class InputRequest {
 public:
+    /// The keys of title and body, and the three options.
     InputRequest(std::string titleKey, std::string textKey, std::uint32_t first, std::uint32_t second, std::uint32_t third)
         : title(std::move(titleKey)), text(std::move(textKey)), firstOption(first), secondOption(second), thirdOption(third)
     {}

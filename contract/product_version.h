@@ -13,6 +13,7 @@ namespace ostra {
 /// One static instance lives in the module; the host never destroys it. Any thread.
 class ProductVersion {
 public:
+    /// The four numbers.
     constexpr ProductVersion(std::uint32_t major, std::uint32_t minor, std::uint32_t build, std::uint32_t revision) noexcept
         : major_(major), minor_(minor), build_(build), revision_(revision)
     {}
@@ -20,10 +21,10 @@ public:
     ProductVersion &operator=(const ProductVersion &) = delete;
 
     virtual ~ProductVersion() = default;                                  // slot 0
-    virtual std::uint32_t major() const noexcept { return major_; }       // slot 1
-    virtual std::uint32_t minor() const noexcept { return minor_; }       // slot 2
-    virtual std::uint32_t build() const noexcept { return build_; }       // slot 3
-    virtual std::uint32_t revision() const noexcept { return revision_; } // slot 4
+    virtual std::uint32_t major() const noexcept { return major_; }       ///< Slot 1.
+    virtual std::uint32_t minor() const noexcept { return minor_; }       ///< Slot 2.
+    virtual std::uint32_t build() const noexcept { return build_; }       ///< Slot 3.
+    virtual std::uint32_t revision() const noexcept { return revision_; } ///< Slot 4.
 
 private:
     std::uint32_t major_;

@@ -19,6 +19,7 @@ using NameTable = std::map<EntityId, std::vector<std::string>>;
 /// packed key; an unknown identity gives the empty text.
 class Resource {
 public:
+    /// Empty tables and texts.
     explicit Resource(const EntityId &id) : id_(id) {}
     Resource(const Resource &) = delete;
     Resource &operator=(const Resource &) = delete;
@@ -55,8 +56,11 @@ public:
     const ParameterTable &parameterTable() const noexcept { return parameterTable_; }
 
 protected:
+    /// For slot 6.
     void setHelpText(std::string text) { helpText_ = std::move(text); }
+    /// For slot 9; a key that is there already stays as it is.
     void addTestNames(const EntityId &id, std::vector<std::string> names) { testNames_.emplace(id, std::move(names)); }
+    /// For slot 10; a key that is there already stays as it is.
     void addDiagnosticNames(const EntityId &id, std::vector<std::string> names)
     {
         diagnosticNames_.emplace(id, std::move(names));

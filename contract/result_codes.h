@@ -6,7 +6,7 @@
 /// Codes that `Test::run` returns; no other is produced.
 namespace ostra::result {
 
-inline constexpr std::uint32_t passed = 0;
+inline constexpr std::uint32_t passed = 0;            ///< nothing is wrong with the component
 inline constexpr std::uint32_t failed = 1;            ///< the component is defective or the user reported a fault
 inline constexpr std::uint32_t cannotBePerformed = 3; ///< the component cannot be tested or the user cannot be asked
 inline constexpr std::uint32_t notCompleted = 4;      ///< cancelled by an event, by the user or by an error

@@ -15,9 +15,9 @@ using PropertyList = std::vector<std::pair<std::string, std::string>>;
 
 /// Copy of what a component tells about itself, fields in this order.
 struct SystemComponentInfo {
-    std::string id;
-    std::string secondText; ///< empty for audio components
-    PropertyList properties;
+    std::string id;                                ///< the device name
+    std::string secondText;                        ///< empty for audio components
+    PropertyList properties;                       ///< in the order of the report
     std::map<std::string, std::string> attributes; ///< empty for audio components
 };
 
@@ -25,6 +25,7 @@ struct SystemComponentInfo {
 /// Read on the thread that refreshes.
 class SystemComponent {
 public:
+    /// `name` as the sound layer lists the device, UTF-8.
     explicit SystemComponent(std::string name) : name_(std::move(name)) {}
     SystemComponent(const SystemComponent &) = delete;
     SystemComponent &operator=(const SystemComponent &) = delete;
@@ -39,16 +40,16 @@ public:
     virtual std::vector<OpaqueRecord> subComponents() const { return subComponents_; }
     /// Slots 4 to 10 belong to other component families; an audio component answers null, true, true, nothing, true, nothing.
     virtual void *reserved4() = 0;
-    virtual bool reserved5() = 0;
-    virtual bool reserved6() = 0;
-    virtual void reserved7() = 0;
-    virtual bool reserved8() = 0;
-    virtual void reserved9() = 0;
-    virtual void reserved10() {}
+    virtual bool reserved5() = 0; ///< Slot 5.
+    virtual bool reserved6() = 0; ///< Slot 6.
+    virtual void reserved7() = 0; ///< Slot 7.
+    virtual bool reserved8() = 0; ///< Slot 8.
+    virtual void reserved9() = 0; ///< Slot 9.
+    virtual void reserved10() {}  ///< Slot 10.
 
 protected:
-    void setId(std::string id) { id_ = std::move(id); }
-    PropertyList &properties() noexcept { return properties_; }
+    void setId(std::string id) { id_ = std::move(id); }         ///< for `info()`
+    PropertyList &properties() noexcept { return properties_; } ///< for `info()`, to be filled
 
 private:
     std::string id_;

@@ -12,6 +12,7 @@ namespace ostra {
 /// Lists the devices of one kind. Owned by the module interface; one thread at a time.
 class SystemComponentManager {
 public:
+    /// An empty list.
     explicit SystemComponentManager(const EntityId &id) : id_(id) {}
     SystemComponentManager(const SystemComponentManager &) = delete;
     SystemComponentManager &operator=(const SystemComponentManager &) = delete;

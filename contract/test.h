@@ -22,6 +22,7 @@ using ParameterTable = std::map<std::uint32_t, std::string>;
 /// Lists of slots 5 and 7 and the meaning of the flags are the host's own; the base answers are all that this module needs.
 class Test {
 public:
+    /// The identity that the diagnostic and the resource know it by.
     explicit Test(const EntityId &id) : id_(id) {}
     Test(const Test &) = delete;
     Test &operator=(const Test &) = delete;

@@ -1,0 +1,15 @@
+# SPDX-License-Identifier: Apache-2.0
+# cmake -DREPORT=field-check.json -P read_report.cmake: one line for each finding, "check: state"; fails when the report is broken.
+file(READ "${REPORT}" report)
+string(JSON count LENGTH "${report}" findings)
+string(JSON version GET "${report}" schemaVersion)
+string(JSON windows GET "${report}" machine windows)
+message("schema ${version}, Windows ${windows}")
+math(EXPR last "${count} - 1")
+foreach(index RANGE ${last})
+    string(JSON finding GET "${report}" findings ${index})
+    foreach(member IN ITEMS check state statement detail figures)
+        string(JSON ${member} GET "${finding}" ${member})
+    endforeach()
+    message("${check}: ${state}. ${detail} ${figures}")
+endforeach()
