@@ -63,8 +63,8 @@ void compareWithPeers(const std::string &what, const QByteArray &content, bool i
     for (const ConfigPeer &peer : configPeers()) {
         if (isOneLine && !peer.takesHugeLines)
             continue;
-        const Comparison comparison =
-            compare([&] { return secondsToRead(files, ours, times); }, [&] { return secondsToRead(files, peer, times); });
+        const Comparison comparison = compare([&] { return fastest([&] { return secondsToRead(files, ours, times); }); },
+                                              [&] { return fastest([&] { return secondsToRead(files, peer, times); }); });
         print(ratioRow("configuration reader: " + what, peer.name, peer.limit, comparison));
     }
 }
@@ -73,7 +73,7 @@ void compareWithPeers(const std::string &what, const QByteArray &content, bool i
 
 void configFigures()
 {
-    compareWithPeers("product file of 100 lines", productConfiguration(), false, 50);
+    compareWithPeers("product file of 100 lines", productConfiguration(), false, 10);
     compareWithPeers("100,000 lines", longConfiguration(100'000), false, 1);
     compareWithPeers("one line of 10 MB", longLineConfiguration(10'000'000), true, 1);
 }

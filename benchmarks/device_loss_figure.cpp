@@ -96,7 +96,7 @@ void deviceLossFigure(const QStringList &arguments)
     ostra::audio::sdl().openDevice = &openNoted;
     std::vector<double> delays;
     for (qsizetype round = 1; round < arguments.size(); ++round) {
-        const std::string device = deviceName(QStringLiteral("Speakers %1").arg(round));
+        const std::string device = deviceName(QStringLiteral("Speakers %1").arg(round, 2, 10, QLatin1Char('0')));
         const auto unplug = [&] {
             QProcess::startDetached(arguments.at(0), {QStringLiteral("unload-module"), arguments.at(round)});
         };

@@ -51,6 +51,14 @@ double secondsOf(const std::function<void()> &work)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+double fastest(const Measurement &measurement)
+{
+    double least = measurement();
+    for (int time = 1; time < 5; ++time)
+        least = std::min(least, measurement());
+    return least;
+}
+
 void print(const Row &row)
 {
     std::printf("%s\t%s\t%s\t%s\t%s\t%s\n", row.figure.c_str(), row.peer.c_str(), row.goal.c_str(), row.measured.c_str(),

@@ -38,6 +38,9 @@ Comparison compare(const Measurement &subject, const Measurement &peer, std::siz
 /// Seconds that `work` takes.
 double secondsOf(const std::function<void()> &work);
 
+/// The least that five measurements say: what else the machine did meanwhile can only add to it.
+double fastest(const Measurement &measurement);
+
 /// A line of the table of figures.
 struct Row {
     std::string figure;

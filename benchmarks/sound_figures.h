@@ -12,7 +12,7 @@ void firstDigitFigure(const QStringList &arguments);
 /// A whole run with right answers against its designed waits, and the longest block of the GUI thread meanwhile.
 void playbackRunFigures(const QStringList &arguments);
 /// From the sound library's notice of a lost device to the worker's report. `arguments`: the sound server's tool, then for
-/// each device "Speakers 1", "Speakers 2", … the number of the server's module that makes it.
+/// each device "Speakers 01", "Speakers 02", … the number of the server's module that makes it.
 void deviceLossFigure(const QStringList &arguments);
 
 } // namespace bench
