@@ -18,7 +18,7 @@ show_progress() { # preset log
 }
 
 # Builds one preset, quiet but for its progress unless it fails; what there is to say goes to standard error.
-build_preset() { # preset
+build_preset() { # preset, targets if they are to be others than usual
     local preset=$1 log="build/$1.log"
     if ! mkdir -p build || ! : >>"$log"; then
         say "Cannot build here: the folder $(pwd)/build cannot be written."
@@ -27,21 +27,22 @@ build_preset() { # preset
     # Two builds in one tree would spoil each other.
     exec 8>"build/$preset.lock"
     flock --nonblock 8 || { say "Waiting for another build of $preset …"; flock 8; }
-    build_locked_preset "$preset" "$log" 8>&-
+    build_locked_preset "$preset" "$log" "${@:2}" 8>&-
     local code=$?
     exec 8>&-
     return "$code"
 }
 
-build_locked_preset() { # preset log
+build_locked_preset() { # preset log targets…
     local preset=$1 log=$2
+    local targets=("${@:3}")
     [ -f "build/$preset/build.ninja" ] || say "Configuring $preset …"
     if ! cmake --preset "$preset" >"$log" 2>&1; then
         cat "$log" >&2
         say "The configuration of $preset failed (its log is above)."
         return 1
     fi
-    if ! cmake --build --preset "$preset" 2>&1 | show_progress "$preset" "$log"; then
+    if ! cmake --build --preset "$preset" ${targets[@]+--target "${targets[@]}"} 2>&1 | show_progress "$preset" "$log"; then
         grep -vE '^\[[0-9]+/[0-9]+\] (Building|Automatic|Linking|Generating)' "$log" | tail -n 120 >&2
         say "The build of $preset failed."
         return 1

@@ -13,19 +13,27 @@ namespace ostra::utils {
 
 namespace {
 
-const QString textProperty = QStringLiteral("color");
-const QString fillProperty = QStringLiteral("background-color");
+// Functions, because a constant would be made when the library is loaded.
+QString textProperty() { return QStringLiteral("color"); }
+QString fillProperty() { return QStringLiteral("background-color"); }
 
-struct Icon {
+struct Named {
     QString selector;
-    StyleDeclaration declaration;
+    StyleSubject subject;
 };
 
 // Selectors of one list whose declarations become the same.
 struct Group {
-    StyleSubject subject;
+    StyleSubject subject; // of the first
     Surface surface;
-    QStringList selectors;
+    bool hasNoText = false;
+    bool hasNoFill = false;
+    QList<Named> selectors;
+};
+
+struct Icon {
+    Named button;
+    StyleDeclaration declaration;
 };
 
 bool isIcon(const QString &property) { return property == u"image" || property == u"icon"; }
@@ -41,6 +49,14 @@ bool isWithoutOwnFill(const StyleSubject &subject)
 {
     return subject.subControl.isEmpty() &&
            subject.isAnyOf({"", "QWidget", "QFrame", "QLabel", "QRadioButton", "QCheckBox", "QGroupBox"});
+}
+
+QString listOf(const QList<Named> &selectors)
+{
+    QString list;
+    for (const Named &named : selectors)
+        list.append(list.isEmpty() ? u"" : u", ").append(named.selector);
+    return list;
 }
 
 class Rewriter {
@@ -61,11 +77,13 @@ public:
 
 private:
     QList<Group> groupsOf(const StyleRule &rule);
+    Group &groupOf(QList<Group> &groups, const StyleSubject &subject);
     void rewriteRule(const StyleRule &rule);
     void rewriteDeclaration(const Group &group, StyleRule &target, const StyleDeclaration &declaration);
     void complete(const Group &group, const StyleRule &source, StyleRule &target) const;
     QString colorFor(const QString &property, const Surface &surface) const;
     QString recoloured(const QString &value, const QString &color) const { return recolour_ ? recolour_(value, color) : value; }
+    void addNamed(const Named &named);
     void addStatesOfNamedWidgets();
     void addState(const QString &state, bool buttonsOnly);
     void addIconsOfStates();
@@ -75,30 +93,45 @@ private:
     const IconRecolouring &recolour_;
     StyleRules target_;
     QSet<QString> selectors_; // every single one of the source
-    QStringList named_;       // those of them that colour the text of a named widget in its usual state
+    QList<Named> named_;      // those of them that colour the text of a named widget in its usual state
+    QSet<QString> isNamed_;   // their selectors
     QList<Icon> icons_;       // of named buttons
 };
+
+// There are few different groups, however long a list of selectors is: some kinds, fills and lines.
+Group &Rewriter::groupOf(QList<Group> &groups, const StyleSubject &subject)
+{
+    const Surface surface = surfaceOf(subject, colors_);
+    const bool hasNoText = isWithoutText(subject);
+    const bool hasNoFill = isWithoutOwnFill(subject);
+    for (Group &group : groups) {
+        if (group.surface.kind == surface.kind && group.surface.fill == surface.fill && group.surface.line == surface.line &&
+            group.hasNoText == hasNoText && group.hasNoFill == hasNoFill)
+            return group;
+    }
+    groups.append({subject, surface, hasNoText, hasNoFill, {}});
+    return groups.last();
+}
 
 QList<Group> Rewriter::groupsOf(const StyleRule &rule)
 {
     QList<Group> groups;
-    QHash<QString, qsizetype> positions;
     const QList<QStringView> selectors = splitOutsideOpaque(rule.selector(), u',');
     for (const QStringView view : selectors) {
         const QString selector = view.trimmed().toString();
         selectors_.insert(selector);
         const StyleSubject subject = StyleSubject::of(selector);
-        const Surface surface = surfaceOf(subject, colors_);
-        const QString key = QStringList{QString::number(static_cast<int>(surface.kind)), surface.fill, surface.line,
-                                        QString::number((isWithoutText(subject) ? 1 : 0) + (isWithoutOwnFill(subject) ? 2 : 0))}
-                                .join(u' ');
-        if (!positions.contains(key)) {
-            positions.insert(key, groups.size());
-            groups.append({subject, surface, {}});
-        }
-        groups[positions.value(key)].selectors.append(selector);
+        groupOf(groups, subject).selectors.append({selector, subject});
     }
     return groups;
+}
+
+void Rewriter::addNamed(const Named &named)
+{
+    if (!isNamed_.contains(named.selector)) {
+        isNamed_.insert(named.selector);
+        named_.append(named);
+    }
 }
 
 void Rewriter::rewriteRule(const StyleRule &rule)
@@ -106,15 +139,15 @@ void Rewriter::rewriteRule(const StyleRule &rule)
     const QList<StyleDeclaration> declarations = rule.declarations();
     const QList<Group> groups = groupsOf(rule);
     for (const Group &group : groups) {
-        StyleRule &target = target_.rule(group.selectors.join(QStringLiteral(", ")));
+        StyleRule &target = target_.rule(listOf(group.selectors));
         for (const StyleDeclaration &declaration : declarations)
             rewriteDeclaration(group, target, declaration);
         complete(group, rule, target);
-        const bool hasText = !target.value(textProperty).isNull();
-        for (const QString &selector : group.selectors) {
-            const StyleSubject subject = StyleSubject::of(selector);
+        const bool hasText = !target.value(textProperty()).isNull();
+        for (const Named &named : group.selectors) {
+            const StyleSubject &subject = named.subject;
             if (hasText && !subject.name.isEmpty() && subject.states.isEmpty() && subject.subControl.isEmpty())
-                named_.append(selector);
+                addNamed(named);
         }
     }
 }
@@ -129,9 +162,9 @@ void Rewriter::rewriteDeclaration(const Group &group, StyleRule &target, const S
         return;
     }
     target.set(property, recoloured(value, group.surface.text));
-    for (const QString &selector : group.selectors) {
-        if (isNamedButton(StyleSubject::of(selector)))
-            icons_.append({selector, declaration});
+    for (const Named &named : group.selectors) {
+        if (isNamedButton(named.subject))
+            icons_.append({named, declaration});
     }
 }
 
@@ -149,26 +182,25 @@ QString Rewriter::colorFor(const QString &property, const Surface &surface) cons
 // The rule that decides on the text decides on the fill as well, so that no text comes to stand on the fill of another pair.
 void Rewriter::complete(const Group &group, const StyleRule &source, StyleRule &target) const
 {
-    if (isWithoutText(group.subject))
+    if (group.hasNoText)
         return;
-    const QString fill = source.value(fillProperty) + u' ' + source.value(QStringLiteral("background"));
-    const bool hasText = !source.value(textProperty).isNull();
+    const QString fill = source.value(fillProperty()) + u' ' + source.value(QStringLiteral("background"));
+    const bool hasText = !source.value(textProperty()).isNull();
     const SurfaceKind kind = group.surface.kind;
     if (hasColor(fill)) {
         if (!hasText)
-            target.set(textProperty, group.surface.text);
+            target.set(textProperty(), group.surface.text);
     } else if (fill != u" ") { // see-through: the text stands on a window
         if (hasText || kind == SurfaceKind::Button)
-            target.set(textProperty, kind == SurfaceKind::Disabled ? colors_.grayText : colors_.windowText);
-    } else if (hasText && kind != SurfaceKind::Window && (kind != SurfaceKind::Disabled || !isWithoutOwnFill(group.subject))) {
-        target.set(fillProperty, group.surface.fill);
+            target.set(textProperty(), kind == SurfaceKind::Disabled ? colors_.grayText : colors_.windowText);
+    } else if (hasText && kind != SurfaceKind::Window && (kind != SurfaceKind::Disabled || !group.hasNoFill)) {
+        target.set(fillProperty(), group.surface.fill);
     }
 }
 
 // A rule by name hides the states of the rules by class, so each named widget gets the states that its sheet leaves out.
 void Rewriter::addStatesOfNamedWidgets()
 {
-    named_.removeDuplicates();
     addState(QStringLiteral("hover"), true);
     addState(QStringLiteral("pressed"), true);
     addState(QStringLiteral("focus"), true);
@@ -177,9 +209,9 @@ void Rewriter::addStatesOfNamedWidgets()
 
 void Rewriter::addState(const QString &state, bool buttonsOnly)
 {
-    for (const QString &selector : std::as_const(named_)) {
-        const QString withState = selector + u':' + state;
-        const StyleSubject subject = StyleSubject::of(withState);
+    for (const Named &named : std::as_const(named_)) {
+        const QString withState = named.selector + u':' + state;
+        const StyleSubject subject = named.subject.withState(state);
         const bool isButton = subject.isAnyOf({"QPushButton", "QToolButton"});
         if (selectors_.contains(withState) || (buttonsOnly && !isButton))
             continue;
@@ -189,9 +221,9 @@ void Rewriter::addState(const QString &state, bool buttonsOnly)
             rule.set(QStringLiteral("border"), QStringLiteral("2px solid ") + surface.line);
             continue;
         }
-        rule.set(textProperty, surface.text);
+        rule.set(textProperty(), surface.text);
         if (!isWithoutOwnFill(subject))
-            rule.set(fillProperty, surface.fill);
+            rule.set(fillProperty(), surface.fill);
         if (isButton && surface.kind == SurfaceKind::Disabled)
             rule.set(QStringLiteral("border"), QStringLiteral("2px dotted ") + surface.line);
     }
@@ -201,11 +233,10 @@ void Rewriter::addIconsOfStates()
 {
     for (const Icon &icon : std::as_const(icons_)) {
         for (const char *state : {"hover", "pressed", "disabled"}) {
-            const QString selector = icon.selector + u':' + QLatin1StringView(state);
-            const QString color = surfaceOf(StyleSubject::of(selector), colors_).text;
-            const QString value = recoloured(icon.declaration.value, color);
+            const StyleSubject subject = icon.button.subject.withState(QLatin1StringView(state));
+            const QString value = recoloured(icon.declaration.value, surfaceOf(subject, colors_).text);
             if (value != icon.declaration.value)
-                target_.rule(selector).set(icon.declaration.property, value);
+                target_.rule(icon.button.selector + u':' + QLatin1StringView(state)).set(icon.declaration.property, value);
         }
     }
 }

@@ -5,9 +5,9 @@
 #include "utils/application_folders.h"
 #include "utils/temporary_icon_folder.h"
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
-#include <QRegularExpression>
 #include <QTemporaryFile>
 #include <QTextStream>
 
@@ -18,10 +18,17 @@ namespace ostra::utils {
 
 namespace {
 
+// Between the first two quotation marks that have anything between them.
 QString quotedPath(const QString &propertyValue)
 {
-    const QRegularExpression quoted(QStringLiteral("\"([^\"]+)\""));
-    return quoted.match(propertyValue).captured(1);
+    qsizetype start = propertyValue.indexOf(u'"');
+    while (start >= 0) {
+        const qsizetype end = propertyValue.indexOf(u'"', start + 1);
+        if (end > start + 1)
+            return propertyValue.sliced(start + 1, end - start - 1);
+        start = end;
+    }
+    return {};
 }
 
 QString textOfFile(const QString &path)
@@ -67,10 +74,8 @@ bool isFileStem(const QString &baseName)
 
 bool writeText(QTemporaryFile &file, const QString &text)
 {
-    QTextStream stream(&file);
-    stream << text;
-    stream.flush();
-    return stream.status() == QTextStream::Ok && file.flush();
+    const QByteArray bytes = text.toUtf8();
+    return file.write(bytes) == bytes.size() && file.flush();
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 #include <QColor>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace ostra::utils {
 
 namespace {
@@ -59,7 +61,9 @@ bool isColor(QStringView word)
         return isColorFunction(word.first(bracket)) && !isInvisible(word.sliced(bracket + 1));
     if (word.startsWith(u'#'))
         return true;
-    return word.compare(u"transparent", Qt::CaseInsensitive) != 0 && QColor::isValidColor(word.toString());
+    // Every name of a colour is a word of letters; Qt's list is long, and most words are lengths.
+    const bool isWord = !word.isEmpty() && std::all_of(word.begin(), word.end(), [](QChar unit) { return unit.isLetter(); });
+    return isWord && word.compare(u"transparent", Qt::CaseInsensitive) != 0 && QColor::isValidColor(word.toString());
 }
 
 } // namespace

@@ -38,23 +38,31 @@ qsizetype endOfComment(QStringView text, qsizetype at)
     return end < 0 ? text.size() : end + 2;
 }
 
-bool beginsComment(QStringView text, qsizetype at) { return text.sliced(at).startsWith(u"/*"); }
+bool beginsComment(QStringView text, qsizetype at) { return text[at] == u'/' && at + 1 < text.size() && text[at + 1] == u'*'; }
+
+bool beginsUrl(QStringView text, qsizetype at)
+{
+    return (text[at] == u'u' || text[at] == u'U') && text.sliced(at).startsWith(u"url(", Qt::CaseInsensitive);
+}
 
 // The text up to `stop` outside of what is opaque; `at` moves behind that character, or to the end. Comments become a blank.
 QString takeUntil(QStringView text, QChar stop, qsizetype &at, bool &isStopped)
 {
     QString taken;
+    qsizetype start = at; // of what was not taken yet: taken in long pieces, not character by character
     while (at < text.size()) {
         const qsizetype end = endOfOpaque(text, at);
         if (end == at && text[at] == stop)
             break;
         const qsizetype next = qMax(end, at + 1);
-        if (beginsComment(text, at))
+        if (beginsComment(text, at)) {
+            taken += text.sliced(start, at - start);
             taken += u' ';
-        else
-            taken += text.sliced(at, next - at);
+            start = next;
+        }
         at = next;
     }
+    taken += text.sliced(start, at - start);
     isStopped = at < text.size();
     at += isStopped ? 1 : 0;
     return taken;
@@ -63,15 +71,20 @@ QString takeUntil(QStringView text, QChar stop, qsizetype &at, bool &isStopped)
 QString collapsed(QStringView text)
 {
     QString result;
+    result.reserve(text.size());
     for (qsizetype at = 0; at < text.size();) {
         const qsizetype end = qMax(endOfOpaque(text, at), at + 1);
-        if (!text[at].isSpace())
+        if (end > at + 1)
             result += text.sliced(at, end - at);
-        else if (!result.endsWith(u' '))
+        else if (!text[at].isSpace())
+            result += text[at];
+        else if (!result.isEmpty() && result.back() != u' ')
             result += u' ';
         at = end;
     }
-    return result.trimmed();
+    while (!result.isEmpty() && result.back().isSpace())
+        result.chop(1);
+    return result;
 }
 
 QString selectorKey(QStringView text)
@@ -91,6 +104,7 @@ QString propertyKey(QStringView name)
 
 void addDeclarations(StyleRules &rules, const QString &selector, QStringView body)
 {
+    StyleRule *rule = nullptr;
     const QList<QStringView> pieces = splitOutsideOpaque(body, u';');
     for (const QStringView piece : pieces) {
         const qsizetype colon = piece.indexOf(u':');
@@ -98,8 +112,11 @@ void addDeclarations(StyleRules &rules, const QString &selector, QStringView bod
             continue;
         const QString property = propertyKey(piece.first(colon));
         const QString value = collapsed(piece.sliced(colon + 1));
-        if (isStyleProperty(property) && isStyleValue(value))
-            rules.rule(selector).set(property, value);
+        if (!isStyleProperty(property) || !isStyleValue(value))
+            continue;
+        if (rule == nullptr) // a rule without any declaration is none
+            rule = &rules.rule(selector);
+        rule->set(property, value);
     }
 }
 
@@ -125,13 +142,13 @@ bool isImportant(const QString &value)
 
 } // namespace
 
-qsizetype endOfOpaque(QStringView text, qsizetype at)
+qsizetype endOfOpaquePiece(QStringView text, qsizetype at)
 {
     if (text[at] == u'"' || text[at] == u'\'')
         return endOfQuoted(text, at);
     if (beginsComment(text, at))
         return endOfComment(text, at);
-    return text.sliced(at).startsWith(u"url(", Qt::CaseInsensitive) ? endOfUrl(text, at) : at;
+    return beginsUrl(text, at) ? endOfUrl(text, at) : at;
 }
 
 QList<QStringView> splitOutsideOpaque(QStringView text, QChar separator)
@@ -141,36 +158,62 @@ QList<QStringView> splitOutsideOpaque(QStringView text, QChar separator)
     qsizetype depth = 0;
     for (qsizetype at = 0; at < text.size();) {
         const qsizetype end = endOfOpaque(text, at);
-        if (end == at && text[at] == separator && depth == 0) {
+        if (end > at) {
+            at = end;
+            continue;
+        }
+        const QChar unit = text[at];
+        if (unit == separator && depth == 0) {
             pieces.append(text.sliced(start, at - start));
             start = at + 1;
-        } else if (end == at) {
-            depth += text[at] == u'(' || text[at] == u'[' ? 1 : 0;
-            depth -= depth > 0 && (text[at] == u')' || text[at] == u']') ? 1 : 0;
+        } else if (unit == u'(' || unit == u'[') {
+            ++depth;
+        } else if (depth > 0 && (unit == u')' || unit == u']')) {
+            --depth;
         }
-        at = qMax(end, at + 1);
+        ++at;
     }
     pieces.append(text.sliced(start));
     return pieces;
 }
 
+qsizetype StyleRule::find(const QString &property) const
+{
+    if (!positions_.isEmpty())
+        return positions_.value(property, -1);
+    for (qsizetype position = 0; position < entries_.size(); ++position) {
+        if (entries_.at(position).property == property)
+            return position;
+    }
+    return -1;
+}
+
+void StyleRule::append(const QString &property, const QString &value)
+{
+    if (!positions_.isEmpty())
+        positions_.insert(property, entries_.size());
+    entries_.append({property, value});
+    if (!positions_.isEmpty() || entries_.size() <= searchedCount)
+        return;
+    for (qsizetype position = 0; position < entries_.size(); ++position)
+        positions_.insert(entries_.at(position).property, position);
+}
+
 QString StyleRule::value(const QString &property) const
 {
-    const auto position = positions_.constFind(property);
-    return position == positions_.cend() ? QString() : entries_.at(*position).value;
+    const qsizetype position = find(property);
+    return position < 0 ? QString() : entries_.at(position).value;
 }
 
 void StyleRule::set(const QString &property, const QString &value)
 {
-    const auto position = positions_.constFind(property);
-    if (position != positions_.cend()) {
-        StyleDeclaration &former = entries_[*position];
+    if (const qsizetype position = find(property); position >= 0) {
+        StyleDeclaration &former = entries_[position];
         if (isImportant(former.value) && !isImportant(value))
             return;
         former = {};
     }
-    positions_.insert(property, entries_.size());
-    entries_.append({property, value});
+    append(property, value);
 }
 
 QList<StyleDeclaration> StyleRule::declarations() const
@@ -197,12 +240,11 @@ QString StyleRules::toText() const
 {
     QString text;
     for (const StyleRule &rule : rules_) {
-        text += rule.selector() + QStringLiteral(" {\n");
+        text.append(rule.selector()).append(u" {\n");
         const QList<StyleDeclaration> declarations = rule.declarations();
         for (const StyleDeclaration &declaration : declarations)
-            text +=
-                QStringLiteral("  ") + declaration.property + QStringLiteral(": ") + declaration.value + QStringLiteral(";\n");
-        text += QStringLiteral("}\n");
+            text.append(u"  ").append(declaration.property).append(u": ").append(declaration.value).append(u";\n");
+        text.append(u"}\n");
     }
     return text;
 }

@@ -32,9 +32,15 @@ public:
     QList<StyleDeclaration> declarations() const;
 
 private:
+    /// Up to so many entries are searched one by one, which most rules never exceed.
+    static constexpr qsizetype searchedCount = 12;
+
+    qsizetype find(const QString &property) const; ///< -1 when there is none
+    void append(const QString &property, const QString &value);
+
     QString selector_;
-    QList<StyleDeclaration> entries_; // a replaced one stays behind without its name
-    QHash<QString, qsizetype> positions_;
+    QList<StyleDeclaration> entries_;     // a replaced one stays behind without its name
+    QHash<QString, qsizetype> positions_; // empty while the entries are few
 };
 
 /// Rules in the order of their first appearance; the rules of one selector are one rule.
@@ -59,9 +65,18 @@ private:
     QHash<QString, qsizetype> positions_;
 };
 
+/// `endOfOpaque` for a character that may begin such a piece.
+qsizetype endOfOpaquePiece(QStringView text, qsizetype at);
+
 /// Index behind what begins at `at` and must be read as a whole: a comment, a quoted text, url(...). `at` itself when nothing
 /// of that kind begins there. A quote or url() that is left open ends with its line, a comment with the text.
-qsizetype endOfOpaque(QStringView text, qsizetype at);
+inline qsizetype endOfOpaque(QStringView text, qsizetype at)
+{
+    // Asked about every character of a sheet; one of these begins all that is opaque.
+    const char16_t unit = text[at].unicode();
+    const bool mayBegin = unit == u'"' || unit == u'\'' || unit == u'/' || unit == u'u' || unit == u'U';
+    return mayBegin ? endOfOpaquePiece(text, at) : at;
+}
 
 /// The pieces between `separator`s that stand outside comments, quotes, url() and brackets.
 QList<QStringView> splitOutsideOpaque(QStringView text, QChar separator);

@@ -26,8 +26,8 @@ QStringView takeName(QStringView text, qsizetype &at)
 
 QStringView lastPart(QStringView selector)
 {
-    QList<QStringView> parts = splitOutsideOpaque(selector, u' ');
-    return splitOutsideOpaque(parts.last(), u'>').last();
+    const QStringView afterBlank = splitOutsideOpaque(selector, u' ').last();
+    return afterBlank.contains(u'>') ? splitOutsideOpaque(afterBlank, u'>').last() : afterBlank;
 }
 
 // The part behind ":" or "::", `at` standing on the colon.
@@ -64,6 +64,13 @@ StyleSubject StyleSubject::of(const QString &selector)
             ++at;
         }
     }
+    return subject;
+}
+
+StyleSubject StyleSubject::withState(const QString &state) const
+{
+    StyleSubject subject = *this;
+    subject.states.append(state);
     return subject;
 }
 

@@ -17,6 +17,8 @@ struct StyleSubject {
 
     /// Of one selector, no list.
     static StyleSubject of(const QString &selector);
+    /// The subject of the same selector with ":state" behind it, for one without a sub-control.
+    StyleSubject withState(const QString &state) const;
 
     bool isAnyOf(std::initializer_list<const char *> types) const;
     bool isPart(std::initializer_list<const char *> subControls) const;

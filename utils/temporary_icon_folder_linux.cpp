@@ -4,7 +4,6 @@
 #include <QByteArray>
 #include <QFile>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,22 +12,6 @@
 namespace ostra::utils {
 
 namespace {
-
-class Descriptor {
-public:
-    explicit Descriptor(int descriptor) : descriptor_(descriptor) {}
-    ~Descriptor()
-    {
-        if (descriptor_ >= 0)
-            ::close(descriptor_);
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    int get() const { return descriptor_; }
-
-private:
-    int descriptor_;
-};
 
 // Without trailing separators: behind one, a link at the end would be followed.
 QByteArray folderName(const QString &folder)
@@ -53,9 +36,8 @@ bool makeFolderWithParents(const QByteArray &name)
 
 bool isSafeFolder(const QByteArray &name)
 {
-    const Descriptor descriptor(::open(name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     struct stat facts {};
-    if (descriptor.get() < 0 || ::fstat(descriptor.get(), &facts) != 0)
+    if (::lstat(name.constData(), &facts) != 0 || !S_ISDIR(facts.st_mode)) // of the link itself, which is none
         return false;
     const bool othersWrite = (facts.st_mode & (S_IWGRP | S_IWOTH)) != 0;
     return facts.st_uid == ::geteuid() && (!othersWrite || (facts.st_mode & S_ISVTX) != 0);
@@ -66,7 +48,10 @@ bool isSafeFolder(const QByteArray &name)
 bool ensureTemporaryIconFolder(const QString &folder)
 {
     const QByteArray name = folderName(folder);
-    return !name.isEmpty() && makeFolderWithParents(name) && isSafeFolder(name);
+    if (name.isEmpty())
+        return false;
+    // Asked for every icon, and there but for the first time.
+    return isSafeFolder(name) || (makeFolderWithParents(name) && isSafeFolder(name));
 }
 
 } // namespace ostra::utils

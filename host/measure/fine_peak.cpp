@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstddef>
 #include <numbers>
+#include <numeric>
 
 namespace measure {
 namespace {
@@ -39,6 +40,38 @@ double kernel(double distance)
     return std::sin(angle) / angle * (0.5 + 0.5 * std::cos(angle / (kernelReach + 1)));
 }
 
+/// The kernel around a position between two frames. There are as many of them as steps in a frame, for every correlation the
+/// same, and each takes a sine and a cosine a tap.
+class Kernels {
+public:
+    using Taps = std::array<double, 2 * kernelReach + 1>;
+
+    /// Taps for the frames from -kernelReach to kernelReach around the frame that is nearest to a position, which lies
+    /// `stepsBehind` steps behind the position: from -half to half.
+    const Taps &at(int stepsBehind) const { return taps_[static_cast<std::size_t>(stepsBehind + half)]; }
+
+    static const Kernels &all()
+    {
+        static const Kernels kernels;
+        return kernels;
+    }
+
+private:
+    static constexpr int half = stepsPerFrame / 2;
+
+    Kernels()
+    {
+        for (int steps = -half; steps <= half; ++steps) {
+            Taps &taps = taps_[static_cast<std::size_t>(steps + half)];
+            for (int frame = -kernelReach; frame <= kernelReach; ++frame)
+                taps[static_cast<std::size_t>(frame + kernelReach)] =
+                    kernel(frame + static_cast<double>(steps) / stepsPerFrame);
+        }
+    }
+
+    std::array<Taps, stepsPerFrame + 1> taps_{};
+};
+
 /// The correlation around a lag, also between frames.
 class LocalCorrelation {
 public:
@@ -51,12 +84,10 @@ public:
     /// \param step position in 1/stepsPerFrame frames from the lag, up to one step beyond searchReach.
     double at(int step) const
     {
-        const double position = static_cast<double>(step) / stepsPerFrame;
-        const int nearest = static_cast<int>(std::lround(position));
-        double sum = 0;
-        for (int frame = nearest - kernelReach; frame <= nearest + kernelReach; ++frame)
-            sum += values_[static_cast<std::size_t>(frame + reach)] * kernel(static_cast<double>(frame) - position);
-        return sum;
+        const int nearest = static_cast<int>(std::lround(static_cast<double>(step) / stepsPerFrame));
+        const Kernels::Taps &taps = Kernels::all().at(nearest * stepsPerFrame - step);
+        const auto first = values_.begin() + (nearest - kernelReach + reach);
+        return std::inner_product(taps.begin(), taps.end(), first, 0.0);
     }
 
 private:

@@ -34,8 +34,10 @@ private:
     };
     using Plan = std::unique_ptr<kiss_fftr_state, Release>;
 
+    static Plan makePlan(std::size_t size, bool isInverse);
+
     std::size_t size_;
-    Plan forward_;
+    Plan forward_; // made when first used, as most transform one way only
     Plan inverse_;
 };
 

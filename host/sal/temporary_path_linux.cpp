@@ -3,7 +3,6 @@
 
 #include "host/sal/services.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,27 +12,10 @@
 namespace sal {
 namespace {
 
-class Descriptor {
-public:
-    explicit Descriptor(int descriptor) : descriptor_(descriptor) {}
-    ~Descriptor()
-    {
-        if (descriptor_ >= 0)
-            ::close(descriptor_);
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    int get() const { return descriptor_; }
-
-private:
-    int descriptor_;
-};
-
 bool isPrivateFolder(const std::string &folder)
 {
-    const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     struct stat facts {};
-    if (descriptor.get() < 0 || ::fstat(descriptor.get(), &facts) != 0)
+    if (::lstat(folder.c_str(), &facts) != 0 || !S_ISDIR(facts.st_mode)) // of the link itself, which is none
         return false;
     return facts.st_uid == ::geteuid() && (facts.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
@@ -67,6 +49,8 @@ public:
 
 bool ensurePrivateFolder(const std::string &folder)
 {
+    if (isPrivateFolder(folder))
+        return true;
     if (::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST)
         return false;
     return isPrivateFolder(folder);

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: Apache-2.0
+// A host of the smallest kind, which loads the module as every host does. Prints what it was asked to measure.
+#include "autotests/support/scripted_context.h"
+#include "benchmarks/loaded_library.h"
+#include "benchmarks/pairs.h"
+#include "benchmarks/resident_memory.h"
+#include "contract/abstract_widget_wrapper.h"
+#include "contract/exports.h"
+
+#include <SDL.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdio>
+#include <string>
+
+namespace {
+
+using std::chrono::milliseconds;
+
+ostra::ModuleInterface *loadModule(const char *path)
+{
+    const bench::LoadedLibrary library(path);
+    const auto getInstance = library.function<GetModuleInterfaceInstanceFunction *>(ostra::exports::getModuleInterfaceInstance);
+    return getInstance();
+}
+
+/// refresh MODULE: seconds until the devices are listed, and their number.
+int refresh(const char *modulePath)
+{
+    ostra::SystemComponentManager *manager = nullptr;
+    const double seconds = bench::secondsOf([&] {
+        manager = loadModule(modulePath)->componentManager();
+        manager->refresh();
+    });
+    std::printf("%.6f %d\n", seconds, static_cast<int>(manager->componentCount()));
+    return 0;
+}
+
+void openEachDevice(const char *driver)
+{
+    SDL_setenv("SDL_AUDIODRIVER", driver, 1);
+    SDL_InitSubSystem(SDL_INIT_AUDIO);
+    SDL_AudioSpec spec{};
+    spec.freq = 48000;
+    spec.format = AUDIO_S16LSB;
+    spec.channels = 2;
+    spec.samples = 4096;
+    for (int index = 0; index < SDL_GetNumAudioDevices(0); ++index) {
+        const std::string name = SDL_GetAudioDeviceName(index, 0);
+        SDL_CloseAudioDevice(SDL_OpenAudioDevice(name.c_str(), 0, &spec, nullptr, 0));
+    }
+}
+
+/// memory-bare DRIVER: kilobytes of a host with Qt and the sound library, without the module.
+int memoryBare(const char *driver)
+{
+    openEachDevice(driver);
+    QApplication::processEvents();
+    std::printf("%.0f\n", bench::residentKilobytes());
+    return 0;
+}
+
+/// memory-module MODULE: the same with the module loaded and its devices listed.
+int memoryModule(const char *modulePath)
+{
+    loadModule(modulePath)->componentManager()->refresh();
+    QApplication::processEvents();
+    std::printf("%.0f\n", bench::residentKilobytes());
+    return 0;
+}
+
+void closeDialogWhenShown()
+{
+    auto *timer = new QTimer;
+    QObject::connect(timer, &QTimer::timeout, timer, [timer] {
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            auto *close = window->findChild<QAbstractButton *>(QStringLiteral("audio_playback_test_header_close"));
+            if (close == nullptr || !close->isVisible())
+                continue;
+            timer->deleteLater();
+            close->click();
+            return;
+        }
+    });
+    timer->start(milliseconds(10));
+}
+
+void runOnce(ostra::ModuleInterface &module)
+{
+    ScriptedContext context(module.componentManager()->componentAt(0));
+    context.answer = 1;
+    context.onWidget = [](ostra::InputRequest &request) {
+        closeDialogWhenShown();
+        request.widget->exec(nullptr, nullptr);
+    };
+    module.diagnosticAt(0)->testAt(0)->run(&context);
+    QApplication::processEvents();
+}
+
+/// memory-runs MODULE: kilobytes after 10 and after 100 runs of the playback test, each closed as soon as it is shown.
+int memoryRuns(const char *modulePath)
+{
+    ostra::ModuleInterface *module = loadModule(modulePath);
+    module->componentManager()->refresh();
+    double after10 = 0;
+    for (int run = 1; run <= 100; ++run) {
+        runOnce(*module);
+        if (run == 10)
+            after10 = bench::residentKilobytes();
+    }
+    std::printf("%.0f %.0f\n", after10, bench::residentKilobytes());
+    return 0;
+}
+
+int measure(const std::string &what, const char *argument)
+{
+    if (what == "refresh")
+        return refresh(argument);
+    if (what == "memory-bare")
+        return memoryBare(argument);
+    if (what == "memory-module")
+        return memoryModule(argument);
+    return what == "memory-runs" ? memoryRuns(argument) : 2;
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    if (argumentCount != 3)
+        return 2;
+    const QApplication application(argumentCount, arguments);
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // a host shows no debug texts
+    return measure(arguments[1], arguments[2]);
+}
