@@ -46,7 +46,6 @@ void PollingHost::show(ostra::InputRequest &request)
     wrapper = request.widget;
     dialogResult = wrapper->exec(nullptr, nullptr);
     sinceDialogEnded.start();
-    pollCountAtEnd = pollCount;
     wrapper = nullptr;
     showing = Showing::nothing;
 }

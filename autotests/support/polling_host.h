@@ -38,7 +38,6 @@ public:
     ostra::AbstractWidgetWrapper *wrapper = nullptr; ///< while it is executed
     int dialogResult = -1;
     QElapsedTimer sinceDialogEnded; ///< from the return of the wrapper's exec on
-    int pollCountAtEnd = 0;         ///< then
     std::vector<std::string> messageKeys;
 
 private:

@@ -104,8 +104,8 @@ void TestRandomCloses::leaveNothingBehind()
 {
     ModuleStage stage;
     QMap<Kind, qint64> lengths;
-    for (const Kind kind :
-         {Kind::playback, Kind::microphone}) { // undisturbed; starts what the system keeps for the process, too
+    // Undisturbed, twice: the first runs start what the system keeps for the process, and take longer.
+    for (const Kind kind : {Kind::playback, Kind::microphone, Kind::playback, Kind::microphone}) {
         const Course course = follow(stage, {kind, End::escape, std::chrono::milliseconds(-1)});
         QCOMPARE(course.code, 0U);
         lengths[kind] = course.length;
@@ -140,7 +140,7 @@ void TestRandomCloses::leaveNothingBehind()
     for (auto end = ends.cbegin(); end != ends.cend(); ++end)
         qInfo("%s: %d", qPrintable(end.key()), end.value());
     qInfo("the longest end took %lld ms; %d callbacks", longest, LiveDevices::callCount());
-    QVERIFY(ends.value(QStringLiteral("too late")) < count / 4);
+    QVERIFY(ends.value(QStringLiteral("too late")) < count / 2);
 }
 
 QTEST_MAIN(TestRandomCloses)
