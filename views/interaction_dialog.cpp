@@ -3,6 +3,7 @@
 
 #include "audio/audio_devices.h"
 #include "utils/dpi.h"
+#include "utils/guarded.h"
 #include "views/microphone_form.h"
 #include "views/play_audio.h"
 #include "views/record_audio.h"
@@ -27,8 +28,8 @@ constexpr std::chrono::milliseconds systemEventInterval{500};
 
 InteractionDialog::InteractionDialog(const QString &outputDeviceName, QWidget *parent, QObject *eventFilter,
                                      EventSource *events)
-    : InputDialog(parent, eventFilter), recording_(std::make_shared<audio::RecordingSlot>()), selectDevice_(new SelectDevice),
-      recordAudio_(new RecordAudio(recording_)), playAudio_(new PlayAudio(recording_, outputDeviceName)), events_(events)
+    : InputDialog(parent, eventFilter), recording_(std::make_shared<audio::RecordingSlot>()), selectDevice_(new SelectDevice(this)),
+      recordAudio_(new RecordAudio(recording_, this)), playAudio_(new PlayAudio(recording_, outputDeviceName, this)), events_(events)
 {
     connect(&systemEventTimer_, &QTimer::timeout, this, &InteractionDialog::CheckSystemEvent);
     systemEventTimer_.start(systemEventInterval);
@@ -115,10 +116,16 @@ void InteractionDialog::AbortDeviceDisconnected()
 
 void InteractionDialog::Finish() { done(dialog_result::heard); }
 
+template <typename Body>
+void InteractionDialog::guard(Body body) noexcept
+{
+    utils::guarded(body, [this] { Abort(); });
+}
+
 void InteractionDialog::goToNextWidget()
 {
     QStackedWidget *pages = ui_->microphone_test_popups_space;
-    pages->setCurrentIndex(pages->currentIndex() + 1);
+    guard([pages] { pages->setCurrentIndex(pages->currentIndex() + 1); });
 }
 
 void InteractionDialog::CheckMicrophoneConnection(int index)
@@ -128,9 +135,11 @@ void InteractionDialog::CheckMicrophoneConnection(int index)
     const auto isGone = [](const QString &name, bool isCapture) {
         return !audio::isAudioDeviceConnected(name.toStdString(), isCapture);
     };
-    if ((page == recordAudio_ && isGone(recordAudio_->deviceName(), true)) ||
-        (page == playAudio_ && isGone(playAudio_->deviceName(), false)))
-        AbortDeviceDisconnected();
+    guard([&, this] {
+        if ((page == recordAudio_ && isGone(recordAudio_->deviceName(), true)) ||
+            (page == playAudio_ && isGone(playAudio_->deviceName(), false)))
+            AbortDeviceDisconnected();
+    });
 }
 
 bool InteractionDialog::isCancelledByEvent() const { return isReady_ && askForEvents(events_) != EventAnswer::goOn; }
@@ -139,9 +148,11 @@ void InteractionDialog::CheckSystemEvent()
 {
     if (!isCancelledByEvent())
         return;
-    QTimer::singleShot(0, this, [this] {
-        if (isReady_)
-            done(result());
+    guard([this] {
+        QTimer::singleShot(0, this, [this] {
+            if (isReady_)
+                done(result());
+        });
     });
 }
 
