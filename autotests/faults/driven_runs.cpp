@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QPushButton>
 #include <QTest>
 
 using namespace ostra;
@@ -23,11 +24,11 @@ namespace driven_runs {
 namespace {
 
 constexpr int stuckLimit = 10000; // ms
+constexpr int patientStuckLimit = 60000;
 constexpr int threadEndLimit = 5000;
 
 // A sequence is 0, 1, 2 when nothing was drawn before.
 int drawnCount = 0;
-int nextDigit() { return drawnCount++ % 10; }
 
 template <typename Dialog>
 Dialog *openDialog()
@@ -46,6 +47,8 @@ Page *pageOf(const QObject &dialog)
 }
 
 } // namespace
+
+int nextDigit() { return drawnCount++ % 10; }
 
 Place::Place()
 {
@@ -100,16 +103,54 @@ void Driver::prepare(ScriptedContext &context)
 void Driver::step()
 {
     try {
-        if (sinceStart_.elapsed() > stuckLimit)
+        if (sinceStart_.elapsed() > (isPatient ? patientStuckLimit : stuckLimit))
             giveUp();
-        else
+        else if (!waits)
             advance();
     } catch (...) {
         outcome_.hasSlotThrown = true;
     }
 }
 
-void Driver::advance() { kind_ == Kind::playback ? advancePlayback() : advanceMicrophone(); }
+void Driver::advance()
+{
+    if (kind_ == Kind::playback)
+        isPatient ? advancePlaybackPatiently() : advancePlayback();
+    else
+        isPatient ? advanceMicrophonePatiently() : advanceMicrophone();
+}
+
+// The button to hear it again is off while it plays.
+void Driver::advancePlaybackPatiently()
+{
+    auto *view = openDialog<AudioPlaybackTestView>();
+    if (view == nullptr)
+        return;
+    const bool isPlaying =
+        !view->findChild<QPushButton *>(QStringLiteral("audio_playback_test_numpad_repeat_button"))->isEnabled();
+    if (isPlaying)
+        stage_ = 1;
+    else if (stage_ == 1) {
+        stage_ = 2;
+        view->ZeroInputButtonClicked();
+        view->FirstInputButtonClicked();
+        view->SecondInputButtonClicked();
+    }
+}
+
+void Driver::advanceMicrophonePatiently()
+{
+    auto *dialog = openDialog<InteractionDialog>();
+    if (dialog == nullptr)
+        return;
+    if (auto *select = pageOf<SelectDevice>(*dialog); select->isVisible())
+        select->onBtnNextClicked();
+    else if (auto *record = pageOf<RecordAudio>(*dialog); record->isVisible() && stage_++ == 0)
+        record->OnBtnRecordClicked();
+    else if (auto *play = pageOf<PlayAudio>(*dialog);
+             play->isVisible() && play->findChild<QPushButton *>(QStringLiteral("microphone_test_next_button"))->isEnabled())
+        play->OnBtnNextClicked();
+}
 
 // Three digits, each heard, then typed. Every call is a slot that a timer or a button calls.
 void Driver::advancePlayback()

@@ -35,6 +35,9 @@ public:
     FakeSound sound;
 };
 
+/// The digits that `Driver` knows: 0, 1 and 2 in every run.
+int nextDigit();
+
 /// How a run ended.
 struct Outcome {
     std::optional<std::uint32_t> code; ///< none: the run itself threw
@@ -52,12 +55,17 @@ public:
     /// Prepares `context` and runs the test of `module`.
     Outcome run(ostra::ModuleInterface &module, ScriptedContext &context);
 
+    bool waits = false;     ///< the user does nothing, and the test must end by itself
+    bool isPatient = false; ///< the seconds are waited for, as with real devices
+
 private:
     void prepare(ScriptedContext &context);
     void step();
     void advance();
     void advancePlayback();
     void advanceMicrophone();
+    void advancePlaybackPatiently();
+    void advanceMicrophonePatiently();
     void giveUp();
 
     Kind kind_;

@@ -168,7 +168,7 @@ void TestAllocationFailures::noRunThrowsAndAllIsAsBefore()
     QVERIFY2(count > 50, qPrintable(QString::number(count)));
     std::map<std::uint32_t, int> codes;
     int runs = 0;
-    for (int failing = 0; failing < count; failing += strideFor(count, 10), ++runs) {
+    for (int failing = 0; failing < count; failing += strideFor(count, 6), ++runs) {
         const driven_runs::Outcome outcome = run(failing);
         const QByteArray number = QByteArray::number(failing);
         QVERIFY2(outcome.code.has_value(), number.constData());

@@ -6,7 +6,8 @@
 void ScriptedContext::note(const std::string &call)
 {
     calls.push_back(call);
-    if (throwingCall != calls.size() - 1)
+    const bool isChosen = !throwsAt.empty() && call.starts_with(throwsAt);
+    if (!isChosen && throwingCall != calls.size() - 1)
         return;
     if (fail)
         fail();
