@@ -28,8 +28,9 @@ constexpr std::chrono::milliseconds systemEventInterval{500};
 
 InteractionDialog::InteractionDialog(const QString &outputDeviceName, QWidget *parent, QObject *eventFilter,
                                      EventSource *events)
-    : InputDialog(parent, eventFilter), recording_(std::make_shared<audio::RecordingSlot>()), selectDevice_(new SelectDevice(this)),
-      recordAudio_(new RecordAudio(recording_, this)), playAudio_(new PlayAudio(recording_, outputDeviceName, this)), events_(events)
+    : InputDialog(parent, eventFilter), recording_(std::make_shared<audio::RecordingSlot>()),
+      selectDevice_(new SelectDevice(this)), recordAudio_(new RecordAudio(recording_, this)),
+      playAudio_(new PlayAudio(recording_, outputDeviceName, this)), events_(events)
 {
     connect(&systemEventTimer_, &QTimer::timeout, this, &InteractionDialog::CheckSystemEvent);
     systemEventTimer_.start(systemEventInterval);
@@ -146,12 +147,15 @@ bool InteractionDialog::isCancelledByEvent() const { return isReady_ && askForEv
 
 void InteractionDialog::CheckSystemEvent()
 {
-    if (!isCancelledByEvent())
+    const EventAnswer answer = isReady_ ? askForEvents(events_) : EventAnswer::goOn;
+    if (answer == EventAnswer::goOn)
         return;
-    guard([this] {
-        QTimer::singleShot(0, this, [this] {
+    // After an event the host tells of it again. What it could not tell it may never tell, and the result so far is a pass.
+    const bool isUnknown = answer == EventAnswer::unknown;
+    guard([this, isUnknown] {
+        QTimer::singleShot(0, this, [this, isUnknown] {
             if (isReady_)
-                done(result());
+                isUnknown ? Abort() : done(result());
         });
     });
 }

@@ -9,6 +9,7 @@
 #include "contract/property_keys.h"
 #include "contract/style_manager.h"
 #include "utils/screen_sources.h"
+#include "views/interaction_dialog.h"
 
 #include <QDir>
 #include <QTest>
@@ -16,6 +17,7 @@
 #include <functional>
 #include <new>
 #include <stdexcept>
+#include <utility>
 
 using namespace ostra;
 using driven_runs::Kind;
@@ -79,6 +81,7 @@ private slots:
     void cleanup();
     void aCallThatThrowsEndsTheRun_data();
     void aCallThatThrowsEndsTheRun();
+    void anEventSourceThatFailsOnceIsNoPass();
     void aWatcherThatThrowsStopsTheDialog_data();
     void aWatcherThatThrowsStopsTheDialog();
     void aPlatformServiceThatThrowsIsAbsent_data();
@@ -165,6 +168,27 @@ void TestThrowingHost::aCallThatThrowsEndsTheRun()
     }
     QCOMPARE(sound_truth::levels(), levels_);
     qInfo("%zu calls, %zu of them thrown at", count, runs);
+}
+
+// Nobody has heard anything; afterwards the host knows of no event.
+void TestThrowingHost::anEventSourceThatFailsOnceIsNoPass()
+{
+    struct FailingOnce final : EventSource {
+        std::uint32_t pendingEvents() override
+        {
+            if (std::exchange(fails, false))
+                throwError();
+            return 0;
+        }
+        bool fails = false;
+    } events;
+    InteractionDialog dialog(QStringLiteral("Speakers"), nullptr, nullptr, &events);
+    QTimer::singleShot(0, &dialog, [&] {
+        events.fails = true;
+        dialog.CheckSystemEvent();
+    });
+    QCOMPARE(dialog.exec(), dialog_result::closed);
+    QVERIFY(dialog.isAborted());
 }
 
 void TestThrowingHost::aWatcherThatThrowsStopsTheDialog_data() { aCallThatThrowsEndsTheRun_data(); }
