@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 
@@ -29,7 +30,17 @@ AudioComponentManager::~AudioComponentManager() { releaseComponents(); }
 
 bool AudioComponentManager::hasComponents() { return sdl().deviceCount(outputDevices) > 0; }
 
+// A host built by another compiler could not even catch what its own services throw.
 void AudioComponentManager::refresh()
+try {
+    listDevices();
+} catch (const std::bad_alloc &) {
+    throw;
+} catch (...) {
+    // The components listed before stay.
+}
+
+void AudioComponentManager::listDevices()
 {
     releaseComponents();
     if (!hasComponents())

@@ -17,6 +17,7 @@ public:
     void refresh() override;
 
 private:
+    void listDevices();
     void releaseComponents();
 };
 

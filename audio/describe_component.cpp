@@ -7,6 +7,7 @@
 #include "audio/sound_clip.h"
 #include "contract/property_keys.h"
 #include "contract/sal.h"
+#include "utils/guarded.h"
 
 #include <memory>
 #include <string>
@@ -21,8 +22,11 @@ struct CloseDevice {
 
 std::string numberText(int number)
 {
-    sal::NumberHandler *handler = get_number_handler();
-    return handler != nullptr ? handler->toText(number) : std::to_string(number);
+    const auto ask = [number] {
+        sal::NumberHandler *handler = get_number_handler();
+        return handler != nullptr ? handler->toText(number) : std::to_string(number);
+    };
+    return utils::answerOr(ask, std::to_string(number));
 }
 
 std::string currentDriverName()
@@ -33,9 +37,10 @@ std::string currentDriverName()
 
 void addDriverVersion(AudioComponent &component)
 {
-    if (lookUpDriverVersion(component.name()).empty())
+    const auto ask = [&component] { return lookUpDriverVersion(component.name()); };
+    if (utils::answerOr(ask, std::string()).empty())
         return;
-    component.addProperty(properties::driverVersion, lookUpDriverVersion(component.name())); // asked twice by design
+    component.addProperty(properties::driverVersion, utils::answerOr(ask, std::string())); // asked twice by design
 }
 
 } // namespace

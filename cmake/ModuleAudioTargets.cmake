@@ -31,6 +31,11 @@ if(MODULE_AUDIO_THREAD_SANITIZE)
     target_compile_options(module_audio_flags INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
     target_link_options(module_audio_flags INTERFACE -fsanitize=thread)
 endif()
+if(MODULE_AUDIO_COVERAGE)
+    # Worker threads count too, hence atomically.
+    target_compile_options(module_audio_flags INTERFACE --coverage -fprofile-update=atomic -fprofile-abs-path)
+    target_link_options(module_audio_flags INTERFACE --coverage)
+endif()
 if(MODULE_AUDIO_FUZZ)
     # The fuzzers' engine watches which branches run; the sanitizers, also for a number too large for its new type, what happens.
     set(fuzz_flags -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow -fno-sanitize-recover=all)

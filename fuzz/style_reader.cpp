@@ -19,6 +19,15 @@ void listen(QtMsgType, const QMessageLogContext &, const QString &text)
     isRefused = isRefused || text.contains(QStringLiteral("parse"));
 }
 
+bool isReadByQt(const QString &sheet)
+{
+    isRefused = false;
+    QWidget widget;
+    widget.setStyleSheet(sheet);
+    widget.ensurePolished();
+    return !isRefused;
+}
+
 } // namespace
 
 void prepareStyleReader(int &argumentCount, char **arguments)
@@ -28,18 +37,13 @@ void prepareStyleReader(int &argumentCount, char **arguments)
     qInstallMessageHandler(listen);
 }
 
-bool isReadByQt(const QString &sheet)
+bool staysReadable(const QString &before, const QString &after)
 {
     static const bool isAsked = std::getenv("FUZZ_STYLE_READER") != nullptr;
-    if (!isAsked)
+    if (!isAsked || isReadByQt(after) || !isReadByQt(before))
         return true;
-    isRefused = false;
-    QWidget widget;
-    widget.setStyleSheet(sheet);
-    widget.ensurePolished();
-    if (isRefused)
-        std::fprintf(stderr, "refused:\n%s", qPrintable(sheet));
-    return !isRefused;
+    std::fprintf(stderr, "taken:\n%s\nrefused:\n%s\n", qPrintable(before), qPrintable(after));
+    return false;
 }
 
 } // namespace fuzz

@@ -2,6 +2,7 @@
 #include "tests/audio_widget_wrapper.h"
 
 #include "contract/test_context.h"
+#include "utils/guarded.h"
 #include "views/interaction_dialog.h"
 
 #include <QCoreApplication>
@@ -25,13 +26,13 @@ void runInThreadOf(QObject &object, Action action)
 
 // The dialog belongs to the application's thread and asks the host's objects until it is destroyed: so it is not left to
 // itself when a test that ran on another thread is over.
-void deleteWithDialog(AudioWidgetWrapper *wrapper)
+void deleteWithDialog(AudioWidgetWrapper *wrapper) noexcept
 {
     QCoreApplication *application = QCoreApplication::instance();
-    if (wrapper->hasDialog() && application != nullptr)
-        runInThreadOf(*application, [wrapper] { delete wrapper; });
-    else
+    if (!wrapper->hasDialog() || application == nullptr)
         delete wrapper;
+    else // without memory for the call it is left behind: here is the wrong thread
+        utils::guarded([=] { runInThreadOf(*application, [wrapper] { delete wrapper; }); });
 }
 
 } // namespace
@@ -115,7 +116,7 @@ int AudioWidgetWrapper::exec(QWidget *parent, QObject *argument)
 void AudioWidgetWrapper::closeDialog()
 {
     if (hasDialog_)
-        runInThreadOf(*this, [this] { emit CloseDialog(); });
+        utils::guarded([this] { runInThreadOf(*this, [this] { emit CloseDialog(); }); });
 }
 
 std::shared_ptr<AudioWidgetWrapper> makeAudioWidgetWrapper(QString outputDeviceName, TestContext &context)

@@ -2,6 +2,7 @@
 #include "utils/accessible_dialog_base.h"
 
 #include "contract/style_manager.h"
+#include "utils/guarded.h"
 #include "utils/high_contrast_event_filter.h"
 #include "utils/high_contrast_style.h"
 #include "utils/icon_recolouring.h"
@@ -22,8 +23,11 @@ constexpr std::chrono::milliseconds themeSwitchTime{100};
 
 QString productStyleSheet()
 {
-    const style_manager::StyleManager *manager = style_manager::StyleManager::instance();
-    return manager == nullptr ? QString() : QString::fromStdString(manager->Stylesheet());
+    const auto ask = [] {
+        const style_manager::StyleManager *manager = style_manager::StyleManager::instance();
+        return manager == nullptr ? QString() : QString::fromStdString(manager->Stylesheet());
+    };
+    return answerOr(ask, QString());
 }
 
 } // namespace
@@ -40,7 +44,7 @@ AccessibleDialogBase::AccessibleDialogBase(QWidget *parent)
     setStyleSheet(productStyleSheet());
     baseStyleSheet_ = styleSheet();
     if (isHighContrast())
-        applyHighContrastStyle();
+        guarded([this] { applyHighContrastStyle(); }); // or the stylesheet stays as it was
 }
 
 AccessibleDialogBase::~AccessibleDialogBase()
@@ -57,15 +61,17 @@ QAccessibleInterface *AccessibleDialogBase::accessibleInterface()
 
 void AccessibleDialogBase::OnThemeChanged()
 {
-    QTimer::singleShot(themeSwitchTime, this, &AccessibleDialogBase::applyStyleOfTheme);
+    guarded([this] { QTimer::singleShot(themeSwitchTime, this, &AccessibleDialogBase::applyStyleOfTheme); });
 }
 
 void AccessibleDialogBase::applyStyleOfTheme()
 {
-    if (isHighContrast())
-        applyHighContrastStyle();
-    else
-        setStyleSheet(baseStyleSheet_);
+    guarded([this] {
+        if (isHighContrast())
+            applyHighContrastStyle();
+        else
+            setStyleSheet(baseStyleSheet_);
+    });
 }
 
 void AccessibleDialogBase::applyHighContrastStyle()

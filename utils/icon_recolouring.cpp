@@ -3,6 +3,7 @@
 
 #include "contract/sal.h"
 #include "utils/application_folders.h"
+#include "utils/guarded.h"
 #include "utils/temporary_icon_folder.h"
 
 #include <QByteArray>
@@ -52,8 +53,11 @@ QString recoloured(QString svgText, const QString &colour)
 
 QString temporaryFolder()
 {
-    sal::TemporaryPath *host = get_temporary_path();
-    const QString hostPath = host == nullptr ? QString() : QString::fromStdString(host->path());
+    const auto ask = [] {
+        sal::TemporaryPath *host = get_temporary_path();
+        return host == nullptr ? QString() : QString::fromStdString(host->path());
+    };
+    const QString hostPath = answerOr(ask, QString());
     if (hostPath.isEmpty())
         return QString::fromStdU16String(applicationFolder(application_folder::temporary));
     return hostPath + QDir::separator() + QStringLiteral("temp");

@@ -2,6 +2,7 @@
 #include "utils/screen_sources.h"
 
 #include "contract/sal.h"
+#include "utils/guarded.h"
 
 #include <windows.h>
 
@@ -21,7 +22,10 @@ using GetDpiForMonitorFunction = HRESULT(WINAPI *)(HMONITOR, int, UINT *, UINT *
 constexpr std::uint32_t fromSystemFolder = 1;
 
 struct HostRelease {
-    void operator()(void *library) const { get_module()->release(library); }
+    void operator()(void *library) const
+    {
+        guarded([library] { get_module()->release(library); });
+    }
 };
 struct SystemRelease {
     void operator()(void *library) const { FreeLibrary(static_cast<HMODULE>(library)); }
@@ -57,7 +61,8 @@ std::optional<std::uint32_t> askLibrary(void *library)
 std::optional<std::uint32_t> monitorDpi()
 {
     if (sal::ModuleLoader *loader = get_module()) {
-        const std::unique_ptr<void, HostRelease> library(loader->load("shcore.dll", fromSystemFolder));
+        const auto load = [loader] { return loader->load("shcore.dll", fromSystemFolder); };
+        const std::unique_ptr<void, HostRelease> library(answerOr(load, static_cast<void *>(nullptr)));
         return askLibrary(library.get());
     }
     // A bare name would find a copy beside the executable first.

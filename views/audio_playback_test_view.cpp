@@ -6,6 +6,7 @@
 #include "contract/sal.h"
 #include "ui_audio_playback_test_view.h"
 #include "utils/dpi.h"
+#include "utils/guarded.h"
 #include "utils/pace.h"
 #include "views/playback_form.h"
 #include "views/system_events.h"
@@ -39,8 +40,11 @@ std::unique_ptr<Ui::AudioPlaybackTestWidget> makeForm(QDialog &dialog)
 
 std::uint64_t hostTicks()
 {
-    sal::Timer *timer = get_timer();
-    return timer == nullptr ? 0 : timer->ticks();
+    const auto ask = [] {
+        sal::Timer *timer = get_timer();
+        return timer == nullptr ? std::uint64_t{0} : timer->ticks();
+    };
+    return utils::answerOr(ask, std::uint64_t{0});
 }
 
 } // namespace
@@ -71,6 +75,13 @@ AudioPlaybackTestView::AudioPlaybackTestView(QWidget *parent, QObject *eventFilt
 AudioPlaybackTestView::~AudioPlaybackTestView()
 {
     closeOpenDevice(); // a stopped test ends without done()
+}
+
+// Whatever could not be done, no verdict on the device may come of it.
+template <typename Body>
+void AudioPlaybackTestView::guard(Body body) noexcept
+{
+    utils::guarded(body, [this] { finish(playback_outcome::notCompleted); });
 }
 
 void AudioPlaybackTestView::connectDigits()
@@ -123,6 +134,11 @@ void AudioPlaybackTestView::startSecondSequence()
 
 void AudioPlaybackTestView::type(int digit)
 {
+    guard([this, digit] { accept(digit); });
+}
+
+void AudioPlaybackTestView::accept(int digit)
+{
     // Keys that were pressed while a digit sounded arrive late, maybe after the end.
     if (hasFinished() || entered_.size() >= sequenceLength)
         return;
@@ -150,7 +166,7 @@ void AudioPlaybackTestView::judge()
         startSecondSequence();
 }
 
-void AudioPlaybackTestView::OnBackspaceButtonClicked()
+void AudioPlaybackTestView::takeBackLastDigit()
 {
     if (hasFinished() || entered_.empty())
         return;
@@ -162,7 +178,7 @@ void AudioPlaybackTestView::OnBackspaceButtonClicked()
     keypad_.setPressed(digit, false);
 }
 
-void AudioPlaybackTestView::PlayAudio()
+void AudioPlaybackTestView::showPlayback()
 {
     setRepeatEnabled(false);
     soundIndicator_.showPlaying();
@@ -210,7 +226,7 @@ void AudioPlaybackTestView::setRepeatEnabled(bool isEnabled)
 }
 
 // The hold blocks on purpose, without a local event loop: nothing else may happen while a digit sounds.
-void AudioPlaybackTestView::CheckAudioIsPlaying()
+void AudioPlaybackTestView::playNextClip()
 {
     if (hasFinished() || clipIndex_ >= sequenceLength)
         return;
@@ -238,6 +254,21 @@ void AudioPlaybackTestView::CheckSystemEventAbortion()
     case EventAnswer::goOn:
         break;
     }
+}
+
+void AudioPlaybackTestView::PlayAudio()
+{
+    guard([this] { showPlayback(); });
+}
+
+void AudioPlaybackTestView::CheckAudioIsPlaying()
+{
+    guard([this] { playNextClip(); });
+}
+
+void AudioPlaybackTestView::OnBackspaceButtonClicked()
+{
+    guard([this] { takeBackLastDigit(); });
 }
 
 void AudioPlaybackTestView::OnCloseButtonClicked() { finish(playback_outcome::notCompleted); }

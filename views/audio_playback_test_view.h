@@ -96,6 +96,12 @@ private:
     void stopPlayback();
     void closeOpenDevice();
     void finish(int outcome);
+    template <typename Body>
+    void guard(Body body) noexcept;
+    void accept(int digit);
+    void playNextClip();
+    void takeBackLastDigit();
+    void showPlayback();
 
     std::unique_ptr<Ui::AudioPlaybackTestWidget> ui_;
     audio::AudioComponent *component_;

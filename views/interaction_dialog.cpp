@@ -3,6 +3,7 @@
 
 #include "audio/audio_devices.h"
 #include "utils/dpi.h"
+#include "utils/guarded.h"
 #include "utils/pace.h"
 #include "views/microphone_form.h"
 #include "views/play_audio.h"
@@ -28,8 +29,9 @@ constexpr std::chrono::milliseconds systemEventInterval{500};
 
 InteractionDialog::InteractionDialog(const QString &outputDeviceName, QWidget *parent, QObject *eventFilter,
                                      EventSource *events)
-    : InputDialog(parent, eventFilter), recording_(std::make_shared<audio::RecordingSlot>()), selectDevice_(new SelectDevice),
-      recordAudio_(new RecordAudio(recording_)), playAudio_(new PlayAudio(recording_, outputDeviceName)), events_(events)
+    : InputDialog(parent, eventFilter), recording_(std::make_shared<audio::RecordingSlot>()),
+      selectDevice_(new SelectDevice(this)), recordAudio_(new RecordAudio(recording_, this)),
+      playAudio_(new PlayAudio(recording_, outputDeviceName, this)), events_(events)
 {
     connect(&systemEventTimer_, &QTimer::timeout, this, &InteractionDialog::CheckSystemEvent);
     systemEventTimer_.start(utils::paced(systemEventInterval));
@@ -119,6 +121,12 @@ void InteractionDialog::AbortDeviceDisconnected()
 
 void InteractionDialog::Finish() { done(dialog_result::heard); }
 
+template <typename Body>
+void InteractionDialog::guard(Body body) noexcept
+{
+    utils::guarded(body, [this] { Abort(); });
+}
+
 void InteractionDialog::goToNextWidget()
 {
     QStackedWidget *pages = ui_->microphone_test_popups_space;
@@ -127,7 +135,7 @@ void InteractionDialog::goToNextWidget()
     // one, for 30 s when the sound server does not answer.
     CheckMicrophoneConnection(next);
     checkedPage_ = next;
-    pages->setCurrentIndex(next);
+    guard([=] { pages->setCurrentIndex(next); });
     checkedPage_ = noPage;
 }
 
@@ -140,20 +148,27 @@ void InteractionDialog::CheckMicrophoneConnection(int index)
     const auto isGone = [](const QString &name, bool isCapture) {
         return !audio::isAudioDeviceConnected(name.toStdString(), isCapture);
     };
-    if ((page == recordAudio_ && isGone(recordAudio_->deviceName(), true)) ||
-        (page == playAudio_ && isGone(playAudio_->deviceName(), false)))
-        AbortDeviceDisconnected();
+    guard([&, this] {
+        if ((page == recordAudio_ && isGone(recordAudio_->deviceName(), true)) ||
+            (page == playAudio_ && isGone(playAudio_->deviceName(), false)))
+            AbortDeviceDisconnected();
+    });
 }
 
 bool InteractionDialog::isCancelledByEvent() const { return isReady_ && askForEvents(events_) != EventAnswer::goOn; }
 
 void InteractionDialog::CheckSystemEvent()
 {
-    if (!isCancelledByEvent())
+    const EventAnswer answer = isReady_ ? askForEvents(events_) : EventAnswer::goOn;
+    if (answer == EventAnswer::goOn)
         return;
-    QTimer::singleShot(0, this, [this] {
-        if (isReady_)
-            done(result());
+    // After an event the host tells of it again. What it could not tell it may never tell, and the result so far is a pass.
+    const bool isUnknown = answer == EventAnswer::unknown;
+    guard([this, isUnknown] {
+        QTimer::singleShot(0, this, [this, isUnknown] {
+            if (isReady_)
+                isUnknown ? Abort() : done(result());
+        });
     });
 }
 

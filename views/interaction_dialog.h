@@ -82,11 +82,13 @@ private:
     void connectJobSignals(QObject *page, const char *nextSlot);
     void stopJobs();
     bool isCancelledByEvent() const;
+    template <typename Body>
+    void guard(Body body) noexcept;
 
     std::unique_ptr<Ui::InteractionDialog> ui_;
     QTimer systemEventTimer_;
     std::shared_ptr<audio::RecordingSlot> recording_;
-    SelectDevice *selectDevice_; // the stacked widget owns the pages
+    SelectDevice *selectDevice_; // a child from the start, later of the stacked widget, like the two others
     RecordAudio *recordAudio_;
     PlayAudio *playAudio_;
     EventSource *events_;

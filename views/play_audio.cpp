@@ -2,6 +2,7 @@
 #include "views/play_audio.h"
 
 #include "audio/player_helper.h"
+#include "utils/guarded.h"
 #include "views/ui_play_audio.h"
 #include "views/widget_setup.h"
 
@@ -55,7 +56,10 @@ void PlayAudio::OnBtnPlayClicked()
     if (job_.isBusy())
         return;
     enableButtons(false);
-    job_.start(std::make_unique<audio::PlayerHelper>(recording_->stored(), job_.begin(), deviceName_), SLOT(PlayAudio()));
+    const auto start = [this] {
+        job_.start(std::make_unique<audio::PlayerHelper>(recording_->stored(), job_.begin(), deviceName_), SLOT(PlayAudio()));
+    };
+    utils::guarded(start, [this] { emit AbortTest(); });
 }
 
 void PlayAudio::OnTimerTick()

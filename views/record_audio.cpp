@@ -2,6 +2,7 @@
 #include "views/record_audio.h"
 
 #include "audio/recorder_helper.h"
+#include "utils/guarded.h"
 #include "views/ui_record_audio.h"
 #include "views/widget_setup.h"
 
@@ -38,8 +39,11 @@ void RecordAudio::OnBtnRecordClicked()
     if (job_.isBusy())
         return;
     ui_->microphone_test_record_button->setEnabled(false);
-    job_.start(std::make_unique<audio::RecorderHelper>(recording_, job_.begin(), deviceName_, recordLimit),
-               SLOT(RecordAudio()));
+    const auto start = [this] {
+        job_.start(std::make_unique<audio::RecorderHelper>(recording_, job_.begin(), deviceName_, recordLimit),
+                   SLOT(RecordAudio()));
+    };
+    utils::guarded(start, [this] { emit AbortTest(); });
 }
 
 void RecordAudio::OnTimerTick()

@@ -3,6 +3,7 @@
 
 #include "audio/abandoned_workers.h"
 #include "audio/worker_status.h"
+#include "utils/guarded.h"
 #include "utils/pace.h"
 
 #include <QCoreApplication>
@@ -147,7 +148,8 @@ void TimedJob::letGo()
         return;
     thread_.clear();
     audio::abandonWorker(stopFlag_);
-    stopFlag_ = std::make_shared<std::atomic<bool>>(false);
+    // Without memory for another flag the worker counts for as long as this page lives.
+    utils::guarded([this] { stopFlag_ = std::make_shared<std::atomic<bool>>(false); });
 }
 
 } // namespace ostra

@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
+
 #include <algorithm>
 
 using namespace ostra;
@@ -24,6 +26,7 @@ private slots:
     void listsEveryDeviceUnderANameOfItsOwn();
     void tellsTheFallbackFormatWithoutClips();
     void tellsTheClipsFormat();
+    void theEnvironmentChangesNoClipsFormat();
 
 private:
     static PropertyList propertiesOf(const std::string &deviceName, AudioComponentManager &manager);
@@ -78,6 +81,20 @@ void TestDiscoverySound::tellsTheClipsFormat()
     QCOMPARE(propertiesOf("X", manager),
              (PropertyList{
                  {"UDI", "X"}, {"NUMBER_OF_CHANNELS", "1"}, {"SAMPLE_RATE", "48000"}, {"DRIVER_NAME", soundDriverName()}}));
+}
+
+// The sound library reads these where a format is left open; a clip leaves none.
+void TestDiscoverySound::theEnvironmentChangesNoClipsFormat()
+{
+    constexpr std::array<std::array<const char *, 2>, 4> values{{{"SDL_AUDIO_FREQUENCY", "8000"},
+                                                                 {"SDL_AUDIO_FORMAT", "U8"},
+                                                                 {"SDL_AUDIO_CHANNELS", "6"},
+                                                                 {"SDL_AUDIO_SAMPLES", "64"}}};
+    for (const auto &[name, value] : values)
+        SDL_setenv(name, value, 1);
+    tellsTheClipsFormat();
+    for (const auto &[name, value] : values)
+        SDL_setenv(name, "", 1);
 }
 
 QTEST_GUILESS_MAIN(TestDiscoverySound)

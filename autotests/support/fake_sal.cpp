@@ -13,6 +13,7 @@ public:
     std::int32_t query(std::vector<sal::CimRow> &rows, const std::string &condition, const std::string &className,
                        std::uint32_t propertyCount, const char *const *propertyNames, const std::string &nameSpace) override
     {
+        state().onCall("cim");
         state().queries.push_back({condition, className, {propertyNames, propertyNames + propertyCount}, nameSpace});
         if (state().queries.size() == state().failingQuery)
             throw std::bad_alloc();
@@ -23,13 +24,18 @@ public:
 
 class PrefixingNumberHandler final : public sal::NumberHandler {
 public:
-    std::string toText(std::int64_t number) override { return state().numberPrefix + std::to_string(number); }
+    std::string toText(std::int64_t number) override
+    {
+        state().onCall("number handler");
+        return state().numberPrefix + std::to_string(number);
+    }
 };
 
 class SteadyTimer final : public sal::Timer {
 public:
     std::uint64_t ticks() override
     {
+        state().onCall("timer");
         const auto now = std::chrono::steady_clock::now().time_since_epoch();
         return static_cast<std::uint64_t>(std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
     }
@@ -37,13 +43,21 @@ public:
 
 class NoModules final : public sal::ModuleLoader {
 public:
-    void *load(const std::string & /*fileName*/, std::uint32_t /*flag*/) override { return nullptr; }
+    void *load(const std::string & /*fileName*/, std::uint32_t /*flag*/) override
+    {
+        state().onCall("module loader");
+        return nullptr;
+    }
     void release(void * /*handle*/) override {}
 };
 
 class ChosenPath final : public sal::TemporaryPath {
 public:
-    std::string path() override { return state().temporaryPath; }
+    std::string path() override
+    {
+        state().onCall("temporary path");
+        return state().temporaryPath;
+    }
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "contract/sal.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,9 @@ struct State {
     std::string numberPrefix;      ///< put before every number, so that a test sees who formatted it
     std::string temporaryPath;
     std::vector<Query> queries; ///< recorded, in order
+    /// Called first by every operation, with the name of its service: "cim", "number handler", "timer", "module loader" or
+    /// "temporary path". May throw.
+    std::function<void(const std::string &service)> onCall = [](const std::string &) {};
 };
 
 State &state();

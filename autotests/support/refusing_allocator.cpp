@@ -7,7 +7,30 @@
 namespace refusing_allocator {
 
 std::size_t refusedByteCount = 0;
-int allocationsUntilFailure = -1;
+std::atomic<int> allocationsUntilFailure = -1;
+std::atomic<Choice> choice = nullptr;
+
+namespace {
+
+thread_local int pauseCount = 0;
+
+bool isRefused()
+{
+    if (allocationsUntilFailure < 0 || pauseCount > 0)
+        return false;
+    const Choice isCounted = choice;
+    if (isCounted != nullptr) {
+        const Pause pause;
+        if (!isCounted())
+            return false;
+    }
+    return allocationsUntilFailure-- == 0;
+}
+
+} // namespace
+
+Pause::Pause() { ++pauseCount; }
+Pause::~Pause() { --pauseCount; }
 
 } // namespace refusing_allocator
 
@@ -18,9 +41,7 @@ void *operator new(std::size_t byteCount, const std::nothrow_t & /*tag*/) noexce
 
 void *operator new(std::size_t byteCount)
 {
-    using refusing_allocator::allocationsUntilFailure;
-    const bool isRefused = allocationsUntilFailure >= 0 && allocationsUntilFailure-- == 0;
-    if (void *memory = isRefused ? nullptr : std::malloc(byteCount))
+    if (void *memory = refusing_allocator::isRefused() ? nullptr : std::malloc(byteCount))
         return memory;
     throw std::bad_alloc();
 }

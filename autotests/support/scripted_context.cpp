@@ -6,8 +6,12 @@
 void ScriptedContext::note(const std::string &call)
 {
     calls.push_back(call);
-    if (throwingCall == calls.size() - 1)
-        throw std::runtime_error("the host failed at: " + call);
+    const bool isChosen = !throwsAt.empty() && call.starts_with(throwsAt);
+    if (!isChosen && throwingCall != calls.size() - 1)
+        return;
+    if (fail)
+        fail();
+    throw std::runtime_error("the host failed at: " + call);
 }
 
 void ScriptedContext::Sink::addMessage(std::string text, std::uint32_t level, std::uint32_t reserved)

@@ -32,6 +32,8 @@ public:
     bool canReceiveInput = true;
     bool wantsStop = false;
     std::optional<std::size_t> throwingCall;             ///< number of the noted call that throws, from 0
+    std::string throwsAt;                                ///< calls that begin so throw as well; empty: none
+    std::function<void()> fail;                          ///< throws in its own way; empty: a std::runtime_error
     std::function<void(ostra::InputRequest &)> onWidget; ///< shows a request that has a widget
 
     std::vector<std::string> calls;

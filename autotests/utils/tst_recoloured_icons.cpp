@@ -2,6 +2,8 @@
 #include "utils/icon_recolouring.h"
 
 #include "autotests/support/fake_sal.h"
+#include "utils/high_contrast_style.h"
+#include "utils/style_rules.h"
 
 #include <QDir>
 #include <QImage>
@@ -19,10 +21,14 @@ private slots:
     void imageHasTheNewColour();
     void stylesheetFindsTheIcon_data();
     void stylesheetFindsTheIcon();
+    void aFolderBreaksNoRuleAndAddsNone_data();
+    void aFolderBreaksNoRuleAndAddsNone();
     void keepsAnIconWhoseFolderCannotStandInAStylesheet_data();
     void keepsAnIconWhoseFolderCannotStandInAStylesheet();
 
 private:
+    static void addUsableFolders();
+    static void addUnusableFolders();
     static QString original() { return QStringLiteral("url(\":/icons/audio/play.svg\")"); }
 };
 
@@ -41,15 +47,24 @@ void TestRecolouredIcons::imageHasTheNewColour()
 void TestRecolouredIcons::stylesheetFindsTheIcon_data()
 {
     QTest::addColumn<QString>("folder");
+    addUsableFolders();
+}
+
+void TestRecolouredIcons::addUsableFolders()
+{
     for (const char *folder : {"plain", "with blank", "a}b", "a{b", "a(b", "a)b", "a;b", "a'b", "a%20b", "a#b", "Prüfung-スピ"})
         QTest::newRow(folder) << QString::fromUtf8(folder);
+    QTest::newRow("right to left") << QStringLiteral("\u05e8\u05de\u05e7\u05d5\u05dc");
+    QTest::newRow("a rule of its own") << QStringLiteral("'); } QLabel { color: red; } Q { image: url(x");
+    QTest::newRow("a comment") << QStringLiteral("a*b");
+    QTest::newRow("more than 260 units") << QString(130, u'a') + u'/' + QString(130, u'b');
 }
 
 void TestRecolouredIcons::stylesheetFindsTheIcon()
 {
     QFETCH(QString, folder);
     const QTemporaryDir root;
-    QVERIFY(QDir(root.path()).mkdir(folder));
+    QVERIFY(QDir(root.path()).mkpath(folder));
     fake_sal::state().temporaryPath = root.filePath(folder).toStdString();
     QWidget widget;
     widget.setAttribute(Qt::WA_StyledBackground);
@@ -60,9 +75,47 @@ void TestRecolouredIcons::stylesheetFindsTheIcon()
     QCOMPARE(widget.grab().toImage().pixelColor(16, 16), QColor(0, 255, 0));
 }
 
+void TestRecolouredIcons::aFolderBreaksNoRuleAndAddsNone_data()
+{
+    QTest::addColumn<QString>("folder");
+    addUsableFolders();
+    addUnusableFolders();
+}
+
+// The whole way of a sheet into high contrast, and once more: what comes out differs in the icon's file only.
+void TestRecolouredIcons::aFolderBreaksNoRuleAndAddsNone()
+{
+    QFETCH(QString, folder);
+    const QTemporaryDir root;
+    QVERIFY(QDir(root.path()).mkpath(folder));
+    fake_sal::state().temporaryPath = root.filePath(folder).toStdString();
+    QWidget dialog;
+    const QList<QColor> colors(30, Qt::white);
+    const auto rewrite = [&](const QString &file) {
+        const QString sheet = QStringLiteral("QLabel { margin: 1px; } QPushButton { image: ") + original() +
+                              QStringLiteral("; padding: 2px; } QFrame { margin: 3px; }");
+        QString value;
+        const auto recolour = [&](const QString &icon, const QString &color) {
+            value = recolourIcon(&dialog, icon, color);
+            return value;
+        };
+        QString written = StyleRules::parse(highContrastStyleSheet(sheet, colors, recolour)).toText();
+        return written.replace(value, file);
+    };
+    const QString text = rewrite(QStringLiteral("url(\"x\")"));
+    fake_sal::state().temporaryPath = root.path().toStdString();
+    QCOMPARE(text, rewrite(QStringLiteral("url(\"x\")")));
+    QVERIFY(text.contains(QStringLiteral("padding: 2px")) && text.contains(QStringLiteral("margin: 3px")));
+}
+
 void TestRecolouredIcons::keepsAnIconWhoseFolderCannotStandInAStylesheet_data()
 {
     QTest::addColumn<QString>("folder");
+    addUnusableFolders();
+}
+
+void TestRecolouredIcons::addUnusableFolders()
+{
     QTest::newRow("quotation mark") << "a\"b";
     QTest::newRow("backslash") << "a\\b";
     QTest::newRow("line end") << "a\nb";

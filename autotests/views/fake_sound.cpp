@@ -25,7 +25,8 @@ SDL_AudioDeviceID openDevice(const char *name, int isCapture, const SDL_AudioSpe
         return 0;
     if (obtained != nullptr)
         *obtained = *desired;
-    current->noteOpened(std::string(name) + ' ' + std::to_string(isCapture));
+    if (current->keepsNames)
+        current->noteOpened(std::string(name) + ' ' + std::to_string(isCapture));
     return static_cast<SDL_AudioDeviceID>(1 + ++current->openedCount);
 }
 

@@ -25,6 +25,7 @@ public:
     std::vector<std::string> openedNames() const;
     void noteOpened(std::string call);
 
+    std::atomic<bool> keepsNames = true; ///< of what was opened
     std::atomic<bool> canOpen = true;
     std::atomic<bool> isStopped = false;    ///< as after the device vanished
     std::atomic<bool> hangsOnClose = false; ///< a device that is being closed waits until this is false

@@ -23,6 +23,29 @@ void write(std::FILE *stream, const QString &text)
     std::fflush(stream);
 }
 
+bool steersATerminal(QChar unit)
+{
+    switch (unit.category()) {
+    case QChar::Other_Control:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    case QChar::Other_Format:
+        return unit != QChar(0x200C) && unit != QChar(0x200D); // the joiners that scripts need
+    default:
+        return false;
+    }
+}
+
+// A name is any text that a driver chose: it must neither break the line nor steer the terminal.
+QString readable(const QString &name)
+{
+    QString text;
+    for (const QChar unit : name)
+        text += steersATerminal(unit) ? QStringLiteral("\\u{%1}").arg(unit.unicode(), 4, 16, QLatin1Char('0')) : QString(unit);
+    return text;
+}
+
 QString verdictWords(Verdict verdict)
 {
     switch (verdict) {
@@ -59,8 +82,9 @@ QString recordingLines(const HeardRecording &heard)
     return QStringLiteral("spoken through '%1', recorded by '%2'\n"
                           "sentence found in the playback: %3, score %4, delay %5\n"
                           "level %6, peak %7, clipped: %8, silent: %9, ")
-               .arg(heard.spokenThrough, heard.microphone, yesOrNo(heard.isFound), QString::number(heard.score, 'f', 3), delay,
-                    decibels(heard.levelDbfs), decibels(heard.peakDbfs), yesOrNo(heard.isClipped), yesOrNo(heard.isSilent)) +
+               .arg(readable(heard.spokenThrough), readable(heard.microphone), yesOrNo(heard.isFound),
+                    QString::number(heard.score, 'f', 3), delay, decibels(heard.levelDbfs), decibels(heard.peakDbfs),
+                    yesOrNo(heard.isClipped), yesOrNo(heard.isSilent)) +
            QStringLiteral("mono in stereo: %1\nanswer: %2\n")
                .arg(yesOrNo(heard.isMonoInStereo), heard.answer ? yesOrNo(*heard.answer) : QStringLiteral("none"));
 }
@@ -75,7 +99,7 @@ QString runSummary(const RunRecord &record)
 {
     const Verdict verdict = verdictOf(record);
     QString text = QStringLiteral("%1 on '%2' (%3): %4, code %5\n")
-                       .arg(record.testNameKey, record.device.name, record.language, verdictWords(verdict),
+                       .arg(record.testNameKey, readable(record.device.name), record.language, verdictWords(verdict),
                             QString::number(codeOf(verdict)));
     if (!record.reason.isEmpty())
         text += QStringLiteral("reason: %1\n").arg(record.reason);
@@ -94,10 +118,10 @@ QString unknownDevice(const QString &name, const QList<Device> &devices)
 {
     QStringList names;
     for (const Device &device : devices)
-        names.append(QStringLiteral("'%1'").arg(device.name));
+        names.append(QStringLiteral("'%1'").arg(readable(device.name)));
     const QString known =
         names.isEmpty() ? QStringLiteral("there is none") : QStringLiteral("known: ") + names.join(QStringLiteral(", "));
-    return QStringLiteral("unknown device '%1' (%2)").arg(name, known);
+    return QStringLiteral("unknown device '%1' (%2)").arg(readable(name), known);
 }
 
 } // namespace host

@@ -19,7 +19,27 @@ private slots:
     void tellsMessagesInWordsAndByKey();
     void tellsAMessageWithoutWordsOnce();
     void endsWithTheDigits();
+    void aNameCannotSteerTheTerminal();
 };
+
+void TestConsoleOutput::aNameCannotSteerTheTerminal()
+{
+    const QString name = QStringLiteral("A\u001b[2J\r\nB\u202eC\u2028D\u200dE\u007f");
+    const QString shown = QStringLiteral("A\\u{001b}[2J\\u{000d}\\u{000a}B\\u{202e}C\\u{2028}D\u200dE\\u{007f}");
+    host::RunRecord record;
+    record.device.name = name;
+    record.recording.emplace();
+    record.recording->spokenThrough = name;
+    record.recording->microphone = name;
+    const QString summary = host::runSummary(record);
+    QCOMPARE(summary.count(shown), 3);
+    QVERIFY(!summary.contains(u'\u001b') && !summary.contains(u'\r'));
+    host::Device device;
+    device.name = name;
+    const QString complaint = host::unknownDevice(name, {device});
+    QCOMPARE(complaint.count(shown), 2);
+    QVERIFY(!complaint.contains(u'\n'));
+}
 
 void TestConsoleOutput::tellsMessagesInWordsAndByKey_data()
 {
