@@ -6,6 +6,9 @@ set(MODULE_AUDIO_TEST_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen"
     "ASAN_OPTIONS=detect_leaks=1:abort_on_error=0"
     "UBSAN_OPTIONS=print_stacktrace=1")
+if(MODULE_AUDIO_COVERAGE)
+    list(APPEND MODULE_AUDIO_TEST_ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=1500000") # neither optimised nor free of counting
+endif()
 if(WIN32)
     # The libraries of the bundle find each other as they do beside the host's executable.
     list(APPEND MODULE_AUDIO_TEST_ENVIRONMENT "WINEPATH_FIRST=${MODULE_AUDIO_BUNDLE_DIR}")
