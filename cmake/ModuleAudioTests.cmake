@@ -11,6 +11,9 @@ if(MODULE_AUDIO_THREAD_SANITIZE)
     list(APPEND MODULE_AUDIO_TEST_ENVIRONMENT
         "TSAN_OPTIONS=ignore_noninstrumented_modules=1:second_deadlock_stack=1:halt_on_error=0:die_after_fork=0:exitcode=66:suppressions=${CMAKE_SOURCE_DIR}/autotests/support/tsan.supp:print_suppressions=0")
 endif()
+if(MODULE_AUDIO_COVERAGE)
+    list(APPEND MODULE_AUDIO_TEST_ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=1500000") # neither optimised nor free of counting
+endif()
 if(WIN32)
     # The libraries of the bundle find each other as they do beside the host's executable.
     list(APPEND MODULE_AUDIO_TEST_ENVIRONMENT "WINEPATH_FIRST=${MODULE_AUDIO_BUNDLE_DIR}")

@@ -38,6 +38,14 @@ struct Icon {
 
 bool isIcon(const QString &property) { return property == u"image" || property == u"icon"; }
 
+// Only at the end: a path may hold an exclamation mark as well.
+QString withoutImportance(const QString &value)
+{
+    const qsizetype mark = value.lastIndexOf(u'!');
+    const bool isImportant = mark >= 0 && value.sliced(mark + 1).trimmed().compare(u"important", Qt::CaseInsensitive) == 0;
+    return isImportant ? value.first(mark).trimmed() : value;
+}
+
 bool isNamedButton(const StyleSubject &subject)
 {
     return subject.isAnyOf({"QPushButton", "QToolButton"}) && !subject.name.isEmpty() && subject.states.isEmpty() &&
@@ -157,7 +165,7 @@ void Rewriter::rewriteDeclaration(const Group &group, StyleRule &target, const S
     const auto &[property, value] = declaration;
     if (!isIcon(property)) {
         // Importance would carry one half of a pair into the rules of other pairs.
-        const QString plain = hasColor(value) ? value.section(u'!', 0, 0).trimmed() : value;
+        const QString plain = hasColor(value) ? withoutImportance(value) : value;
         target.set(property, withColor(plain, colorFor(property, group.surface)));
         return;
     }

@@ -23,8 +23,8 @@ namespace driven_runs {
 
 namespace {
 
-constexpr int stuckLimit = 10000; // ms
-constexpr int patientStuckLimit = 60000;
+constexpr int stuckLimit = 60000; // ms
+constexpr int patientStuckLimit = 240000;
 constexpr int threadEndLimit = 5000;
 
 // A sequence is 0, 1, 2 when nothing was drawn before.
@@ -233,8 +233,13 @@ std::string leftovers(std::size_t threadCount)
         text += std::to_string(threads - threadCount) + " threads ";
     if (audio::abandonedWorkerCount() != 0)
         text += "an abandoned worker ";
-    for (QWidget *widget : QApplication::topLevelWidgets())
-        text += "a window of " + std::string(widget->metaObject()->className()) + ' ';
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        // What a form's generated code had made when it got no more memory, before it found a place for it.
+        if (qstrcmp(widget->metaObject()->className(), "QWidget") == 0 && widget->isHidden())
+            delete widget;
+        else
+            text += "a window of " + std::string(widget->metaObject()->className()) + ' ';
+    }
     return text;
 }
 

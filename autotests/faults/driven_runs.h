@@ -42,7 +42,7 @@ int nextDigit();
 struct Outcome {
     std::optional<std::uint32_t> code; ///< none: the run itself threw
     bool hasSlotThrown = false;        ///< a slot of a dialog let an exception out
-    bool isStuck = false;              ///< nothing went on for ten seconds
+    bool isStuck = false;              ///< nothing went on for a minute
     std::size_t callCount = 0;         ///< calls of the host's services
 };
 

@@ -23,6 +23,7 @@ private slots:
     void stylesheetFindsTheIcon();
     void aFolderBreaksNoRuleAndAddsNone_data();
     void aFolderBreaksNoRuleAndAddsNone();
+    void anExclamationMarkInAPathEndsNoValue();
     void keepsAnIconWhoseFolderCannotStandInAStylesheet_data();
     void keepsAnIconWhoseFolderCannotStandInAStylesheet();
 
@@ -106,6 +107,22 @@ void TestRecolouredIcons::aFolderBreaksNoRuleAndAddsNone()
     fake_sal::state().temporaryPath = root.path().toStdString();
     QCOMPARE(text, rewrite(QStringLiteral("url(\"x\")")));
     QVERIFY(text.contains(QStringLiteral("padding: 2px")) && text.contains(QStringLiteral("margin: 3px")));
+}
+
+// Cut at the mark, the text in quotes would never end, and Qt would refuse the whole sheet.
+void TestRecolouredIcons::anExclamationMarkInAPathEndsNoValue()
+{
+    const QString sheet = QStringLiteral("QLabel { background: url(\"/a!b/c.png\") #112233; } "
+                                         "QFrame { background: url(/a!b/c.png) red ! important; margin: 3px; }");
+    const StyleRules rules = StyleRules::parse(highContrastStyleSheet(sheet, QList<QColor>(30, Qt::white), {}));
+    const auto backgroundOf = [&rules](const QString &selector) {
+        for (const StyleRule &rule : rules.rules())
+            if (rule.selector() == selector)
+                return rule.value(QStringLiteral("background"));
+        return QString();
+    };
+    QCOMPARE(backgroundOf(QStringLiteral("QLabel")), QStringLiteral("url(\"/a!b/c.png\") #ffffff"));
+    QCOMPARE(backgroundOf(QStringLiteral("QFrame")), QStringLiteral("url(/a!b/c.png) #ffffff"));
 }
 
 void TestRecolouredIcons::keepsAnIconWhoseFolderCannotStandInAStylesheet_data()
