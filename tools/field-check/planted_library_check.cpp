@@ -55,7 +55,9 @@ Finding checkPlantedLibrary(const Surroundings &surroundings)
     const auto harmless = surroundings.program / L"sal.dll";
     plant(harmless, current);
     std::filesystem::copy(surroundings.program, copy, std::filesystem::copy_options::recursive);
-    std::filesystem::copy_file(harmless, copy / L"shcore.dll");
+    // Only there: Wine's own shell library asks for it by name and takes the program's.
+    if (!isWine())
+        std::filesystem::copy_file(harmless, copy / L"shcore.dll");
 
     Surroundings planted = surroundings;
     planted.program = copy;

@@ -13,9 +13,9 @@ namespace field_check {
 
 namespace {
 
-constexpr std::chrono::seconds shownRun{8};
+constexpr std::chrono::seconds shownRun{12};
 constexpr std::chrono::seconds longestShownRun{90};
-constexpr DWORD untilTheDialog = 5000; ///< milliseconds
+constexpr DWORD untilTheDialog = 8000; ///< milliseconds, the instructions come first
 
 FARPROC systemFunction(const char *name) { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), name); }
 
