@@ -27,7 +27,8 @@ constexpr std::chrono::milliseconds systemEventInterval{500};
 
 InteractionDialog::InteractionDialog(const QString &outputDeviceName, QWidget *parent, QObject *eventFilter,
                                      EventSource *events)
-    : InputDialog(parent, eventFilter), recording_(std::make_shared<audio::RecordingSlot>()), selectDevice_(new SelectDevice),
+    : InputDialog(parent, eventFilter, Qt::Dialog | Qt::FramelessWindowHint),
+      recording_(std::make_shared<audio::RecordingSlot>()), selectDevice_(new SelectDevice),
       recordAudio_(new RecordAudio(recording_)), playAudio_(new PlayAudio(recording_, outputDeviceName)), events_(events)
 {
     connect(&systemEventTimer_, &QTimer::timeout, this, &InteractionDialog::CheckSystemEvent);
@@ -70,7 +71,6 @@ void InteractionDialog::prepareWindow()
 {
     setWindowTitle(translated("APPLICATION_NAME"));
     setWindowModality(Qt::ApplicationModal);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
 }
 
 void InteractionDialog::connectPages()
