@@ -101,18 +101,17 @@ void runOnce(ostra::ModuleInterface &module)
     QApplication::processEvents();
 }
 
-/// memory-runs MODULE: kilobytes after 10 and after 100 runs of the playback test, each closed as soon as it is shown.
+/// memory-runs MODULE: kilobytes after 100 and after 200 runs of the playback test, each closed as soon as it is shown.
 int memoryRuns(const char *modulePath)
 {
     ostra::ModuleInterface *module = loadModule(modulePath);
     module->componentManager()->refresh();
-    double after10 = 0;
-    for (int run = 1; run <= 100; ++run) {
+    for (int run = 0; run < 100; ++run)
         runOnce(*module);
-        if (run == 10)
-            after10 = bench::residentKilobytes();
-    }
-    std::printf("%.0f %.0f\n", after10, bench::residentKilobytes());
+    const double after100 = bench::residentKilobytes();
+    for (int run = 0; run < 100; ++run)
+        runOnce(*module);
+    std::printf("%.0f %.0f\n", after100, bench::residentKilobytes());
     return 0;
 }
 
