@@ -50,7 +50,7 @@ double playBare(const BarePlayer &player)
     return start;
 }
 
-// Where sound begins after half a second of silence.
+// Where sound begins after a quarter of a second of silence.
 std::vector<double> onsets(const QByteArray &bytes)
 {
     std::vector<double> result;
@@ -62,7 +62,7 @@ std::vector<double> onsets(const QByteArray &bytes)
             ++silentCount;
             continue;
         }
-        if (silentCount > static_cast<qsizetype>(framesPerSecond / 2))
+        if (silentCount > static_cast<qsizetype>(framesPerSecond / 4))
             result.push_back(static_cast<double>(frame) / framesPerSecond);
         silentCount = 0;
     }
