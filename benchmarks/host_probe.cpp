@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // A host of the smallest kind, which loads the module as every host does. Prints what it was asked to measure.
+#include "autotests/support/live_memory.h"
 #include "autotests/support/scripted_context.h"
 #include "benchmarks/loaded_library.h"
 #include "benchmarks/pairs.h"
@@ -108,10 +109,10 @@ double kilobytesAfterHundredRuns(ostra::ModuleInterface &module)
     for (int run = 0; run < 100; ++run)
         runOnce(module);
     QPixmapCache::clear();
-    return bench::residentKilobytes();
+    return static_cast<double>(liveByteCount()) / 1024;
 }
 
-/// memory-runs MODULE: kilobytes after 100 and after 200 runs of the playback test, each closed as soon as it is shown.
+/// memory-runs MODULE: kilobytes held after 100 and after 200 runs of the playback test, each closed as soon as it is shown.
 int memoryRuns(const char *modulePath)
 {
     ostra::ModuleInterface *module = loadModule(modulePath);
