@@ -62,7 +62,10 @@ double fastest(const Measurement &measurement)
 void print(const Row &row)
 {
     std::printf("%s\t%s\t%s\t%s\t%s\t%s\n", row.figure.c_str(), row.peer.c_str(), row.goal.c_str(), row.measured.c_str(),
-                row.spread.c_str(), row.isMet ? "met" : "missed");
+                row.spread.c_str(),
+                row.goal == "-" ? "noted"
+                : row.isMet     ? "met"
+                                : "missed");
     std::fflush(stdout);
 }
 
@@ -75,6 +78,12 @@ Row ratioRow(std::string figure, std::string peer, double limit, const Compariso
             shown(comparison.low) + "–" + shown(comparison.high) + " in " + std::to_string(comparison.pairCount) + " pairs; " +
                 shown(comparison.subject * unit.factor) + " / " + shown(comparison.peer * unit.factor) + " " + unit.name,
             comparison.ratio <= limit};
+}
+
+Row withoutGoal(Row row)
+{
+    row.goal = "-";
+    return row;
 }
 
 std::string shown(double value)

@@ -45,7 +45,7 @@ double fastest(const Measurement &measurement);
 struct Row {
     std::string figure;
     std::string peer;     ///< what it was measured against, or the limit
-    std::string goal;     ///< such as "≤ 1.05"
+    std::string goal;     ///< such as "≤ 1.05"; "-" for what is only to be known
     std::string measured; ///< the ratio, or a value where there is no peer
     std::string spread;   ///< quartiles and what they are made of
     bool isMet = false;
@@ -60,6 +60,9 @@ struct Unit {
     const char *name = "ms";
 };
 Row ratioRow(std::string figure, std::string peer, double limit, const Comparison &comparison, Unit unit = {});
+
+/// The same without a goal.
+Row withoutGoal(Row row);
 
 /// A number as the table shows it: three digits that matter.
 std::string shown(double value);

@@ -6,8 +6,10 @@
 
 #include <SDL.h>
 
+#include <chrono>
 #include <cstdio>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -31,7 +33,7 @@ struct Sound {
     decltype(&SDL_CloseAudioDevice) close;
 };
 
-int openAll(const char *libraryPath, const char *driver)
+int openAll(const char *libraryPath, const char *driver, std::chrono::milliseconds held)
 {
     const bench::LoadedLibrary library(libraryPath);
     const Sound sound(library);
@@ -45,20 +47,23 @@ int openAll(const char *libraryPath, const char *driver)
     const int count = sound.count(0);
     for (int index = 0; index < count; ++index) {
         const std::string name = sound.name(index, 0);
-        sound.close(sound.open(name.c_str(), 0, &spec, nullptr, 0));
+        const SDL_AudioDeviceID device = sound.open(name.c_str(), 0, &spec, nullptr, 0);
+        std::this_thread::sleep_for(held);
+        sound.close(device);
     }
     return count;
 }
 
 } // namespace
 
-/// refresh_bare SDL_LIBRARY DRIVER
+/// refresh_bare SDL_LIBRARY DRIVER MILLISECONDS: how long each device stays open.
 int main(int argumentCount, char **arguments)
 {
-    if (argumentCount != 3)
+    if (argumentCount != 4)
         return 2;
+    const std::chrono::milliseconds held(std::stoi(arguments[3]));
     int count = 0;
-    const double seconds = bench::secondsOf([&] { count = openAll(arguments[1], arguments[2]); });
+    const double seconds = bench::secondsOf([&] { count = openAll(arguments[1], arguments[2], held); });
     std::printf("%.6f %d\n", seconds, count);
     return 0;
 }

@@ -32,8 +32,8 @@ QString productStyleSheet()
 
 } // namespace
 
-AccessibleDialogBase::AccessibleDialogBase(QWidget *parent)
-    : QDialog(parent), highContrastFilter_(new (std::nothrow) HighContrastEventFilter(this))
+AccessibleDialogBase::AccessibleDialogBase(QWidget *parent, Qt::WindowFlags flags)
+    : QDialog(parent, flags), highContrastFilter_(new (std::nothrow) HighContrastEventFilter(this))
 {
     if (highContrastFilter_ != nullptr) {
         systemColors_ = highContrastFilter_->systemColors();

@@ -28,7 +28,8 @@ class AccessibleDialogBase : public QDialog {
     Q_OBJECT
 
 public:
-    explicit AccessibleDialogBase(QWidget *parent);
+    /// With `flags` from the start: changed later they cost the whole dialog its style once more.
+    explicit AccessibleDialogBase(QWidget *parent, Qt::WindowFlags flags = {});
     ~AccessibleDialogBase() override;
 
     /// The one accessible interface of the process (role Client, no name), made for the dialog that first asks and answered

@@ -51,11 +51,11 @@ std::uint64_t hostTicks()
 
 AudioPlaybackTestView::AudioPlaybackTestView(QWidget *parent, QObject *eventFilter, std::uintptr_t /*word*/,
                                              audio::AudioComponent *component, TestContext *systemEvents)
-    : InputDialog(parent, eventFilter), ui_(makeForm(*this)), component_(component), systemEvents_(systemEvents), keypad_(*ui_),
-      indicators_(*ui_), soundIndicator_(*ui_->audio_playback_test_sound_indicator_gif, *this),
+    : InputDialog(parent, eventFilter, Qt::Dialog | Qt::FramelessWindowHint), ui_(makeForm(*this)), component_(component),
+      systemEvents_(systemEvents), keypad_(*ui_), indicators_(*ui_),
+      soundIndicator_(*ui_->audio_playback_test_sound_indicator_gif, *this),
       drag_(*this, *ui_->audio_playback_test_header, *ui_->audio_playback_test_header_close)
 {
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setAttribute(Qt::WA_NativeWindow);
     setAccessibleDescription(QString::fromStdString(component->name()));
     connectDigits();

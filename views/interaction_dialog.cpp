@@ -29,7 +29,7 @@ constexpr std::chrono::milliseconds systemEventInterval{500};
 
 InteractionDialog::InteractionDialog(const QString &outputDeviceName, QWidget *parent, QObject *eventFilter,
                                      EventSource *events)
-    : InputDialog(parent, eventFilter), recording_(std::make_shared<audio::RecordingSlot>()),
+    : InputDialog(parent, eventFilter, Qt::Dialog | Qt::FramelessWindowHint), recording_(std::make_shared<audio::RecordingSlot>()),
       selectDevice_(new SelectDevice(this)), recordAudio_(new RecordAudio(recording_, this)),
       playAudio_(new PlayAudio(recording_, outputDeviceName, this)), events_(events)
 {
@@ -73,7 +73,6 @@ void InteractionDialog::prepareWindow()
 {
     setWindowTitle(translated("APPLICATION_NAME"));
     setWindowModality(Qt::ApplicationModal);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
 }
 
 void InteractionDialog::connectPages()

@@ -29,11 +29,11 @@ bool wantsStop(TestContext &watcher) noexcept
 
 } // namespace
 
-InputDialog::InputDialog(QWidget * /*parent*/, QObject *eventFilter) : AccessibleDialogBase(nullptr)
+InputDialog::InputDialog(QWidget * /*parent*/, QObject *eventFilter, Qt::WindowFlags flags)
+    : AccessibleDialogBase(nullptr, flags | Qt::WindowStaysOnTopHint)
 {
     setAttribute(Qt::WA_DeleteOnClose, false);
     setAttribute(Qt::WA_QuitOnClose, false); // the end of a test must not end a host without another window
-    setWindowFlag(Qt::WindowStaysOnTopHint);
     setWindowModality(Qt::WindowModal);
     setModal(true);
     if (eventFilter != nullptr)

@@ -16,7 +16,8 @@ class InputDialog : public utils::accessibility::AccessibleDialogBase {
 public:
     /// `parent` is deliberately not used: the dialog is a top-level window of its own. `eventFilter` is installed on the dialog
     /// and may be null. Both stay the caller's.
-    InputDialog(QWidget *parent, QObject *eventFilter);
+    /// `flags` as those of a QDialog; the dialog stays on top in any case.
+    InputDialog(QWidget *parent, QObject *eventFilter, Qt::WindowFlags flags = {});
 
     const QString &title() const noexcept { return title_; }
     void setTitle(const QString &title) { title_ = title; }
