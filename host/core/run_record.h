@@ -76,6 +76,7 @@ struct RunRecord {
     QString listenedTo; ///< capture source of an unattended run
     QList<HeardDigit> digits;
     std::optional<HeardRecording> recording; ///< of an unattended microphone run
+    QString keptAudio;                       ///< file with all that was heard; empty: no sound was kept
     QStringList screenshots;                 ///< files, absolute paths
     QStringList restoredVolumes;             ///< endpoints whose level the guardian had to put back
     QString volumeComplaint;                 ///< what the guardian could not do; empty when all went well

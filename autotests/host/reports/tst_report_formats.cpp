@@ -243,6 +243,10 @@ void TestReportFormats::makesOneHtmlFileWithoutNetwork()
     QVERIFY(style.contains(QStringLiteral("@media print")));
     QVERIFY(!style.contains(QStringLiteral("url(")) && !style.contains(QStringLiteral("@import")));
     QVERIFY(page.contains("No sound was kept."));
+    host::RunRecord kept = fullRecord();
+    kept.keptAudio = QStringLiteral("<heard>.wav");
+    QVERIFY(html(kept).contains("All that was heard, voices too, was kept in &lt;heard&gt;.wav."));
+    QVERIFY(!html(kept).contains("No sound was kept."));
     QCOMPARE(named(elements, "meta").value(0).attribute("charset"), QStringLiteral("utf-8"));
 }
 
@@ -404,7 +408,7 @@ void TestReportFormats::alignsTheTable()
     QCOMPARE(lines[1].size(), lines[0].size());
     QCOMPARE(lines[2].size(), lines[0].size());
     QVERIFY(lines[3].isEmpty());
-    QCOMPARE(lines[2].simplified(), QStringLiteral("2 3 4321 - 7 0 0.99 0.50 61 -21.0 -3.1 62.3 -4.0 yes"));
+    QCOMPARE(lines[2].simplified(), QStringLiteral("2 3 4321 - 7 0 0.99 0.50 61 -21.0 -21.0 -60.6 -3.1 62.3 -4.0 yes"));
     QCOMPARE(lines[1].simplified(), QStringLiteral("1 1 - - - - 0.00 0.00 - -120.0 - - - no"));
     QCOMPARE(host::digitTableText(reportOf(playbackRecord())), QString());
 }
