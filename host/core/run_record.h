@@ -39,6 +39,8 @@ struct HeardDigit {
     std::optional<DigitMeasurement> measured;
 };
 
+inline constexpr int recordingStepMs = 20;
+
 /// What an unattended microphone run heard while the dialog played its recording back.
 struct HeardRecording {
     QString microphone;              ///< as the dialog names it
@@ -54,6 +56,8 @@ struct HeardRecording {
     bool isClipped = false;
     bool isSilent = true;        ///< nothing louder than -50 dBFS
     bool isMonoInStereo = false; ///< both channels hold the same, or one of them nothing
+    QList<double> lowest;        ///< of each `recordingStepMs` of the playback, -1 to 1 of full scale
+    QList<double> highest;       ///< as many
     std::optional<bool> answer;  ///< yes or no to the question; nothing when it was not asked
 };
 

@@ -209,6 +209,7 @@ private:
     {
         const auto facts = view_.recordingFacts();
         writePairs("Recording", "What was heard of the recording", facts);
+        writeRecordingPlot(xml_, report_);
         if (!facts.isEmpty())
             return;
         element("h2", QStringLiteral("Recording"));

@@ -157,6 +157,9 @@ QJsonValue recordingOf(const std::optional<HeardRecording> &heard)
         {QStringLiteral("clipped"), heard->isClipped},
         {QStringLiteral("silent"), heard->isSilent},
         {QStringLiteral("monoInStereo"), heard->isMonoInStereo},
+        {QStringLiteral("envelopeStepMs"), recordingStepMs},
+        {QStringLiteral("lowest"), listOf(heard->lowest, 1000)},
+        {QStringLiteral("highest"), listOf(heard->highest, 1000)},
         {QStringLiteral("answer"),
          heard->answer ? QJsonValue(*heard->answer ? QStringLiteral("yes") : QStringLiteral("no")) : QJsonValue()}};
 }

@@ -78,6 +78,8 @@ host::RunRecord microphoneRecord()
     heard.peakDbfs = -3.16;
     heard.isSilent = false;
     heard.isMonoInStereo = true;
+    heard.lowest = {-0.1234, -0.5};
+    heard.highest = {0.25, 0.5678};
     heard.answer = true;
     record.recording = heard;
     return record;

@@ -156,6 +156,9 @@ void TestRunReport::tellsTheRecording()
                                {QStringLiteral("clipped"), false},
                                {QStringLiteral("silent"), false},
                                {QStringLiteral("monoInStereo"), true},
+                               {QStringLiteral("envelopeStepMs"), 20},
+                               {QStringLiteral("lowest"), QJsonArray{-0.123, -0.5}},
+                               {QStringLiteral("highest"), QJsonArray{0.25, 0.568}},
                                {QStringLiteral("answer"), QStringLiteral("yes")}};
     QCOMPARE(parsed(record).value(QLatin1String("recording")).toObject(), expected);
     record.recording = host::HeardRecording();
