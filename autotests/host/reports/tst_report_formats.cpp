@@ -308,7 +308,7 @@ void TestReportFormats::drawsEveryPlot()
     QCOMPARE(bars[1].attribute("height"), QStringLiteral("169.9")); // 0.9877 of 172
     const QString outline = named(elements, "polygon").value(0).attribute("points");
     QCOMPARE(outline.split(u' ').size(), 6);
-    QVERIFY(outline.startsWith(QStringLiteral("56.0,65.6 "))); // 0.2 between -0.5 and 0.5
+    QVERIFY(outline.startsWith(QStringLiteral("56.0,79.6 "))); // 0.2 between -0.5 and 0.5
 }
 
 // Every second one, so that none runs into the next.
