@@ -11,6 +11,8 @@ _TamrexDiagnosticsCLI() {
         --microphone) COMPREPLY=(); return ;;
         --speak-through) COMPREPLY=(); return ;;
         --report) mapfile -t COMPREPLY < <(compgen -f -- "$current"); return ;;
+        --keep-audio) mapfile -t COMPREPLY < <(compgen -f -- "$current"); return ;;
+        --reports) mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
         --screenshots) mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
         --language) mapfile -t COMPREPLY < <(compgen -W 'pt_BR en_US es_ES fr_FR it_IT de_DE nl_NL zh_CN ja_JP' -- "$current"); return ;;
         -o | --output) mapfile -t COMPREPLY < <(compgen -f -- "$current"); return ;;
@@ -22,7 +24,7 @@ _TamrexDiagnosticsCLI() {
     case $command in
         list) options='--json --config --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
         info) options='--json --self-check --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
-        run) options='--config --test --device --listen --microphone --speak-through --report --screenshots --allow-virtual --language --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
+        run) options='--config --test --device --listen --microphone --speak-through --report --keep-audio --all-languages --reports --screenshots --allow-virtual --language --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
         report) options='--output --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { mapfile -t COMPREPLY < <(compgen -f -- "$current"); return; } ;;
         clips) options='--json --language --folder --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { mapfile -t COMPREPLY < <(compgen -W 'verify' -- "$current"); return; } ;;
         *) [[ $current == -* ]] || options='list info run report clips' ;;

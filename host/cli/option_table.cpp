@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char *languages = "pt_BR en_US es_ES fr_FR it_IT de_DE nl_NL zh_CN ja_JP";
 
-constexpr std::array<OptionRow, 19> options{{
+constexpr std::array<OptionRow, 22> options{{
     {"json", nullptr, nullptr, "list info clips", Completion::none, nullptr,
      "print exactly one JSON document; everything else goes to standard error", false},
     {"config", nullptr, "DIR", "list run", Completion::folder, nullptr,
@@ -30,6 +30,14 @@ constexpr std::array<OptionRow, 19> options{{
      "write a report, by its suffix as .json, .xml (JUnit), .html or .txt; of several runs each its own, -1, -2, ... behind "
      "the name",
      true},
+    {"keep-audio", nullptr, "FILE", "run", Completion::file, nullptr,
+     "keep all that is heard, voices in the room too, in FILE (.wav), of several runs each its own; without this no sound is "
+     "kept",
+     false},
+    {"all-languages", nullptr, nullptr, "run", Completion::none, nullptr,
+     "run each test in each of the nine languages; the user's own language stays", false},
+    {"reports", nullptr, "DIR", "run", Completion::folder, nullptr,
+     "write the reports of each run into DIR, as .json, .xml (JUnit) and .html, named by device, test and language", false},
     {"screenshots", nullptr, "DIR", "run", Completion::folder, nullptr, "photograph the windows into that folder", false},
     {"allow-virtual", nullptr, nullptr, "run", Completion::none, nullptr,
      "also run on a device that no hardware stands behind; it is refused without this", false},
@@ -58,9 +66,11 @@ constexpr std::array<CommandRow, 5> commands{{
     {"info", nullptr, Completion::none, nullptr, "Tells the product's version, the diagnostics and their tests.",
      "info --json\ninfo --self-check"},
     {"run", nullptr, Completion::none, nullptr,
-     "Runs tests with nobody there: starts the graphical host, which needs a display, once for each test and device. Ends with "
+     "Runs tests with nobody there: starts the graphical host, which needs a display, once for each test, device and language. "
+     "Ends with "
      "the worst of their codes; 1 is worse than 6, 4, 3 and 0, in this order.",
      "run --device \"USB Headset\" --listen \"Room Microphone\" --report headset.html\n"
+     "run --test p --test m --device Speakers --microphone Headset --all-languages --reports results\n"
      "run --test p --device 0 --device 1 --report result.json --report result.xml --gnu-exit"},
     {"report", "FILE", Completion::file, nullptr, "Converts a report in JSON, which run wrote, to another format.",
      "report result.json\nreport result.json --output result.html --output result.xml"},

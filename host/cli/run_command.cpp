@@ -3,14 +3,17 @@
 
 #include "host/cli/console.h"
 #include "host/cli/interrupt.h"
+#include "host/cli/run_plan.h"
 #include "host/core/device_list.h"
 #include "host/core/module_library.h"
 #include "host/precheck/virtual_devices.h"
-#include "host/reports/report_formats.h"
+#include "host/reports/run_report.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QDir>
+#include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include <optional>
 
@@ -21,11 +24,6 @@ namespace {
 constexpr int pollMs = 100;
 /// The host gives back the volumes before it ends.
 constexpr int endLimitMs = 20'000;
-
-struct PlannedRun {
-    QString test;
-    QString device;
-};
 
 ExitCode refuse(Console &console, const QString &message, ExitCode code = ExitCode::usage)
 {
@@ -64,35 +62,6 @@ ExitCode checkDevices(const CommandLine &line, const QStringList &names, Console
                           ExitCode::cannotBePerformed);
     }
     return ExitCode::success;
-}
-
-QList<PlannedRun> plan(const CommandLine &line, const QStringList &devices)
-{
-    const QStringList tests = line.isSet("test") ? line.all("test") : QStringList{QStringLiteral("p")};
-    QList<PlannedRun> runs;
-    for (const QString &test : tests) {
-        for (const QString &device : devices)
-            runs.append({test, device});
-    }
-    return runs;
-}
-
-QStringList argumentsOf(const CommandLine &line, const PlannedRun &run, int number)
-{
-    const QString source = line.isSet("listen") ? line.last("listen") : QStringLiteral("Monitor of ") + run.device;
-    QStringList arguments{QStringLiteral("--unattended"), QStringLiteral("--test=") + run.test,
-                          QStringLiteral("--device=") + run.device, QStringLiteral("--listen=") + source};
-    for (const char *option : {"screenshots", "language", "config"}) {
-        if (line.isSet(option))
-            arguments.append(QStringLiteral("--%1=%2").arg(QLatin1String(option), line.last(option)));
-    }
-    for (const char *option : {"microphone", "speak-through"}) {
-        if (run.test == QLatin1String("m") && line.isSet(option))
-            arguments.append(QStringLiteral("--%1=%2").arg(QLatin1String(option), line.last(option)));
-    }
-    for (const QString &file : line.all("report"))
-        arguments.append(QStringLiteral("--report=") + (number > 0 ? numberedReport(file, number) : file));
-    return arguments;
 }
 
 std::optional<ExitCode> interruption()
@@ -138,48 +107,54 @@ ExitCode perform(const QStringList &arguments, Console &console)
     return codeOf(process, console);
 }
 
+// A language for this run alone: the user's own stays as it is.
+bool writeLanguage(const QString &folder, const QString &code)
+{
+    QFile file(QDir(folder).filePath(QStringLiteral("config.ini")));
+    const QByteArray text = "[LANGUAGE]\nDEFAULT_LANGUAGE=" + code.toLatin1() + '\n';
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+}
+
+ExitCode performOne(const CommandLine &line, const PlannedRun &run, Console &console)
+{
+    if (run.language.isEmpty())
+        return perform(argumentsOf(line, run, line.last("config")), console);
+    const QTemporaryDir folder;
+    if (!folder.isValid() || !writeLanguage(folder.path(), run.language))
+        return refuse(console, QStringLiteral("the run's language cannot be written: %1").arg(folder.errorString()),
+                      ExitCode::notCompleted);
+    return perform(argumentsOf(line, run, folder.path()), console);
+}
+
+void printOutcome(const PlannedRun &run, ExitCode code, Console &console)
+{
+    console.print(QStringLiteral("%1  %2  %3  '%4'  %5\n")
+                      .arg(QString::number(run.number).rightJustified(3), run.test,
+                           run.language.isEmpty() ? QStringLiteral("-") : run.language, run.device,
+                           resultName(static_cast<std::uint32_t>(code))));
+}
+
 ExitCode performAll(const CommandLine &line, const QList<PlannedRun> &runs, Console &console)
 {
     ExitCode worst = ExitCode::success;
-    int number = 0;
+    QList<ExitCode> codes;
     for (const PlannedRun &run : runs) {
-        number = runs.size() > 1 ? number + 1 : 0;
-        const ExitCode code = perform(argumentsOf(line, run, number), console);
+        const ExitCode code = performOne(line, run, console);
         worst = worseOf(worst, code);
+        codes.append(code);
         if (interruption() || code == ExitCode::usage)
             return code;
     }
+    for (qsizetype index = 0; runs.size() > 1 && index < runs.size(); ++index)
+        printOutcome(runs[index], codes[index], console);
     return worst;
-}
-
-std::optional<UsageError> checkLine(const CommandLine &line)
-{
-    if (!line.isSet("device"))
-        return UsageError{QStringLiteral("'run' needs '--device NAME' (list shows them)")};
-    if (line.isSet("config") && line.isSet("language"))
-        return UsageError{QStringLiteral("'--language' and '--config' exclude each other")};
-    for (const char *option : {"microphone", "speak-through"}) {
-        if (line.isSet(option) && !line.all("test").contains(QStringLiteral("m")))
-            return UsageError{QStringLiteral("'--%1' goes with '--test m' only").arg(QLatin1String(option))};
-    }
-    for (const QString &file : line.all("report")) {
-        if (!reportFormatOf(file))
-            return UsageError{QStringLiteral("the report '%1' cannot be written: %2").arg(file, reportSuffixes())};
-    }
-    return std::nullopt;
 }
 
 } // namespace
 
-QString numberedReport(const QString &file, int number)
-{
-    const QString suffix = QFileInfo(file).suffix();
-    return QStringLiteral("%1-%2.%3").arg(file.chopped(suffix.size() + 1), QString::number(number), suffix);
-}
-
 ExitCode runTests(const CommandLine &line, Console &console)
 {
-    if (const auto wrong = checkLine(line))
+    if (const auto wrong = checkRun(line))
         return refuse(console, wrong->message);
     QStringList devices;
     if (const ExitCode code = findDevices(line.all("device"), devices, console); code != ExitCode::success)
@@ -187,7 +162,7 @@ ExitCode runTests(const CommandLine &line, Console &console)
     if (const ExitCode code = checkDevices(line, devices, console); code != ExitCode::success)
         return code;
     catchSignals();
-    return performAll(line, plan(line, devices), console);
+    return performAll(line, planRuns(line, devices), console);
 }
 
 } // namespace host

@@ -13,6 +13,7 @@ struct DigitMeasurement {
     std::optional<double> residualDbfs;  ///< RMS level of what is left after the scaled clip is taken away
     std::optional<double> clockErrorPpm; ///< above 0: the device plays too fast; nothing when not measurable
     double peakDbfs = 0.0;
+    QList<double> channelDbfs; ///< RMS level of left and right
     qint64 clippedFrameCount = 0;
     QList<double> lowest;         ///< of each `envelopeStepMs`, -1 to 1 of full scale
     QList<double> highest;        ///< as many

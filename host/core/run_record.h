@@ -39,6 +39,8 @@ struct HeardDigit {
     std::optional<DigitMeasurement> measured;
 };
 
+inline constexpr int recordingStepMs = 20;
+
 /// What an unattended microphone run heard while the dialog played its recording back.
 struct HeardRecording {
     QString microphone;              ///< as the dialog names it
@@ -54,6 +56,8 @@ struct HeardRecording {
     bool isClipped = false;
     bool isSilent = true;        ///< nothing louder than -50 dBFS
     bool isMonoInStereo = false; ///< both channels hold the same, or one of them nothing
+    QList<double> lowest;        ///< of each `recordingStepMs` of the playback, -1 to 1 of full scale
+    QList<double> highest;       ///< as many
     std::optional<bool> answer;  ///< yes or no to the question; nothing when it was not asked
 };
 
@@ -76,6 +80,7 @@ struct RunRecord {
     QString listenedTo; ///< capture source of an unattended run
     QList<HeardDigit> digits;
     std::optional<HeardRecording> recording; ///< of an unattended microphone run
+    QString keptAudio;                       ///< file with all that was heard; empty: no sound was kept
     QStringList screenshots;                 ///< files, absolute paths
     QStringList restoredVolumes;             ///< endpoints whose level the guardian had to put back
     QString volumeComplaint;                 ///< what the guardian could not do; empty when all went well

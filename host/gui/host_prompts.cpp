@@ -106,6 +106,22 @@ InstructionsPrompt::InstructionsPrompt(const QString &title, const QString &text
     connect(buttons.second, &QPushButton::clicked, this, &QDialog::reject);
 }
 
+PrecheckPrompt::PrecheckPrompt(const QStringList &findings, bool isRefused, QWidget *parent) : QDialog(parent)
+{
+    prepare(*this, QStringLiteral("host_precheck"));
+    QVBoxLayout *layout = makeLayout(*this);
+    addTitle(*layout, hostText(isRefused ? "PRECHECK_REFUSED" : "PRECHECK_TITLE"), QStringLiteral("host_precheck_title"));
+    addText(*layout, listed(findings), QStringLiteral("host_precheck_text"));
+    const Buttons buttons = addButtons(*layout, "PRECHECK_RUN", "PRECHECK_CLOSE", QStringLiteral("host_precheck_buttons"));
+    buttons.first->setObjectName(QStringLiteral("host_precheck_run"));
+    buttons.second->setObjectName(QStringLiteral("host_precheck_close"));
+    buttons.first->setVisible(!isRefused);
+    buttons.second->setDefault(true);
+    buttons.second->setFocus();
+    connect(buttons.first, &QPushButton::clicked, this, &QDialog::accept);
+    connect(buttons.second, &QPushButton::clicked, this, &QDialog::reject);
+}
+
 QuestionPrompt::QuestionPrompt(const QString &title, const QString &text, QWidget *parent) : QDialog(parent)
 {
     prepare(*this, QStringLiteral("host_question"));

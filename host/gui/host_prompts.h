@@ -19,6 +19,16 @@ public:
     InstructionsPrompt(const QString &title, const QString &text, const QStringList &endpoints, QWidget *parent = nullptr);
 };
 
+/// Shown before a test where something should be known: `findings`, one sentence each. With `isRefused` the test cannot take
+/// place, and there is but the button that closes. Object names "host_precheck", "host_precheck_text", "host_precheck_run" and
+/// "host_precheck_close". Escape and close decline.
+class PrecheckPrompt : public QDialog {
+    Q_OBJECT
+
+public:
+    PrecheckPrompt(const QStringList &findings, bool isRefused, QWidget *parent = nullptr);
+};
+
 /// A question that only its two buttons answer: Escape, Enter beside a button and close do nothing. Object names
 /// "host_question", "host_question_yes" and "host_question_no".
 class QuestionPrompt : public QDialog {

@@ -51,6 +51,22 @@ QString levelWords(double rmsDbfs, double peakDbfs)
     return hostText("METER_WORDS").arg(decibels(rmsDbfs), decibels(peakDbfs), wordOf(loudnessOf(rmsDbfs, peakDbfs)));
 }
 
+QList<double> waveOf(const QList<HeardDigit> &digits)
+{
+    constexpr qsizetype stepsPerPair = 20 / envelopeStepMs;
+    QList<double> wave;
+    for (const HeardDigit &digit : digits) {
+        const DigitMeasurement measured = digit.measured.value_or(DigitMeasurement());
+        const qsizetype count = std::min(measured.lowest.size(), measured.highest.size());
+        for (qsizetype first = 0; first < count; first += stepsPerPair) {
+            const qsizetype end = std::min(first + stepsPerPair, count);
+            wave.append(*std::min_element(measured.lowest.begin() + first, measured.lowest.begin() + end));
+            wave.append(*std::max_element(measured.highest.begin() + first, measured.highest.begin() + end));
+        }
+    }
+    return wave;
+}
+
 QString waveWords(const QList<double> &wave)
 {
     if (wave.isEmpty())

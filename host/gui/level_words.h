@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "host/core/run_record.h"
+
 #include <QList>
 #include <QString>
 
@@ -13,6 +15,10 @@ Loudness loudnessOf(double rmsDbfs, double peakDbfs);
 
 /// Both levels and what they mean, in the language in force.
 QString levelWords(double rmsDbfs, double peakDbfs);
+
+/// What was captured of each digit, one behind the other, as lowest and highest sample in turn, fifty pairs a second; empty
+/// where nothing was measured.
+QList<double> waveOf(const QList<HeardDigit> &digits);
 
 /// Length and highest sample of a waveform of fifty pairs a second; empty for none.
 QString waveWords(const QList<double> &wave);

@@ -5,19 +5,27 @@
 #include "host/gui/device_table.h"
 #include "host/gui/event_menu.h"
 #include "host/gui/history_table.h"
+#include "host/gui/host_prompts.h"
 #include "host/gui/key_text.h"
 #include "host/gui/level_words.h"
 #include "host/gui/result_panel.h"
 #include "host/gui/run_panel.h"
 #include "host/gui/wave_view.h"
+#include "host/reports/run_report.h"
+#include "host/reports/text_report.h"
 #include "host/translations/translators.h"
 
 #include <QActionGroup>
+#include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -107,6 +115,9 @@ void MainWindow::makeMenus(bool hasEvents)
 {
     fileMenu_ = menuBar()->addMenu(QString());
     refreshAction_ = fileMenu_->addAction(QString(), QKeySequence(Qt::Key_F5), &session_, &TestSession::refresh);
+    saveAction_ = fileMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_S), this, &MainWindow::chooseReportFile);
+    copyAction_ =
+        fileMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this, &MainWindow::copyReport);
     fileMenu_->addSeparator();
     quitAction_ = fileMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
     testMenu_ = menuBar()->addMenu(QString());
@@ -199,7 +210,70 @@ void MainWindow::changeLanguage(const QString &code)
     session_.refresh();
 }
 
-void MainWindow::runChosen() { session_.run(tests_->chosen(), devices_->chosen(), language_.code()); }
+void MainWindow::runChosen()
+{
+    if (mayRun())
+        session_.run(tests_->chosen(), devices_->chosen(), language_.code());
+}
+
+// Only shown: nothing is mended behind the person's back, and a run that would blame the device wrongly does not take place.
+bool MainWindow::mayRun()
+{
+    const int test = tests_->chosen();
+    const int device = static_cast<int>(devices_->chosen());
+    if (!precheck_ || session_.isRunning() || test < 0 || device < 0)
+        return true;
+    const QList<PrecheckFinding> findings =
+        precheck_(session_.tests()[test].letter, session_.deviceList().devices()[device].name);
+    QStringList sentences;
+    QString refusal;
+    for (const PrecheckFinding &finding : findings) {
+        sentences.append(precheckText(finding));
+        log(sentences.last());
+        if (finding.isBlocking() && refusal.isEmpty())
+            refusal = sentences.last();
+    }
+    if (findings.isEmpty())
+        return true;
+    PrecheckPrompt prompt(sentences, !refusal.isEmpty(), this);
+    const bool isWanted = prompt.exec() == QDialog::Accepted;
+    if (!refusal.isEmpty())
+        session_.refuse(test, device, language_.code(), refusal);
+    return isWanted && refusal.isEmpty();
+}
+
+bool MainWindow::saveReport(const QString &file)
+{
+    QString problem;
+    if (session_.history().isEmpty())
+        return false;
+    const bool isSaved =
+        writeRunReport(session_.history().last(), file, &problem, [](const QString &key) { return shownText(key); });
+    log(isSaved ? hostText("LOG_REPORT_SAVED").arg(QDir::toNativeSeparators(file))
+                : hostText("LOG_REPORT_NOT_SAVED").arg(problem));
+    return isSaved;
+}
+
+void MainWindow::chooseReportFile()
+{
+    const QString formats = QStringLiteral("HTML (*.html);;JSON (*.json);;JUnit XML (*.xml);;TXT (*.txt)");
+    QString chosen;
+    QString file = QFileDialog::getSaveFileName(this, hostText("SAVE_REPORT"), QStringLiteral("report.html"), formats, &chosen);
+    if (file.isEmpty())
+        return;
+    if (QFileInfo(file).suffix().isEmpty()) // not every dialog adds it
+        file += chosen.mid(chosen.indexOf(u'.')).chopped(1);
+    saveReport(file);
+}
+
+void MainWindow::copyReport()
+{
+    if (session_.history().isEmpty())
+        return;
+    const QByteArray report = runReport(session_.history().last(), [](const QString &key) { return shownText(key); });
+    QApplication::clipboard()->setText(QString::fromUtf8(textReport(QJsonDocument::fromJson(report).object())));
+    log(hostText("LOG_REPORT_COPIED"));
+}
 
 void MainWindow::showDevices(bool isComplete)
 {
@@ -259,6 +333,8 @@ void MainWindow::setRunning(bool isRunning)
     refreshAction_->setEnabled(!isRunning);
     runAction_->setEnabled(!isRunning);
     stopAction_->setEnabled(isRunning);
+    for (QAction *action : {saveAction_, copyAction_})
+        action->setEnabled(!isRunning && !session_.history().isEmpty());
     languages_->setEnabled(!isRunning && language_.canChange());
     if (eventMenu_ != nullptr)
         eventMenu_->setEnabled(isRunning);

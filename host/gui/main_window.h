@@ -3,8 +3,12 @@
 
 #include "host/core/language_setting.h"
 #include "host/gui/test_session.h"
+#include "host/precheck/precheck.h"
 
 #include <QMainWindow>
+
+#include <functional>
+#include <utility>
 
 class QAction;
 class QActionGroup;
@@ -35,6 +39,13 @@ public:
     void choose(qsizetype test, qsizetype device);
     /// Shows the waveform of the last playback of a recording beside the result; none when empty.
     void showWave(const QList<double> &wave);
+    /// What to look at before a run that a person starts; nothing is looked at without it.
+    using Precheck = std::function<QList<PrecheckFinding>(const QString &testLetter, const QString &device)>;
+    void setPrecheck(Precheck precheck) { precheck_ = std::move(precheck); }
+    /// Writes the report of the last run, by the file's suffix as .json, .xml, .html or .txt. False with a line in the log.
+    bool saveReport(const QString &file);
+    /// Copies that report as text.
+    void copyReport();
     /// Adds a line to the log, with the time.
     void log(const QString &line);
     /// Writes the language, translates everything and lists the devices anew: the module reads it only then.
@@ -56,6 +67,8 @@ private:
     void layOut();
     void connectSession();
     void runChosen();
+    bool mayRun();
+    void chooseReportFile();
     void showDevices(bool isComplete);
     void showStarted(const RunRecord &record);
     void showEnded(const RunRecord &record);
@@ -88,6 +101,8 @@ private:
     QMenu *eventMenu_ = nullptr;
     QMenu *helpMenu_ = nullptr;
     QAction *refreshAction_ = nullptr;
+    QAction *saveAction_ = nullptr;
+    QAction *copyAction_ = nullptr;
     QAction *quitAction_ = nullptr;
     QAction *runAction_ = nullptr;
     QAction *stopAction_ = nullptr;
@@ -95,6 +110,7 @@ private:
     QActionGroup *languages_ = nullptr;
     std::optional<int> exitCode_; // asked for during a run
     bool hasDevices_ = false;
+    Precheck precheck_;
 };
 
 } // namespace host

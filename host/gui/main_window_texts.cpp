@@ -45,9 +45,12 @@ void MainWindow::retranslate()
 
 void MainWindow::retranslateMenus()
 {
-    const QStringList file = withMnemonics({hostText("REFRESH_DEVICES"), hostText("QUIT")});
+    const QStringList file =
+        withMnemonics({hostText("REFRESH_DEVICES"), hostText("SAVE_REPORT"), hostText("COPY_REPORT"), hostText("QUIT")});
     refreshAction_->setText(file[0]);
-    quitAction_->setText(file[1]);
+    saveAction_->setText(file[1]);
+    copyAction_->setText(file[2]);
+    quitAction_->setText(file[3]);
     const QStringList test = withMnemonics({hostText("RUN_TEST"), hostText("STOP_TEST")});
     runAction_->setText(test[0]);
     stopAction_->setText(QStringLiteral("%1\t%2").arg(test[1], RunKeys::stopKeys()));

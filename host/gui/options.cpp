@@ -22,7 +22,7 @@ struct KnownOption {
     bool isUnattendedOnly;
 };
 
-constexpr std::array<KnownOption, 16> knownOptions{{
+constexpr std::array<KnownOption, 17> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
@@ -30,6 +30,7 @@ constexpr std::array<KnownOption, 16> knownOptions{{
     {"microphone", "NAME", "the microphone that test m chooses (the first one)", true},
     {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
     {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},
+    {"keep-audio", "FILE", "keep all that is heard, voices too, in FILE (.wav); without it no sound is kept", true},
     {"screenshots", "DIR", "photograph the windows into that folder", true},
     {"mistype", "N", "for proofs: get N sequences wrong", true},
     {"language", "CODE", "language, such as de_DE; kept for later starts", false},
@@ -119,6 +120,8 @@ std::optional<OptionsError> checkUnattended(const QCommandLineParser &parser, co
         if (!reportFormatOf(file))
             return error(QStringLiteral("the report '%1' cannot be written: %2").arg(file, reportSuffixes()));
     }
+    if (!options.keptAudio.isEmpty() && !options.keptAudio.endsWith(QStringLiteral(".wav"), Qt::CaseInsensitive))
+        return error(QStringLiteral("the sound '%1' cannot be kept: its name must end in .wav").arg(options.keptAudio));
     for (const char *name : {"microphone", "speak-through"}) {
         if (options.test != QLatin1String("m") && parser.isSet(QLatin1String(name)))
             return error(QStringLiteral("'--%1' goes with '--test m' only").arg(QLatin1String(name)));
@@ -157,6 +160,7 @@ Options readValues(const QCommandLineParser &parser)
     const QStringList reports = parser.values(QStringLiteral("report"));
     for (const QString &file : reports)
         options.reportFiles.append(absolute(file));
+    options.keptAudio = absolute(parser.value(QStringLiteral("keep-audio")));
     options.screenshotsFolder = absolute(parser.value(QStringLiteral("screenshots")));
     options.configFolder = absolute(parser.value(QStringLiteral("config")));
     return options;

@@ -22,6 +22,7 @@ struct Options {
     QString microphone;   ///< empty for the first one
     QString speakThrough; ///< output; empty for the tested device
     QStringList reportFiles;
+    QString keptAudio; ///< file for what is heard; empty: no sound is kept
     QString language;
     QString screenshotsFolder;
     QString configFolder;

@@ -9,6 +9,7 @@
 #include "host/gui/interrupt_watcher.h"
 #include "host/gui/key_text.h"
 #include "host/gui/level_window.h"
+#include "host/gui/level_words.h"
 #include "host/gui/main_window.h"
 #include "host/gui/run_bar.h"
 #include "host/gui/run_keys.h"
@@ -81,6 +82,10 @@ public:
           levels_(&window_, options.source), keys_(options.isDeveloper)
     {
         session_.setSchedule(options.schedule);
+        window_.setPrecheck([&language](const QString &letter, const QString &device) {
+            const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
+            return checkBeforeRun({device, clips, language.code(), letter == QLatin1String("m")});
+        });
         prompter_.setParents(&window_, &keys_);
         QCoreApplication::instance()->installEventFilter(&keys_);
         connectRun(session_, window_, bar_, keys_);
@@ -110,9 +115,9 @@ private:
             if (record.testLetter == QLatin1String("m") && !options_.source.isEmpty() && !options_.isUnattended)
                 listen();
         });
-        QObject::connect(&session_, &TestSession::runEnded, &levels_, [this] {
+        QObject::connect(&session_, &TestSession::runEnded, &levels_, [this](const RunRecord &record) {
             ear_.reset();
-            window_.showWave(levels_.playbackWave());
+            window_.showWave(record.digits.isEmpty() ? levels_.playbackWave() : waveOf(record.digits));
         });
     }
 

@@ -102,6 +102,8 @@ void ResultPanel::showVerdict()
     icon_->setPixmap(style()->standardIcon(iconOf(verdictOf(*record_))).pixmap(side, side));
     verdict_->setText(verdictText(*record_));
     subject_->setText(subjectOf(*record_));
+    if (!record_->reason.isEmpty())
+        messages_->addItem(new QListWidgetItem(style()->standardIcon(QStyle::SP_MessageBoxInformation), record_->reason));
     for (const RunMessage &message : record_->messages)
         addMessage(message);
 }

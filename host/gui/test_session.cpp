@@ -2,6 +2,7 @@
 #include "host/gui/test_session.h"
 
 #include "contract/module_interface.h"
+#include "contract/result_codes.h"
 #include "host/core/run_context.h"
 
 #include <QScopeGuard>
@@ -78,6 +79,19 @@ std::optional<RunRecord> TestSession::run(qsizetype test, qsizetype device, cons
     if (finish)
         finish(record);
     context_ = nullptr;
+    end(record);
+    return record;
+}
+
+std::optional<RunRecord> TestSession::refuse(qsizetype test, qsizetype device, const QString &language, const QString &reason)
+{
+    if (isRunning() || testAt(test) == nullptr || componentAt(device) == nullptr)
+        return std::nullopt;
+    RunRecord record = begin(test, device, language);
+    record.endedUtc = record.startedUtc;
+    record.wasModuleCalled = false;
+    record.code = ostra::result::cannotBePerformed;
+    record.reason = reason;
     end(record);
     return record;
 }

@@ -69,6 +69,9 @@ public:
     /// to it before anybody sees it. Nothing while a run is under way or for a position that does not exist.
     std::optional<RunRecord> run(qsizetype test, qsizetype device, const QString &language,
                                  const std::function<void(RunRecord &)> &finish = {});
+    /// Notes a run that must not take place, with the result 3 and `reason`, as if it had ended. Nothing while a run is under
+    /// way or for a position that does not exist.
+    std::optional<RunRecord> refuse(qsizetype test, qsizetype device, const QString &language, const QString &reason);
     /// Ends the run under way as soon as the test asks.
     void stop();
     /// Raises one event bit in the run under way.

@@ -114,6 +114,7 @@ OperatorSettings UnattendedRun::operatorSettings() const
     settings.screenshotsFolder = options_.screenshotsFolder;
     settings.mistypedSequences = options_.mistypedSequences;
     settings.device = deviceName();
+    settings.recordFile = options_.keptAudio;
     if (options_.test != QLatin1String("m"))
         return settings;
     settings.sentence = clips + QStringLiteral("operator/sentence_en_US.wav");

@@ -66,6 +66,8 @@ DigitMeasurement DigitMeasuring::measure(const SoundHistory &history, const Foun
     addEnvelope(sound, measured);
     for (const double power : measure::bandPowers(sound, captureRate))
         measured.bandLevelsDbfs.append(levelOf(power));
+    for (std::size_t channel = 0; channel < captureChannelCount; ++channel)
+        measured.channelDbfs.append(history.channelDbfs(found.span, channel));
     measured.clippedFrameCount = history.countClipped(found.span);
     const FrameSpan wide{found.span.first - marginFrameCount, found.span.end + marginFrameCount};
     addFit(history.copy(wide), clips_[static_cast<std::size_t>(found.digit)], measured);

@@ -31,6 +31,7 @@ QJsonArray listOf(const QList<double> &values, double steps)
 QJsonObject measurementOf(const DigitMeasurement &measured)
 {
     QJsonObject object{{QStringLiteral("peakDbfs"), rounded(measured.peakDbfs, 10)},
+                       {QStringLiteral("channelDbfs"), listOf(measured.channelDbfs, 10)},
                        {QStringLiteral("clippedFrameCount"), measured.clippedFrameCount},
                        {QStringLiteral("lowest"), listOf(measured.lowest, 10'000)},
                        {QStringLiteral("highest"), listOf(measured.highest, 10'000)},

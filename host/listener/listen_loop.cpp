@@ -4,6 +4,7 @@
 #include "host/listener/event_lines.h"
 #include "host/listener/parent_link.h"
 #include "host/listener/signal_meter.h"
+#include "host/listener/wave_writer.h"
 
 #include <chrono>
 #include <csignal>
@@ -39,6 +40,8 @@ public:
 
     ListenerExit run()
     {
+        if (!options_.recordFile.isEmpty() && !recording_.open(options_.recordFile))
+            return refuseFile();
         while (isWanted()) {
             drain();
             if (capture_.isLost())
@@ -60,11 +63,20 @@ private:
         while (const SoundBlock *block = capture_.ring().oldest()) {
             ear_->feed(block->frames(), block->end);
             arrivedFrameCount_ += block->frameCount;
+            if (recording_.isOpen() && isReady_)
+                recording_.append(block->frames());
             if (meter_ && isReady_) // the first event is "ready"
                 meter_->feed(block->frames(), block->end);
             capture_.ring().release();
             hasSound_ = true;
         }
+    }
+
+    ListenerExit refuseFile() const
+    {
+        std::fprintf(stderr, "audio_listener: '%s' cannot be written: %s\n", options_.recordFile.toUtf8().constData(),
+                     recording_.errorText().toUtf8().constData());
+        return ListenerExit::usage;
     }
 
     void tellReady()
@@ -96,6 +108,7 @@ private:
     const ListenerOptions &options_;
     std::unique_ptr<Ear> ear_;
     std::optional<SignalMeter> meter_;
+    WaveWriter recording_;
     steady_clock::time_point start_ = steady_clock::now();
     steady_clock::time_point levelTold_ = start_;
     std::uint64_t arrivedFrameCount_ = 0; ///< since the last level

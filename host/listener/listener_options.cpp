@@ -15,13 +15,14 @@ const QString clips = QStringLiteral("clips");
 const QString language = QStringLiteral("language");
 const QString find = QStringLiteral("find");
 const QString meter = QStringLiteral("meter");
+const QString record = QStringLiteral("record");
 
 void addOptions(QCommandLineParser &parser)
 {
     parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), help}));
     for (const QString &name : {list, meter})
         parser.addOption(QCommandLineOption(name));
-    for (const QString &name : {source, clips, language, find})
+    for (const QString &name : {source, clips, language, find, record})
         parser.addOption(QCommandLineOption(name, {}, QStringLiteral("VALUE")));
 }
 
@@ -44,8 +45,8 @@ std::variant<ListenerOptions, ListenerUsageError> readListening(const QCommandLi
         if (parser.isSet(find) && parser.isSet(name))
             return ListenerUsageError{QStringLiteral("'--%1' and '--find' exclude each other (try --help)").arg(name)};
     }
-    return ListenerOptions{ListenerTask::listen,   parser.value(source), parser.value(clips),
-                           parser.value(language), parser.value(find),   parser.isSet(meter)};
+    return ListenerOptions{ListenerTask::listen, parser.value(source), parser.value(clips), parser.value(language),
+                           parser.value(find),   parser.isSet(meter),  parser.value(record)};
 }
 
 } // namespace
@@ -61,7 +62,7 @@ std::variant<ListenerOptions, ListenerUsageError> parseListenerOptions(const QSt
     if (parser.isSet(help))
         return ListenerOptions{};
     if (parser.isSet(list))
-        return ListenerOptions{ListenerTask::list, {}, {}, {}, {}, false};
+        return ListenerOptions{ListenerTask::list, {}, {}, {}, {}, false, {}};
     return readListening(parser);
 }
 
@@ -80,6 +81,7 @@ Listens to a capture source and tells which spoken digits it hears, or where it 
   --language CODE  language of the digits, such as en_US
   --find FILE      look for this clip of up to 5 s (16-bit WAVE) instead of digits
   --meter          tell peak, level and waveform of every tenth of a second
+  --record FILE    keep what is heard in a WAVE file, from "ready" on; without it no sound is kept
   --help           this text
 
 Events: "ready", "digit", "sound" (no known digit), "clip" (the place most like the clip, every 500 ms of sound), "meter",

@@ -17,6 +17,7 @@ struct ListenerOptions {
     QString language;
     QString clipFile;       ///< a clip to look for instead of digits; empty for none
     bool isMetered = false; ///< tells the level ten times a second
+    QString recordFile;     ///< what is heard is kept there; empty for none
 };
 
 /// Why a command line cannot be followed, in one line.

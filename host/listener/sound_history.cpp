@@ -53,6 +53,7 @@ void SoundHistory::append(std::span<const float> interleaved, SteadyTime end)
             sum += withoutDirectCurrent(channels_[index], sample);
         }
         samples_.push_back(sum / captureChannelCount);
+        sides_.push_back(channels_[0].output - samples_.back());
     }
     marks_.push_back({frameCount(), end});
     forgetOldest();
@@ -64,6 +65,7 @@ void SoundHistory::forgetOldest()
         return;
     const std::int64_t surplus = std::ssize(samples_) - keptFrameCount;
     samples_.erase(samples_.begin(), samples_.begin() + surplus);
+    sides_.erase(sides_.begin(), sides_.begin() + surplus);
     first_ += surplus;
     while (!marks_.empty() && marks_.front().frame < first_)
         marks_.pop_front();
@@ -80,7 +82,8 @@ std::vector<float> SoundHistory::copy(FrameSpan span) const
     return result;
 }
 
-double SoundHistory::levelDbfs(FrameSpan span) const
+template <typename Value>
+double SoundHistory::levelOfEach(FrameSpan span, Value value) const
 {
     const std::int64_t from = std::clamp(span.first, first_, frameCount());
     const std::int64_t to = std::clamp(span.end, from, frameCount());
@@ -88,10 +91,21 @@ double SoundHistory::levelDbfs(FrameSpan span) const
         return lowestDbfs;
     double energy = 0;
     for (std::int64_t frame = from; frame < to; ++frame) {
-        const double sample = samples_[static_cast<std::size_t>(frame - first_)];
+        const double sample = value(static_cast<std::size_t>(frame - first_));
         energy += sample * sample;
     }
     return levelOf(energy / static_cast<double>(span.count()));
+}
+
+double SoundHistory::levelDbfs(FrameSpan span) const
+{
+    return levelOfEach(span, [this](std::size_t index) { return double{samples_[index]}; });
+}
+
+double SoundHistory::channelDbfs(FrameSpan span, std::size_t channel) const
+{
+    const double sign = channel == 0 ? 1 : -1;
+    return levelOfEach(span, [this, sign](std::size_t index) { return samples_[index] + sign * sides_[index]; });
 }
 
 bool SoundHistory::isClipped(FrameSpan span) const

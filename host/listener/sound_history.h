@@ -36,6 +36,8 @@ public:
     std::int64_t frameCount() const { return first_ + std::ssize(samples_); }
     std::vector<float> copy(FrameSpan span) const;
     double levelDbfs(FrameSpan span) const;
+    /// RMS level of left (0) or right (1) alone.
+    double channelDbfs(FrameSpan span, std::size_t channel) const;
     /// Whether three frames in a row stand at the end of the scale, as those of a cut-off wave do.
     bool isClipped(FrameSpan span) const;
     /// How many such frames there are, in whichever channel.
@@ -56,9 +58,12 @@ private:
     float withoutDirectCurrent(Channel &channel, float sample) const;
     void watchForClipping(Channel &channel, float sample);
     void forgetOldest();
+    template <typename Value>
+    double levelOfEach(FrameSpan span, Value value) const;
 
     std::int64_t first_ = 0;
     std::vector<float> samples_;
+    std::vector<float> sides_; ///< by how much left lies above the mean
     std::deque<std::int64_t> clippedFrames_;
     std::deque<Mark> marks_;
     std::array<Channel, captureChannelCount> channels_;

@@ -53,10 +53,11 @@ std::shared_ptr<const DigitMeasurement> measurementOf(const QJsonValue &value)
     const QJsonObject object = value.toObject();
     if (object.isEmpty())
         return nullptr;
-    return std::make_shared<const DigitMeasurement>(DigitMeasurement{
-        optionalNumber(object, "snrDb"), optionalNumber(object, "residualDbfs"), optionalNumber(object, "clockErrorPpm"),
-        number(object, "peakDbfs"), object.value(QLatin1String("clippedFrameCount")).toInteger(), numbers(object, "lowest"),
-        numbers(object, "highest"), numbers(object, "bandLevelsDbfs")});
+    return std::make_shared<const DigitMeasurement>(
+        DigitMeasurement{optionalNumber(object, "snrDb"), optionalNumber(object, "residualDbfs"),
+                         optionalNumber(object, "clockErrorPpm"), number(object, "peakDbfs"), numbers(object, "channelDbfs"),
+                         object.value(QLatin1String("clippedFrameCount")).toInteger(), numbers(object, "lowest"),
+                         numbers(object, "highest"), numbers(object, "bandLevelsDbfs")});
 }
 
 HeardEvent soundOf(const QJsonObject &object, const char *moment)

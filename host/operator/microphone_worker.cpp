@@ -300,6 +300,10 @@ void MicrophoneWorker::measureLevels(HeardRecording &heard) const
         left += powerOf(moment.leftDbfs);
         right += powerOf(moment.rightDbfs);
         difference += powerOf(moment.differenceDbfs);
+        for (qsizetype index = 0; index + 1 < moment.wave.size(); index += 2) {
+            heard.lowest.append(std::clamp(moment.wave[index], -1.0, 1.0));
+            heard.highest.append(std::clamp(moment.wave[index + 1], -1.0, 1.0));
+        }
     }
     const double louder = std::max(left, right);
     const bool isOneSilent = decibelsOf(louder) - decibelsOf(std::min(left, right)) > silentChannelDb;

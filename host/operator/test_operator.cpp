@@ -35,13 +35,19 @@ QString clipsRoot(const OperatorSettings &settings)
                                                  : settings.clipsFolder;
 }
 
-QStringList listenerArguments(const OperatorSettings &settings)
+QStringList taskArguments(const OperatorSettings &settings)
 {
     if (!settings.sentence.isEmpty())
         return {QStringLiteral("--source"), settings.source, QStringLiteral("--find"), settings.sentence,
                 QStringLiteral("--meter")};
     return {QStringLiteral("--source"),   settings.source,  QStringLiteral("--clips"), clipsRoot(settings),
             QStringLiteral("--language"), settings.language};
+}
+
+QStringList listenerArguments(const OperatorSettings &settings)
+{
+    const QStringList arguments = taskArguments(settings);
+    return settings.recordFile.isEmpty() ? arguments : arguments + QStringList{QStringLiteral("--record"), settings.recordFile};
 }
 
 } // namespace
@@ -212,6 +218,7 @@ void TestOperator::endRun(RunRecord &record)
     d_->finishMicrophone();
     record.isUnattended = true;
     record.listenedTo = d_->settings.source;
+    record.keptAudio = d_->settings.recordFile;
     record.digits = d_->digits;
     for (HeardDigit &digit : record.digits) {
         if (digit.playedAtMs >= 0)

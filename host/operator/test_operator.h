@@ -22,6 +22,7 @@ struct OperatorSettings {
     QString sentence;          ///< for the microphone test: the clip to speak and to look for; empty for the playback test
     QString microphone;        ///< to choose in the dialog; empty for the one that it has chosen
     QString speakThrough;      ///< output that the microphone hears
+    QString recordFile;        ///< what is heard is kept there; empty: no sound is kept
 };
 
 /// Takes the person's place: hears what the device plays through a listener of its own process and works the real dialogs with

@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QXmlStreamWriter>
 
+#include <array>
 #include <cmath>
 
 namespace host {
@@ -65,27 +66,27 @@ double reachOf(const WavePlot &plot)
     return std::min(1.0, std::ceil(reach * 20.0) / 20.0);
 }
 
-void writeWave(QXmlStreamWriter &xml, const QString &id, const QString &name, const QJsonObject &measured)
+void writeWave(QXmlStreamWriter &xml, const QString &id, const QString &title, const QJsonObject &measured)
 {
     WavePlot plot;
     plot.lowest = numbersOf(measured.value(QLatin1String("lowest")), mostPoints);
     plot.highest = numbersOf(measured.value(QLatin1String("highest")), mostPoints);
     plot.stepMs = measured.value(QLatin1String("envelopeStepMs")).toDouble(1.0);
     const double reach = reachOf(plot);
-    plot.scale = {id + QStringLiteral("-wave"),
-                  QStringLiteral("Waveform of digit %1").arg(name),
-                  QStringLiteral("full scale = 1"),
-                  -reach,
-                  reach,
-                  reach / 2};
+    plot.scale = {id + QStringLiteral("-wave"), title, QStringLiteral("full scale = 1"), -reach, reach, reach / 2};
     if (!plot.lowest.isEmpty() && !plot.highest.isEmpty())
         writeFigure(xml, plot);
 }
 
+// Nominal centre of a third-octave band (IEC 61260-1).
 QString frequencyText(double hz)
 {
+    constexpr std::array<double, 10> nominal{100, 125, 160, 200, 250, 315, 400, 500, 630, 800};
     constexpr double kilo = 1000.0;
-    return hz < kilo ? QString::number(std::round(hz / 5) * 5, 'f', 0) : QString::number(hz / kilo, 'g', 2) + u'k';
+    const auto band = static_cast<int>(std::lround(10 * std::log10(hz / nominal[0])));
+    const int decade = band < 0 ? 0 : band / 10;
+    const double centre = band < 0 ? hz : nominal[static_cast<std::size_t>(band % 10)] * std::pow(10.0, decade);
+    return centre < kilo ? QString::number(centre, 'f', 0) : QString::number(centre / kilo, 'g', 3) + u'k';
 }
 
 void writeSpectrum(QXmlStreamWriter &xml, const QString &id, const QString &name, const QJsonObject &measured)
@@ -115,12 +116,18 @@ void writeMeasured(QXmlStreamWriter &xml, const QJsonObject &digit, qsizetype nu
     xml.writeTextElement(QStringLiteral("h3"), QStringLiteral("Digit %1").arg(name));
     xml.writeStartElement(QStringLiteral("div"));
     xml.writeAttribute(QStringLiteral("class"), QStringLiteral("pair"));
-    writeWave(xml, id, name, measured);
+    writeWave(xml, id, QStringLiteral("Waveform of digit %1").arg(name), measured);
     writeSpectrum(xml, id, name, measured);
     xml.writeEndElement();
 }
 
 } // namespace
+
+void writeRecordingPlot(QXmlStreamWriter &xml, const QJsonObject &report)
+{
+    writeWave(xml, QStringLiteral("recording"), QStringLiteral("Waveform of what the dialog played back"),
+              report.value(QLatin1String("recording")).toObject());
+}
 
 void writeDigitPlots(QXmlStreamWriter &xml, const QJsonObject &report)
 {

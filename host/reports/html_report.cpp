@@ -78,7 +78,9 @@ private:
         view_.isMicrophoneTest() ? writeRecording() : writeDigits();
         writePairs("Device", "What the device tells about itself", properties());
         writeLimits();
-        element("p", QStringLiteral("No sound was kept."));
+        const QString kept = view_.text("keptAudio");
+        element("p", kept.isEmpty() ? QStringLiteral("No sound was kept.")
+                                    : QStringLiteral("All that was heard, voices too, was kept in %1.").arg(kept));
     }
 
     void translated(const char *name, const QString &text)
@@ -207,6 +209,7 @@ private:
     {
         const auto facts = view_.recordingFacts();
         writePairs("Recording", "What was heard of the recording", facts);
+        writeRecordingPlot(xml_, report_);
         if (!facts.isEmpty())
             return;
         element("h2", QStringLiteral("Recording"));

@@ -25,13 +25,22 @@ QString numberText(const QJsonValue &value, int decimals)
 
 QString yesOrNo(bool value) { return value ? QStringLiteral("yes") : QStringLiteral("no"); }
 
+QString latencyText(const QJsonObject &latency)
+{
+    const auto number = [&latency](const char *key) { return numberText(latency.value(QLatin1String(key)), 0); };
+    return latency.isEmpty() ? QString()
+                             : QStringLiteral("median %1, from %2 to %3, of %4 digits")
+                                   .arg(number("medianMs"), number("lowestMs"), number("highestMs"), number("digitCount"));
+}
+
 QStringList digitHeader()
 {
     return {QStringLiteral("Sequence"),     QStringLiteral("Digit"),       QStringLiteral("Played at (ms)"),
             QStringLiteral("Played"),       QStringLiteral("Heard"),       QStringLiteral("Typed"),
             QStringLiteral("Score"),        QStringLiteral("Margin"),      QStringLiteral("Latency (ms)"),
-            QStringLiteral("Level (dBFS)"), QStringLiteral("Peak (dBFS)"), QStringLiteral("SNR (dB)"),
-            QStringLiteral("Clock (ppm)"),  QStringLiteral("Clipped")};
+            QStringLiteral("Level (dBFS)"), QStringLiteral("Left (dBFS)"), QStringLiteral("Right (dBFS)"),
+            QStringLiteral("Peak (dBFS)"),  QStringLiteral("SNR (dB)"),    QStringLiteral("Clock (ppm)"),
+            QStringLiteral("Clipped")};
 }
 
 QStringList digitCells(const QJsonObject &digit)
@@ -43,6 +52,8 @@ QStringList digitCells(const QJsonObject &digit)
                                                     {"latencyMs", 0}, {"levelDbfs", 1}};
     for (const auto &[key, decimals] : numbers)
         cells.append(numberText(digit.value(QLatin1String(key)), decimals));
+    for (const qsizetype channel : {0, 1})
+        cells.append(numberText(measured.value(QLatin1String("channelDbfs"))[channel], 1));
     for (const char *key : {"peakDbfs", "snrDb", "clockErrorPpm"})
         cells.append(numberText(measured.value(QLatin1String(key)), 1));
     cells.append(yesOrNo(digit.value(QLatin1String("clipped")).toBool()));
@@ -138,6 +149,8 @@ QList<std::pair<QString, QString>> ReportView::facts() const
         {QStringLiteral("Stopped"), yesOrNo(flag("stopped"))},
         {QStringLiteral("Listened to"), text("listenedTo")},
         {QStringLiteral("Reason"), text("reason")},
+        {QStringLiteral("Latency (ms)"), latencyText(report_.value(QLatin1String("latency")).toObject())},
+        {QStringLiteral("Sound kept in"), text("keptAudio")},
         {QStringLiteral("Volumes put back"), lines("restoredVolumes").join(QStringLiteral(", "))},
         {QStringLiteral("Volumes"), text("volumeComplaint")},
         {QStringLiteral("Pictures"), lines("screenshots").join(QStringLiteral(", "))}};

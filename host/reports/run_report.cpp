@@ -11,6 +11,7 @@
 #include <QJsonObject>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -81,6 +82,7 @@ QJsonValue measurementOf(const std::optional<DigitMeasurement> &measured)
                        {QStringLiteral("residualDbfs"), measuredOrNull(measured->residualDbfs, 10)},
                        {QStringLiteral("clockErrorPpm"), measuredOrNull(measured->clockErrorPpm, 10)},
                        {QStringLiteral("peakDbfs"), rounded(measured->peakDbfs, 10)},
+                       {QStringLiteral("channelDbfs"), listOf(measured->channelDbfs, 10)},
                        {QStringLiteral("clippedFrameCount"), measured->clippedFrameCount},
                        {QStringLiteral("envelopeStepMs"), envelopeStepMs},
                        {QStringLiteral("lowest"), listOf(measured->lowest, 10'000)},
@@ -120,6 +122,25 @@ QJsonArray digitsOf(const RunRecord &record)
     return rows;
 }
 
+QJsonValue latencyOf(const QList<HeardDigit> &digits)
+{
+    QList<double> latencies;
+    for (const HeardDigit &digit : digits) {
+        if (digit.latencyMs >= 0)
+            latencies.append(std::round(digit.latencyMs));
+    }
+    if (latencies.isEmpty())
+        return {};
+    std::sort(latencies.begin(), latencies.end());
+    const qsizetype middle = latencies.size() / 2;
+    const bool isEven = latencies.size() % 2 == 0;
+    return QJsonObject{
+        {QStringLiteral("digitCount"), latencies.size()},
+        {QStringLiteral("lowestMs"), latencies.first()},
+        {QStringLiteral("medianMs"), isEven ? (latencies[middle - 1] + latencies[middle]) / 2 : latencies[middle]},
+        {QStringLiteral("highestMs"), latencies.last()}};
+}
+
 QJsonValue recordingOf(const std::optional<HeardRecording> &heard)
 {
     if (!heard)
@@ -136,6 +157,9 @@ QJsonValue recordingOf(const std::optional<HeardRecording> &heard)
         {QStringLiteral("clipped"), heard->isClipped},
         {QStringLiteral("silent"), heard->isSilent},
         {QStringLiteral("monoInStereo"), heard->isMonoInStereo},
+        {QStringLiteral("envelopeStepMs"), recordingStepMs},
+        {QStringLiteral("lowest"), listOf(heard->lowest, 1000)},
+        {QStringLiteral("highest"), listOf(heard->highest, 1000)},
         {QStringLiteral("answer"),
          heard->answer ? QJsonValue(*heard->answer ? QStringLiteral("yes") : QStringLiteral("no")) : QJsonValue()}};
 }
@@ -162,9 +186,11 @@ QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
             {QStringLiteral("unattended"), record.isUnattended},
             {QStringLiteral("listenedTo"), record.listenedTo},
             {QStringLiteral("digits"), digitsOf(record)},
+            {QStringLiteral("latency"), latencyOf(record.digits)},
             {QStringLiteral("recording"), recordingOf(record.recording)},
             {QStringLiteral("restoredVolumes"), QJsonArray::fromStringList(record.restoredVolumes)},
             {QStringLiteral("volumeComplaint"), record.volumeComplaint},
+            {QStringLiteral("keptAudio"), record.keptAudio},
             {QStringLiteral("screenshots"), QJsonArray::fromStringList(record.screenshots)}};
 }
 

@@ -11,14 +11,16 @@ namespace host {
 namespace {
 
 constexpr double width = 640.0;
-constexpr double height = 220.0;
+constexpr double height = 234.0;
 constexpr double left = 56.0;
 constexpr double right = 12.0;
-constexpr double above = 14.0;
+constexpr double above = 28.0;
+constexpr double unitLine = 12.0;
 constexpr double below = 34.0;
 constexpr double innerWidth = width - left - right;
 constexpr double innerHeight = height - above - below;
 constexpr int mostGridLines = 40;
+constexpr qsizetype mostLabels = 12;
 
 QString coordinate(double value) { return QString::number(value, 'f', 1); }
 
@@ -79,7 +81,7 @@ void writeGrid(QXmlStreamWriter &xml, const PlotScale &scale)
         xml.writeEndElement();
         writeText(xml, left - 6, y + 4, "end", shortNumber(value));
     }
-    writeText(xml, 2, above - 3, "start", scale.unit);
+    writeText(xml, 2, unitLine, "start", scale.unit);
 }
 
 QString barWords(const BarPlot &plot)
@@ -98,7 +100,8 @@ void writeBar(QXmlStreamWriter &xml, const BarPlot &plot, qsizetype index)
     const double slot = innerWidth / static_cast<double>(plot.values.size());
     const double x = left + slot * static_cast<double>(index);
     const std::optional<double> &value = plot.values.at(index);
-    writeText(xml, x + slot / 2, height - below + 16, "middle", plot.labels.value(index));
+    if (index % ((plot.values.size() + mostLabels - 1) / mostLabels) == 0)
+        writeText(xml, x + slot / 2, height - below + 16, "middle", plot.labels.value(index));
     if (!value) {
         writeText(xml, x + slot / 2, height - below - 6, "middle", QStringLiteral("?"));
         return;

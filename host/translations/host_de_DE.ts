@@ -328,5 +328,41 @@ Version dieses Programms: %2</translation>
         <source>METER_WAVE_WORDS</source>
         <translation>Wiedergabe der Aufnahme: %1 s, Spitze %2 dBFS</translation>
     </message>
+    <message>
+        <source>PRECHECK_TITLE</source>
+        <translation>Vor dem Test</translation>
+    </message>
+    <message>
+        <source>PRECHECK_REFUSED</source>
+        <translation>Der Test kann nicht durchgeführt werden</translation>
+    </message>
+    <message>
+        <source>PRECHECK_RUN</source>
+        <translation>Trotzdem ausführen</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLOSE</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>SAVE_REPORT</source>
+        <translation>Bericht speichern…</translation>
+    </message>
+    <message>
+        <source>COPY_REPORT</source>
+        <translation>Bericht kopieren</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_SAVED</source>
+        <translation>Der Bericht wurde gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_NOT_SAVED</source>
+        <translation>Der Bericht konnte nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_COPIED</source>
+        <translation>Der Bericht wurde als Text kopiert.</translation>
+    </message>
 </context>
 </TS>

@@ -328,5 +328,41 @@ Version of this program: %2</translation>
         <source>METER_WAVE_WORDS</source>
         <translation>Playback of the recording: %1 s, peak %2 dBFS</translation>
     </message>
+    <message>
+        <source>PRECHECK_TITLE</source>
+        <translation>Before the test</translation>
+    </message>
+    <message>
+        <source>PRECHECK_REFUSED</source>
+        <translation>The test cannot be performed</translation>
+    </message>
+    <message>
+        <source>PRECHECK_RUN</source>
+        <translation>Run nevertheless</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLOSE</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>SAVE_REPORT</source>
+        <translation>Save report…</translation>
+    </message>
+    <message>
+        <source>COPY_REPORT</source>
+        <translation>Copy report</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_SAVED</source>
+        <translation>The report was saved: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_NOT_SAVED</source>
+        <translation>The report could not be saved: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_COPIED</source>
+        <translation>The report was copied as text.</translation>
+    </message>
 </context>
 </TS>

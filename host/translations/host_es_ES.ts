@@ -328,5 +328,41 @@ Versión de este programa: %2</translation>
         <source>METER_WAVE_WORDS</source>
         <translation>Reproducción de la grabación: %1 s, pico %2 dBFS</translation>
     </message>
+    <message>
+        <source>PRECHECK_TITLE</source>
+        <translation>Antes de la prueba</translation>
+    </message>
+    <message>
+        <source>PRECHECK_REFUSED</source>
+        <translation>No se puede realizar la prueba</translation>
+    </message>
+    <message>
+        <source>PRECHECK_RUN</source>
+        <translation>Ejecutar de todos modos</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLOSE</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>SAVE_REPORT</source>
+        <translation>Guardar informe…</translation>
+    </message>
+    <message>
+        <source>COPY_REPORT</source>
+        <translation>Copiar informe</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_SAVED</source>
+        <translation>Se ha guardado el informe: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_NOT_SAVED</source>
+        <translation>No se ha podido guardar el informe: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_COPIED</source>
+        <translation>Se ha copiado el informe como texto.</translation>
+    </message>
 </context>
 </TS>

@@ -328,5 +328,41 @@ Version de ce programme : %2</translation>
         <source>METER_WAVE_WORDS</source>
         <translation>Lecture de l’enregistrement : %1 s, crête %2 dBFS</translation>
     </message>
+    <message>
+        <source>PRECHECK_TITLE</source>
+        <translation>Avant le test</translation>
+    </message>
+    <message>
+        <source>PRECHECK_REFUSED</source>
+        <translation>Le test ne peut pas être effectué</translation>
+    </message>
+    <message>
+        <source>PRECHECK_RUN</source>
+        <translation>Lancer quand même</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLOSE</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>SAVE_REPORT</source>
+        <translation>Enregistrer le rapport…</translation>
+    </message>
+    <message>
+        <source>COPY_REPORT</source>
+        <translation>Copier le rapport</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_SAVED</source>
+        <translation>Le rapport a été enregistré : %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_NOT_SAVED</source>
+        <translation>Le rapport n’a pas pu être enregistré : %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_COPIED</source>
+        <translation>Le rapport a été copié sous forme de texte.</translation>
+    </message>
 </context>
 </TS>

@@ -328,5 +328,41 @@ Versione di questo programma: %2</translation>
         <source>METER_WAVE_WORDS</source>
         <translation>Riproduzione della registrazione: %1 s, picco %2 dBFS</translation>
     </message>
+    <message>
+        <source>PRECHECK_TITLE</source>
+        <translation>Prima del test</translation>
+    </message>
+    <message>
+        <source>PRECHECK_REFUSED</source>
+        <translation>Il test non può essere eseguito</translation>
+    </message>
+    <message>
+        <source>PRECHECK_RUN</source>
+        <translation>Esegui comunque</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLOSE</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>SAVE_REPORT</source>
+        <translation>Salva rapporto…</translation>
+    </message>
+    <message>
+        <source>COPY_REPORT</source>
+        <translation>Copia rapporto</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_SAVED</source>
+        <translation>Il rapporto è stato salvato: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_NOT_SAVED</source>
+        <translation>Impossibile salvare il rapporto: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_COPIED</source>
+        <translation>Il rapporto è stato copiato come testo.</translation>
+    </message>
 </context>
 </TS>

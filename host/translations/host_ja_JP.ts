@@ -328,5 +328,41 @@
         <source>METER_WAVE_WORDS</source>
         <translation>録音の再生：%1 秒、ピーク %2 dBFS</translation>
     </message>
+    <message>
+        <source>PRECHECK_TITLE</source>
+        <translation>テストの前に</translation>
+    </message>
+    <message>
+        <source>PRECHECK_REFUSED</source>
+        <translation>テストを実行できません</translation>
+    </message>
+    <message>
+        <source>PRECHECK_RUN</source>
+        <translation>それでも実行</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLOSE</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>SAVE_REPORT</source>
+        <translation>レポートを保存…</translation>
+    </message>
+    <message>
+        <source>COPY_REPORT</source>
+        <translation>レポートをコピー</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_SAVED</source>
+        <translation>レポートを保存しました: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_NOT_SAVED</source>
+        <translation>レポートを保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_COPIED</source>
+        <translation>レポートをテキストとしてコピーしました。</translation>
+    </message>
 </context>
 </TS>

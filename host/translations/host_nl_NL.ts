@@ -328,5 +328,41 @@ Versie van dit programma: %2</translation>
         <source>METER_WAVE_WORDS</source>
         <translation>Weergave van de opname: %1 s, piek %2 dBFS</translation>
     </message>
+    <message>
+        <source>PRECHECK_TITLE</source>
+        <translation>Vóór de test</translation>
+    </message>
+    <message>
+        <source>PRECHECK_REFUSED</source>
+        <translation>De test kan niet worden uitgevoerd</translation>
+    </message>
+    <message>
+        <source>PRECHECK_RUN</source>
+        <translation>Toch uitvoeren</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLOSE</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>SAVE_REPORT</source>
+        <translation>Rapport opslaan…</translation>
+    </message>
+    <message>
+        <source>COPY_REPORT</source>
+        <translation>Rapport kopiëren</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_SAVED</source>
+        <translation>Het rapport is opgeslagen: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_NOT_SAVED</source>
+        <translation>Het rapport kon niet worden opgeslagen: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_COPIED</source>
+        <translation>Het rapport is als tekst gekopieerd.</translation>
+    </message>
 </context>
 </TS>

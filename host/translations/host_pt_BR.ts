@@ -328,5 +328,41 @@ Versão deste programa: %2</translation>
         <source>METER_WAVE_WORDS</source>
         <translation>Reprodução da gravação: %1 s, pico %2 dBFS</translation>
     </message>
+    <message>
+        <source>PRECHECK_TITLE</source>
+        <translation>Antes do teste</translation>
+    </message>
+    <message>
+        <source>PRECHECK_REFUSED</source>
+        <translation>O teste não pode ser executado</translation>
+    </message>
+    <message>
+        <source>PRECHECK_RUN</source>
+        <translation>Executar mesmo assim</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLOSE</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>SAVE_REPORT</source>
+        <translation>Salvar relatório…</translation>
+    </message>
+    <message>
+        <source>COPY_REPORT</source>
+        <translation>Copiar relatório</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_SAVED</source>
+        <translation>O relatório foi salvo: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_NOT_SAVED</source>
+        <translation>Não foi possível salvar o relatório: %1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_COPIED</source>
+        <translation>O relatório foi copiado como texto.</translation>
+    </message>
 </context>
 </TS>

@@ -328,5 +328,41 @@
         <source>METER_WAVE_WORDS</source>
         <translation>录音播放：%1 秒，峰值 %2 dBFS</translation>
     </message>
+    <message>
+        <source>PRECHECK_TITLE</source>
+        <translation>测试之前</translation>
+    </message>
+    <message>
+        <source>PRECHECK_REFUSED</source>
+        <translation>无法执行测试</translation>
+    </message>
+    <message>
+        <source>PRECHECK_RUN</source>
+        <translation>仍然运行</translation>
+    </message>
+    <message>
+        <source>PRECHECK_CLOSE</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>SAVE_REPORT</source>
+        <translation>保存报告…</translation>
+    </message>
+    <message>
+        <source>COPY_REPORT</source>
+        <translation>复制报告</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_SAVED</source>
+        <translation>报告已保存：%1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_NOT_SAVED</source>
+        <translation>无法保存报告：%1</translation>
+    </message>
+    <message>
+        <source>LOG_REPORT_COPIED</source>
+        <translation>报告已作为文本复制。</translation>
+    </message>
 </context>
 </TS>

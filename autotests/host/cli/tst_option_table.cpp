@@ -3,7 +3,7 @@
 
 #include "host/cli/exit_code.h"
 #include "host/cli/help_text.h"
-#include "host/cli/run_command.h"
+#include "host/cli/run_plan.h"
 #include "host/translations/translators.h"
 
 #include <QFile>

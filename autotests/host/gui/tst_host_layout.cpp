@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/host/gui/fake_module.h"
+#include "autotests/host/gui/pseudo_translator.h"
 #include "host/core/language_setting.h"
 #include "host/gui/dialog_prompter.h"
 #include "host/gui/host_prompts.h"
+#include "host/gui/key_text.h"
 #include "host/gui/main_window.h"
 #include "host/translations/translators.h"
 
@@ -93,16 +95,21 @@ void TestHostLayout::cleanup() { QVERIFY(QDir::setCurrent(before_)); }
 void TestHostLayout::fits_data()
 {
     QTest::addColumn<QString>("code");
+    QTest::addColumn<bool>("isLonger");
     const QStringList codes = host::LanguageSetting::codes();
     for (const QString &code : codes)
-        QTest::addRow("%s", qPrintable(code)) << code;
+        QTest::addRow("%s", qPrintable(code)) << code << false;
+    QTest::newRow("two fifths longer") << QStringLiteral("en_US") << true;
 }
 
 void TestHostLayout::fits()
 {
     QFETCH(const QString, code);
+    QFETCH(const bool, isLonger);
     const QTemporaryDir folder;
     host::installTranslators(code);
+    PseudoTranslator pseudo;
+    QVERIFY(!isLonger || (pseudo.load() && QCoreApplication::installTranslator(&pseudo)));
     host::LanguageSetting language;
     QVERIFY(language.useOwnFolder(folder.path()) && language.change(code));
     FakeModule module;
@@ -135,6 +142,13 @@ void TestHostLayout::fits()
     expose(question);
     verifyFits(question);
     photograph(question, code);
+    question.hide();
+    host::PrecheckPrompt precheck({host::hostText("PRECHECK_DEVICE_MUTED").arg(QStringLiteral("Speakers")),
+                                   host::hostText("PRECHECK_MICROPHONE_BLOCKED")},
+                                  false, &window);
+    expose(precheck);
+    verifyFits(precheck);
+    photograph(precheck, code);
 }
 
 int main(int argc, char *argv[])

@@ -86,14 +86,15 @@ void TestHostOptions::readsSeveralEvents()
 
 void TestHostOptions::makesPathsAbsolute()
 {
-    const auto result = read(QStringLiteral(
-        "--unattended --test m --device 0 --listen x --report r.json --report r.HTML --screenshots pictures --config ."));
+    const auto result = read(QStringLiteral("--unattended --test m --device 0 --listen x --report r.json --report r.HTML "
+                                            "--screenshots pictures --keep-audio h.wav --config ."));
     const auto *options = std::get_if<host::Options>(&result);
     QVERIFY(options != nullptr);
     const QDir current = QDir::current();
     QCOMPARE(options->reportFiles, (QStringList{current.absoluteFilePath(QStringLiteral("r.json")),
                                                 current.absoluteFilePath(QStringLiteral("r.HTML"))}));
     QCOMPARE(options->screenshotsFolder, QDir::current().absoluteFilePath(QStringLiteral("pictures")));
+    QCOMPARE(options->keptAudio, current.absoluteFilePath(QStringLiteral("h.wav")));
     QVERIFY(QDir::isAbsolutePath(options->configFolder));
 }
 
@@ -122,6 +123,9 @@ void TestHostOptions::refusesWhatItCannotDo_data()
     row("test without unattended", "--test p", "'--test' goes with '--unattended' only");
     row("report of no known format", "--unattended --test p --device 0 --listen x --report r.pdf",
         "its name must end in .json");
+    row("sound without unattended", "--keep-audio h.wav", "'--keep-audio' goes with '--unattended' only");
+    row("sound of no known format", "--unattended --test p --device 0 --listen x --keep-audio h.mp3",
+        "its name must end in .wav");
     row("report without unattended", "--report x", "'--report' goes with");
     row("microphone without unattended", "--microphone x", "'--microphone' goes with '--unattended' only");
     row("microphone of the playback test", "--unattended --test p --device 0 --listen x --microphone y",

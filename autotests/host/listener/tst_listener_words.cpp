@@ -52,11 +52,15 @@ void TestListenerWords::readsWhatElseItCanListenFor()
     const auto *options = std::get_if<ListenerOptions>(&find);
     QVERIFY(options != nullptr && options->task == ListenerTask::listen && options->isMetered);
     QCOMPARE(options->clipFile, QStringLiteral("a b.wav"));
+    QVERIFY(options->recordFile.isEmpty());
     QVERIFY(options->clipsFolder.isEmpty() && options->language.isEmpty());
     const auto level =
         host::parseListenerOptions({QStringLiteral("p"), QStringLiteral("--source=Mic"), QStringLiteral("--meter")});
     options = std::get_if<ListenerOptions>(&level);
     QVERIFY(options != nullptr && options->isMetered && options->clipFile.isEmpty() && options->language.isEmpty());
+    const auto kept = host::parseListenerOptions(
+        {QStringLiteral("p"), QStringLiteral("--source=Mic"), QStringLiteral("--meter"), QStringLiteral("--record=h.wav")});
+    QCOMPARE(std::get<ListenerOptions>(kept).recordFile, QStringLiteral("h.wav"));
 }
 
 void TestListenerWords::namesWhatIsWrong_data()

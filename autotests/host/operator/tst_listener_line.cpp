@@ -38,12 +38,13 @@ void TestListenerLine::readsWhatWasMeasured()
 {
     const ListenerLine line = readListenerLine(
         R"({"event":"digit","digit":7,"levelDbfs":-20,"startMs":12,"measured":{"snrDb":61.5,"residualDbfs":-80.5,)"
-        R"("clockErrorPpm":-3,"peakDbfs":-4,"clippedFrameCount":5,"lowest":[-0.5],"highest":[0.25],"bandLevelsDbfs":[-40,-50]}})");
+        R"("clockErrorPpm":-3,"peakDbfs":-4,"channelDbfs":[-20,-30],"clippedFrameCount":5,"lowest":[-0.5],"highest":[0.25],"bandLevelsDbfs":[-40,-50]}})");
     QVERIFY(line.sound.measured != nullptr);
     QCOMPARE(line.sound.measured->snrDb, std::optional(61.5));
     QCOMPARE(line.sound.measured->residualDbfs, std::optional(-80.5));
     QCOMPARE(line.sound.measured->clockErrorPpm, std::optional(-3.0));
     QCOMPARE(line.sound.measured->peakDbfs, -4.0);
+    QCOMPARE(line.sound.measured->channelDbfs, (QList<double>{-20, -30}));
     QCOMPARE(line.sound.measured->clippedFrameCount, qint64(5));
     QCOMPARE(line.sound.measured->lowest, QList<double>{-0.5});
     QCOMPARE(line.sound.measured->highest, QList<double>{0.25});

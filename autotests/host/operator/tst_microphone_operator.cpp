@@ -307,6 +307,9 @@ void TestMicrophoneOperator::tellsBothChannelsApart()
     const RunRecord record = run(dialog, question, settings());
     QVERIFY(record.recording);
     QCOMPARE(record.recording->isMonoInStereo, isMono);
+    QVERIFY(!record.recording->lowest.isEmpty() && record.recording->lowest.size() == record.recording->highest.size());
+    QCOMPARE(record.recording->lowest.first(), -0.5);
+    QCOMPARE(record.recording->highest.first(), 0.5);
     QCOMPARE(record.recording->peakDbfs, -4.0);
 }
 

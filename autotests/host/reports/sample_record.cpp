@@ -38,8 +38,8 @@ host::HeardDigit heardDigit()
     digit.latencyMs = 61;
     digit.levelDbfs = -21.04;
     digit.clipped = true;
-    digit.measured =
-        host::DigitMeasurement{62.34, -83.21, -4.04, -3.12, 17, {-0.25, -0.5, -0.1}, {0.2, 0.4, 0.1}, {-40.0, -30.5, -90.0}};
+    digit.measured = host::DigitMeasurement{
+        62.34, -83.21, -4.04, -3.12, {-21.04, -60.55}, 17, {-0.25, -0.5, -0.1}, {0.2, 0.4, 0.1}, {-40.0, -30.5, -90.0}};
     return digit;
 }
 
@@ -78,6 +78,8 @@ host::RunRecord microphoneRecord()
     heard.peakDbfs = -3.16;
     heard.isSilent = false;
     heard.isMonoInStereo = true;
+    heard.lowest = {-0.1234, -0.5};
+    heard.highest = {0.25, 0.5678};
     heard.answer = true;
     record.recording = heard;
     return record;

@@ -101,6 +101,7 @@ private slots:
     void ordersHeadings();
     void namesEveryPlot();
     void drawsEveryPlot();
+    void labelsTheBandsByTheirNominalCentres();
     void drawsNoPlotWithoutDigits();
     void headsEveryColumn();
     void letsNoTextBecomeMarkup_data();
@@ -243,6 +244,10 @@ void TestReportFormats::makesOneHtmlFileWithoutNetwork()
     QVERIFY(style.contains(QStringLiteral("@media print")));
     QVERIFY(!style.contains(QStringLiteral("url(")) && !style.contains(QStringLiteral("@import")));
     QVERIFY(page.contains("No sound was kept."));
+    host::RunRecord kept = fullRecord();
+    kept.keptAudio = QStringLiteral("<heard>.wav");
+    QVERIFY(html(kept).contains("All that was heard, voices too, was kept in &lt;heard&gt;.wav."));
+    QVERIFY(!html(kept).contains("No sound was kept."));
     QCOMPARE(named(elements, "meta").value(0).attribute("charset"), QStringLiteral("utf-8"));
 }
 
@@ -303,7 +308,23 @@ void TestReportFormats::drawsEveryPlot()
     QCOMPARE(bars[1].attribute("height"), QStringLiteral("169.9")); // 0.9877 of 172
     const QString outline = named(elements, "polygon").value(0).attribute("points");
     QCOMPARE(outline.split(u' ').size(), 6);
-    QVERIFY(outline.startsWith(QStringLiteral("56.0,65.6 "))); // 0.2 between -0.5 and 0.5
+    QVERIFY(outline.startsWith(QStringLiteral("56.0,79.6 "))); // 0.2 between -0.5 and 0.5
+}
+
+// Every second one, so that none runs into the next.
+void TestReportFormats::labelsTheBandsByTheirNominalCentres()
+{
+    host::RunRecord record = fullRecord();
+    record.digits = {heardDigit()};
+    record.digits[0].measured->bandLevelsDbfs = QList<double>(24, -40.0);
+    QStringList labels;
+    for (const Element &text : named(elementsOf(html(record)), "text")) {
+        if (text.attribute("text-anchor") == QLatin1String("middle"))
+            labels.append(text.text);
+    }
+    QCOMPARE(labels.mid(2).join(u' '), QStringLiteral("100 160 250 400 630 1k 1.6k 2.5k 4k 6.3k 10k 16k"));
+    record.digits[0].measured->bandLevelsDbfs.resize(12);
+    QVERIFY(html(record).contains(">1.25k</text>"));
 }
 
 void TestReportFormats::drawsNoPlotWithoutDigits()
@@ -370,7 +391,8 @@ void TestReportFormats::tellsOfTheRecordingInEachFormat()
     };
     for (const char *cell : {"Mic <1>", "Speakers", "9876", "0.99", "-12", "-20.5", "-3.2", "yes", "no"})
         QVERIFY2(hasCell(cell), cell);
-    QVERIFY(named(page, "svg").isEmpty());
+    QCOMPARE(named(page, "svg").size(), 1);
+    QCOMPARE(named(page, "polygon").size(), 1);
     QVERIFY(!html(microphoneRecord()).contains("digit was heard"));
     QStringList properties;
     for (const Element &property : named(elementsOf(junit(microphoneRecord())), "property"))
@@ -404,8 +426,8 @@ void TestReportFormats::alignsTheTable()
     QCOMPARE(lines[1].size(), lines[0].size());
     QCOMPARE(lines[2].size(), lines[0].size());
     QVERIFY(lines[3].isEmpty());
-    QCOMPARE(lines[2].simplified(), QStringLiteral("2 3 4321 - 7 0 0.99 0.50 61 -21.0 -3.1 62.3 -4.0 yes"));
-    QCOMPARE(lines[1].simplified(), QStringLiteral("1 1 - - - - 0.00 0.00 - -120.0 - - - no"));
+    QCOMPARE(lines[2].simplified(), QStringLiteral("2 3 4321 - 7 0 0.99 0.50 61 -21.0 -21.0 -60.6 -3.1 62.3 -4.0 yes"));
+    QCOMPARE(lines[1].simplified(), QStringLiteral("1 1 - - - - 0.00 0.00 - -120.0 - - - - - no"));
     QCOMPARE(host::digitTableText(reportOf(playbackRecord())), QString());
 }
 

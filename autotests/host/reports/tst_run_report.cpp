@@ -41,6 +41,8 @@ class TestRunReport : public QObject {
 private slots:
     void tellsTheRun();
     void tellsEveryDigit();
+    void tellsHowTheLatencySpreads();
+    void tellsWhereSoundWasKept();
     void tellsTheRecording();
     void tellsWhatIsNotKnownAsNull();
     void namesEachVerdict_data();
@@ -95,6 +97,7 @@ void TestRunReport::tellsEveryDigit()
                                {QStringLiteral("residualDbfs"), -83.2},
                                {QStringLiteral("clockErrorPpm"), -4.0},
                                {QStringLiteral("peakDbfs"), -3.1},
+                               {QStringLiteral("channelDbfs"), QJsonArray{-21.0, -60.6}},
                                {QStringLiteral("clippedFrameCount"), 17},
                                {QStringLiteral("envelopeStepMs"), 5},
                                {QStringLiteral("lowest"), QJsonArray{-0.25, -0.5, -0.1}},
@@ -108,6 +111,33 @@ void TestRunReport::tellsEveryDigit()
                                {QStringLiteral("latencyMs"), 61},    {QStringLiteral("levelDbfs"), -21.0},
                                {QStringLiteral("clipped"), true},    {QStringLiteral("measured"), measured}};
     QCOMPARE(digit, expected);
+}
+
+void TestRunReport::tellsHowTheLatencySpreads()
+{
+    RunRecord record = playbackRecord();
+    QVERIFY(parsed(record).value(QLatin1String("latency")).isNull());
+    for (const double latency : {70.4, -1.0, 55.0, 61.0, 0.0}) {
+        record.digits.append(heardDigit());
+        record.digits.last().latencyMs = latency;
+    }
+    const auto spread = [](int count, double lowest, double median, double highest) {
+        return QJsonObject{{QStringLiteral("digitCount"), count},
+                           {QStringLiteral("lowestMs"), lowest},
+                           {QStringLiteral("medianMs"), median},
+                           {QStringLiteral("highestMs"), highest}};
+    };
+    QCOMPARE(parsed(record).value(QLatin1String("latency")).toObject(), spread(4, 0, 58, 70));
+    record.digits.removeLast();
+    QCOMPARE(parsed(record).value(QLatin1String("latency")).toObject(), spread(3, 55, 61, 70));
+}
+
+void TestRunReport::tellsWhereSoundWasKept()
+{
+    RunRecord record = playbackRecord();
+    QCOMPARE(parsed(record).value(QLatin1String("keptAudio")), QJsonValue(QString()));
+    record.keptAudio = QStringLiteral("heard.wav");
+    QCOMPARE(parsed(record).value(QLatin1String("keptAudio")).toString(), QStringLiteral("heard.wav"));
 }
 
 void TestRunReport::tellsTheRecording()
@@ -126,6 +156,9 @@ void TestRunReport::tellsTheRecording()
                                {QStringLiteral("clipped"), false},
                                {QStringLiteral("silent"), false},
                                {QStringLiteral("monoInStereo"), true},
+                               {QStringLiteral("envelopeStepMs"), 20},
+                               {QStringLiteral("lowest"), QJsonArray{-0.123, -0.5}},
+                               {QStringLiteral("highest"), QJsonArray{0.25, 0.568}},
                                {QStringLiteral("answer"), QStringLiteral("yes")}};
     QCOMPARE(parsed(record).value(QLatin1String("recording")).toObject(), expected);
     record.recording = host::HeardRecording();
