@@ -8,8 +8,10 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QObject>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTest>
 
 #include <functional>
@@ -86,6 +88,26 @@ struct Walk {
     }
 };
 
+// What lies on the other pages of the window and in its closed menus is met as well.
+void visitAllPages(QWidget &window, Walk &walk)
+{
+    auto *tabs = window.findChild<QTabWidget *>();
+    for (int page = 0; page < (tabs != nullptr ? tabs->count() : 1); ++page) {
+        if (tabs != nullptr)
+            tabs->setCurrentIndex(page);
+        walk.visit(QAccessible::queryAccessibleInterface(&window));
+    }
+    for (QMenu *menu : window.findChildren<QMenu *>()) {
+        for (const QAction *action : menu->actions()) {
+            if (!action->isSeparator() && action->text().isEmpty())
+                walk.unnamed.append(menu->title());
+            if (action->text().contains(u'_'))
+                walk.keys.append(action->text());
+            ++walk.interactiveCount;
+        }
+    }
+}
+
 } // namespace
 
 // Every window of the program as a screen reader meets it.
@@ -138,7 +160,7 @@ void TestAccessibleWindows::namesEveryElement()
         window->show();
         QVERIFY2(QTest::qWaitFor([window = window] { return window->isVisible(); }), qPrintable(window->objectName()));
         Walk walk;
-        walk.visit(QAccessible::queryAccessibleInterface(window));
+        visitAllPages(*window, walk);
         QVERIFY2(walk.unnamed.isEmpty(), qPrintable(window->objectName() + QStringLiteral(": ") + walk.unnamed.join(u'\n')));
         QVERIFY2(walk.keys.isEmpty(), qPrintable(window->objectName() + QStringLiteral(": ") + walk.keys.join(u'\n')));
         QVERIFY2(walk.interactiveCount >= leastCount,
