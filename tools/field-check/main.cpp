@@ -73,6 +73,8 @@ class Scratch {
 public:
     Scratch() : folder_(std::filesystem::temp_directory_path() / (L"field-check-" + std::to_wstring(GetCurrentProcessId())))
     {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder_, ignored); // of a run that was ended
         std::filesystem::create_directories(folder_);
     }
     ~Scratch()
@@ -107,13 +109,23 @@ bool readArguments(Surroundings &surroundings)
     return isUnderstood;
 }
 
+// One check that cannot do its work must not take the others' findings with it.
+Finding guarded(Finding (*check)(const Surroundings &), const Surroundings &surroundings)
+{
+    try {
+        return check(surroundings);
+    } catch (const std::exception &error) {
+        return {"broken-check", "Every check can do its work.", State::failed, error.what(), {}};
+    }
+}
+
 int checkEverything(const Surroundings &surroundings)
 {
     std::vector<Finding> findings;
     bool isFailed = false;
     for (const auto check : {checkDriver, checkLoopback, checkLevels, checkCom, checkPlantedLibrary, checkInstaller,
                              checkContrast, checkHotPlug, checkDpi}) {
-        findings.push_back(check(surroundings));
+        findings.push_back(guarded(check, surroundings));
         const Finding &last = findings.back();
         isFailed = isFailed || last.state == State::failed;
         std::cout << last.check << ": " << wordFor(last.state) << ". " << last.detail << std::endl;
