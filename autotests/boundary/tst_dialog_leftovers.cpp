@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the built module leaves in its host's process when both of its dialogs were closed in the middle of their jobs: nothing.
 #include "autotests/support/polling_host.h"
-#include "autotests/support/process_leftovers.h"
+#include "autotests/support/process_facts.h"
 #include "autotests/support/wave_files.h"
 #include "contract/exports.h"
 
@@ -59,12 +59,12 @@ bool someFilterTakesThemeMessages()
 }
 
 struct Leftovers {
-    int threads = runningThreadCount();
-    int windows = nativeWindowCount();
+    std::size_t threads = process_facts::now().threads;
+    int windows = process_facts::nativeWindowCount();
     qsizetype qtWindows = QGuiApplication::allWindows().size();
     qsizetype widgets = QApplication::allWidgets().size();
     qsizetype timers = qApp->findChildren<QTimer *>().size();
-    bool hasApartment = isInApartment();
+    bool hasApartment = process_facts::isInApartment();
     bool hasFilter = someFilterTakesThemeMessages();
 };
 
@@ -151,9 +151,9 @@ void TestDialogLeftovers::dialogsClosedInMidJobLeaveNothing()
     const Leftovers before;
     for (int round = 0; round < roundCount; ++round)
         runBoth();
-    QTRY_VERIFY_WITH_TIMEOUT(runningThreadCount() <= before.threads, threadEndLimit);
+    QTRY_VERIFY_WITH_TIMEOUT(process_facts::now().threads <= before.threads, threadEndLimit);
     const Leftovers after;
-    qInfo("%d threads and %d native windows before, %d and %d after", before.threads, before.windows, after.threads,
+    qInfo("%zu threads and %d native windows before, %zu and %d after", before.threads, before.windows, after.threads,
           after.windows);
     QVERIFY(after.windows <= before.windows);
     QCOMPARE(after.qtWindows, 0);
@@ -172,7 +172,7 @@ void TestDialogLeftovers::theCodeStaysAndNothingOfItRuns()
     QVERIFY(after.threads <= before.threads);
     QVERIFY(after.windows <= before.windows);
     runBoth(); // pinned: its code is still there
-    QTRY_VERIFY_WITH_TIMEOUT(runningThreadCount() <= before.threads, threadEndLimit);
+    QTRY_VERIFY_WITH_TIMEOUT(process_facts::now().threads <= before.threads, threadEndLimit);
 }
 
 QTEST_MAIN(TestDialogLeftovers)

@@ -17,4 +17,10 @@ Facts now();
 
 std::string text(const Facts &facts);
 
+/// How many windows of the system its threads own, shown or not; 0 where no window belongs to a thread.
+int nativeWindowCount();
+
+/// Whether the calling thread lives in a COM apartment; false where there are none.
+bool isInApartment();
+
 } // namespace process_facts

@@ -34,4 +34,8 @@ std::string text(const Facts &facts)
            std::to_string(facts.residentBytes / 1024) + " KiB";
 }
 
+int nativeWindowCount() { return 0; }
+
+bool isInApartment() { return false; }
+
 } // namespace process_facts

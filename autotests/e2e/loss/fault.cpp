@@ -2,7 +2,7 @@
 #include "autotests/e2e/loss/fault.h"
 
 #include "autotests/e2e/loss/call_watch.h"
-#include "autotests/e2e/loss/process_load.h"
+#include "autotests/e2e/loss/system_ways.h"
 
 #include <QProcess>
 
@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds lookInterval{1};
 void give(const std::string &command)
 {
     const QStringList arguments{QStringLiteral("-c"), QString::fromStdString(command)};
-    if (!QProcess::startDetached(QString::fromLatin1(process_load::shell()), arguments))
+    if (!QProcess::startDetached(QString::fromLatin1(system_ways::shell()), arguments))
         std::fprintf(stderr, "FAIL: '%s' cannot be started\n", command.c_str());
 }
 

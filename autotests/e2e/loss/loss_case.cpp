@@ -8,7 +8,8 @@
 #include "autotests/e2e/loss/heartbeat.h"
 #include "autotests/e2e/loss/loss_plan.h"
 #include "autotests/e2e/loss/microphone_person.h"
-#include "autotests/e2e/loss/process_load.h"
+#include "autotests/e2e/loss/system_ways.h"
+#include "autotests/support/process_facts.h"
 #include "autotests/support/scripted_context.h"
 #include "autotests/tests/sound_truth.h"
 #include "contract/exports.h"
@@ -214,7 +215,7 @@ void LossCase::checkTold()
 // One cannot close its device; the next one cannot open its own where the whole server stands still.
 int LossCase::hangingDeviceCount() const
 {
-    if (plan_.harm == Harm::suspend && !process_load::waitsForSuspended())
+    if (plan_.harm == Harm::suspend && !system_ways::waitsForSuspended())
         return 0;
     const bool opensInVain = plan_.harm == Harm::freeze && plan_.job == Job::record && plan_.moment == Moment::late;
     return opensInVain ? 2 : 1;
@@ -238,7 +239,7 @@ void LossCase::checkDigits()
     // A dialog that finds its device gone ends without a message; one that only had to wait is played to its end.
     findings_.expectEqual(code_, plan_.isLoss() ? 4U : 0U, "the code");
     checkMessages(false);
-    const bool isHeldUp = plan_.harm == Harm::freeze || (plan_.harm == Harm::suspend && process_load::waitsForSuspended());
+    const bool isHeldUp = plan_.harm == Harm::freeze || (plan_.harm == Harm::suspend && system_ways::waitsForSuspended());
     const QString silence = QStringLiteral("the thread turned no event for %1 ms").arg(digitPerson_->longestSilenceMs());
     // The digits sound on the dialog's own thread: it stands still for as long as the server does.
     findings_.expect(isHeldUp == (digitPerson_->longestSilenceMs() > frozenAtLeastMs), silence);
@@ -355,15 +356,15 @@ bool runCase(const LossPlan &plan, const QString &name)
         return false;
     settings.close();
     QDir::setCurrent(folder.path());
-    if (process_load::keepsFirstUse())
+    if (system_ways::keepsFirstUse())
         useOnce();
-    const int threadCount = process_load::threadCount();
-    const int handleCount = process_load::handleCount();
+    const process_facts::Facts before = process_facts::now();
     bool isGood = LossCase(plan, name).run();
     Findings leftovers(name);
-    leftovers.expect(waitUntil([=] { return process_load::threadCount() <= threadCount; }),
-                     QStringLiteral("%1 threads instead of %2").arg(process_load::threadCount()).arg(threadCount));
-    leftovers.expectAtMost(process_load::handleCount(), handleCount, "the number of handles");
+    leftovers.expect(waitUntil([&] { return process_facts::now().threads <= before.threads; }),
+                     QStringLiteral("%1 threads instead of %2").arg(process_facts::now().threads).arg(before.threads));
+    leftovers.expectAtMost(static_cast<int>(process_facts::now().handles), static_cast<int>(before.handles),
+                           "the number of handles");
     QDir::setCurrent(QDir::rootPath());
     return isGood && leftovers.areGood();
 }

@@ -2,7 +2,7 @@
 #include "autotests/tests/closing/module_stage.h"
 
 #include "audio/abandoned_workers.h"
-#include "autotests/support/process_leftovers.h"
+#include "autotests/support/process_facts.h"
 #include "autotests/support/wave_files.h"
 #include "contract/exports.h"
 #include "utils/pace.h"
@@ -81,7 +81,7 @@ std::uint32_t ModuleStage::run(Kind kind, const std::function<std::uint32_t(ostr
     return code;
 }
 
-void ModuleStage::begin() { threadCount_ = runningThreadCount(); }
+void ModuleStage::begin() { threadCount_ = process_facts::now().threads; }
 
 QString ModuleStage::leftovers() const
 {
@@ -90,8 +90,8 @@ QString ModuleStage::leftovers() const
         left << QStringLiteral("an open device");
     if (ostra::audio::abandonedWorkerCount() != 0)
         left << QStringLiteral("an abandoned worker");
-    if (!QTest::qWaitFor([this] { return runningThreadCount() <= threadCount_; }, threadEndLimit))
-        left << QStringLiteral("%1 threads, not %2").arg(runningThreadCount()).arg(threadCount_);
+    if (!QTest::qWaitFor([this] { return process_facts::now().threads <= threadCount_; }, threadEndLimit))
+        left << QStringLiteral("%1 threads, not %2").arg(process_facts::now().threads).arg(threadCount_);
     for (const QWidget *widget : QApplication::allWidgets())
         left << QLatin1String(widget->metaObject()->className());
     for (const QObject *object : qApp->findChildren<QTimer *>())

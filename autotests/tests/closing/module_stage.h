@@ -8,6 +8,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 
@@ -36,5 +37,5 @@ public:
 
 private:
     QTemporaryDir folder_;
-    int threadCount_ = 0;
+    std::size_t threadCount_ = 0;
 };
