@@ -37,7 +37,7 @@ try {
 } catch (const std::bad_alloc &) {
     throw;
 } catch (...) {
-    // The components listed before stay.
+    // The components listed so far stay.
 }
 
 void AudioComponentManager::listDevices()

@@ -39,7 +39,7 @@ struct RecordingSlot {
     }
 
 private:
-    std::atomic<unsigned> storedCount_ = 0; ///< hands the recording over by itself, whatever way the report takes
+    std::atomic<unsigned> storedCount_ = 0; ///< orders what is read after what was stored, beside the report
 };
 
 } // namespace ostra::audio

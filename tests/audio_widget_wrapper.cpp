@@ -59,6 +59,9 @@ void AudioWidgetWrapper::makeDialog(QWidget *parent, QObject *argument)
     dialog_->setCancellationWatcher(&context_);
     dialog_->setResult(dialog_result::none);
     dialog_->setAttribute(Qt::WA_DeleteOnClose);
+    hasFinished_ = false; // a host may run the wrapper once more
+    isDeviceLost_ = false;
+    hasInternalError_ = false;
 }
 
 void AudioWidgetWrapper::watchDialog()
@@ -70,7 +73,7 @@ void AudioWidgetWrapper::watchDialog()
     });
     // Kept at once: the dialog may be gone when its loop returns.
     connect(dialog, &QDialog::finished, this, [this, dialog] {
-        hasFinished_ = true;
+        hasFinished_ = !dialog->hasWatcherFailed();
         isDeviceLost_ = dialog->isDeviceDisconnected();
         hasInternalError_ = dialog->isAborted();
     });
@@ -87,7 +90,7 @@ int AudioWidgetWrapper::runDialog(QWidget *parent, QObject *argument)
     watchDialog();
     dialog_->raiseOnce();
     const int result = dialog_->exec();
-    // Result 0 of a dialog that never finished would be taken for a pass.
+    // Result 0 of a dialog that never finished, or that a failing host ended, would be taken for a pass.
     const int outcome = hasFinished_ ? result : dialog_result::cancelled;
     endDialog();
     return outcome;

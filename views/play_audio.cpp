@@ -64,12 +64,15 @@ void PlayAudio::OnBtnPlayClicked()
 
 void PlayAudio::OnTimerTick()
 {
-    const TimedJob::Turn turn = job_.tick(limitSeconds());
-    if (turn == TimedJob::Turn::finished)
-        offerToGoOn();
-    else
-        announceFailure(*this, turn);
-    job_.showSeconds(limitSeconds()); // the dialog may have finished by now, but is not deleted yet
+    const auto act = [this] {
+        const TimedJob::Turn turn = job_.tick(limitSeconds());
+        if (turn == TimedJob::Turn::finished)
+            offerToGoOn();
+        else
+            announceFailure(*this, turn);
+        job_.showSeconds(limitSeconds()); // the dialog may have finished by now, but is not deleted yet
+    };
+    utils::guarded(act, [this] { emit AbortTest(); });
 }
 
 void PlayAudio::offerToGoOn()

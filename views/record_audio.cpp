@@ -48,12 +48,15 @@ void RecordAudio::OnBtnRecordClicked()
 
 void RecordAudio::OnTimerTick()
 {
-    const TimedJob::Turn turn = job_.tick(recordLimit);
-    if (turn == TimedJob::Turn::finished)
-        emit NextWidget();
-    else
-        announceFailure(*this, turn);
-    job_.showSeconds(recordLimit); // the dialog may have finished by now, but is not deleted yet
+    const auto act = [this] {
+        const TimedJob::Turn turn = job_.tick(recordLimit);
+        if (turn == TimedJob::Turn::finished)
+            emit NextWidget();
+        else
+            announceFailure(*this, turn);
+        job_.showSeconds(recordLimit); // the dialog may have finished by now, but is not deleted yet
+    };
+    utils::guarded(act, [this] { emit AbortTest(); });
 }
 
 } // namespace ostra

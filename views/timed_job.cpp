@@ -55,10 +55,11 @@ const audio::StopFlag &TimedJob::begin()
 void TimedJob::wire(QObject &worker, const char *jobSlot, QThread &thread)
 {
     QObject::connect(&thread, SIGNAL(started()), &worker, jobSlot);
-    QObject::connect(&worker, SIGNAL(SendResultStatus(int)), &page_, SLOT(set_result_status(int)));
-    // Directly: a worker that was left to itself must end without anybody's event loop.
+    // Directly: a worker that was left to itself must end without anybody's event loop. And before the page is told, for which
+    // there may be no memory.
     QObject::connect(&worker, SIGNAL(SendResultStatus(int)), &thread, SLOT(quit()), Qt::DirectConnection);
     QObject::connect(&worker, SIGNAL(SendResultStatus(int)), &worker, SLOT(deleteLater()));
+    QObject::connect(&worker, SIGNAL(SendResultStatus(int)), &page_, SLOT(set_result_status(int)));
     QObject::connect(&thread, SIGNAL(finished()), &thread, SLOT(deleteLater()));
 }
 
@@ -67,8 +68,8 @@ void TimedJob::start(std::unique_ptr<QObject> worker, const char *jobSlot)
     auto thread = std::make_unique<JobThread>(); // no parent: it may have to outlive the page
     worker->moveToThread(thread.get());
     wire(*worker, jobSlot, *thread);
+    timer_.start(utils::paced(tickInterval)); // first, because nothing may throw once the thread runs
     thread->start(QThread::InheritPriority);
-    timer_.start(utils::paced(tickInterval));
     if (!thread->isRunning() && !thread->isFinished()) {
         report(audio::worker_status::failed); // the system has no thread left
         return;
@@ -136,6 +137,7 @@ void TimedJob::stop(QDeadlineTimer deadline)
     const QPointer<QThread> thread = thread_;
     if (thread.isNull())
         return;
+    thread->quit();
     if (!thread->wait(deadline))
         return letGo();
     thread_.clear();

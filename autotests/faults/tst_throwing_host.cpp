@@ -84,6 +84,8 @@ private slots:
     void anEventSourceThatFailsOnceIsNoPass();
     void aWatcherThatThrowsStopsTheDialog_data();
     void aWatcherThatThrowsStopsTheDialog();
+    void aWatcherThatFailsOnceIsNoPass_data();
+    void aWatcherThatFailsOnceIsNoPass();
     void aPlatformServiceThatThrowsIsAbsent_data();
     void aPlatformServiceThatThrowsIsAbsent();
     void aRefreshLetsLackOfMemoryOutOnly();
@@ -206,6 +208,26 @@ void TestThrowingHost::aWatcherThatThrowsStopsTheDialog()
     checkAsBefore(outcome, "watcher");
     QCOMPARE(outcome.code.value_or(99), 4U);
     QCOMPARE(sound_truth::levels(), levels_);
+}
+
+void TestThrowingHost::aWatcherThatFailsOnceIsNoPass_data() { aCallThatThrowsEndsTheRun_data(); }
+
+void TestThrowingHost::aWatcherThatFailsOnceIsNoPass()
+{
+    QFETCH(const int, kind);
+    ModuleInterface *module = GetModuleInterfaceInstance();
+    module->componentManager()->refresh();
+    ScriptedContext context(module->componentManager()->componentAt(0));
+    context.throwsAt = "wants stop";
+    context.fail = [&context] {
+        context.throwsAt.clear(); // from now on it answers that the test may go on
+        throwError();
+    };
+    driven_runs::Driver driver{Kind(kind)};
+    driver.waits = true;
+    const driven_runs::Outcome outcome = driver.run(*module, context);
+    checkAsBefore(outcome, "watcher, once");
+    QCOMPARE(outcome.code.value_or(99), 4U);
 }
 
 void TestThrowingHost::aPlatformServiceThatThrowsIsAbsent_data()

@@ -17,16 +17,6 @@ namespace {
 
 constexpr std::chrono::milliseconds watcherInterval{1000};
 
-// An exception must not unwind through the event dispatcher; a host that cannot answer any more ends the test.
-bool wantsStop(TestContext &watcher) noexcept
-{
-    try {
-        return watcher.continueOnOutcome();
-    } catch (...) {
-        return true;
-    }
-}
-
 } // namespace
 
 InputDialog::InputDialog(QWidget * /*parent*/, QObject *eventFilter, Qt::WindowFlags flags)
@@ -52,8 +42,19 @@ void InputDialog::raiseOnce()
 void InputDialog::askWatcher()
 {
     // Only the loop ends: whoever made the dialog closes it.
-    if (watcher_ != nullptr && wantsStop(*watcher_))
+    if (watcher_ != nullptr && wantsStop())
         emit finished(0);
+}
+
+// An exception must not unwind through the event dispatcher; a host that cannot answer any more ends the test.
+bool InputDialog::wantsStop() noexcept
+{
+    try {
+        return watcher_->continueOnOutcome();
+    } catch (...) {
+        hasWatcherFailed_ = true;
+        return true;
+    }
 }
 
 int InputDialog::runLoop()

@@ -34,16 +34,21 @@ public:
     /// Whether the dialog has finished, by itself or by its watcher.
     bool hasFinished() const noexcept { return hasFinished_; }
 
+    /// Whether it was ended because its watcher threw: the result it then has is nobody's answer.
+    bool hasWatcherFailed() const noexcept { return hasWatcherFailed_; }
+
     /// Brings the window to the front: shown above all others and hidden again at once.
     void raiseOnce();
 
 private:
     void askWatcher();
+    bool wantsStop() noexcept;
     int runLoop();
 
     QString title_;
     TestContext *watcher_ = nullptr;
     bool hasFinished_ = false;
+    bool hasWatcherFailed_ = false;
 };
 
 } // namespace ostra
