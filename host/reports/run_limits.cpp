@@ -92,10 +92,18 @@ QStringList limitsOfMicrophoneTest(const RunRecord &record)
     return limits;
 }
 
+// A run that was refused, or that ended before anything was played and heard.
+bool hasTestedNothing(const RunRecord &record)
+{
+    return !record.wasModuleCalled || (record.isUnattended && record.digits.isEmpty() && !record.recording);
+}
+
 } // namespace
 
 QStringList runLimits(const RunRecord &record)
 {
+    if (hasTestedNothing(record))
+        return {QStringLiteral("Nothing was played and heard: this run says nothing about the device.")};
     QStringList limits = record.testLetter == QLatin1String("m") ? limitsOfMicrophoneTest(record) : limitsOfPlayback(record);
     if (record.wasStopped)
         limits.append(QStringLiteral("The run was stopped: it says nothing about the device."));

@@ -51,6 +51,7 @@ private slots:
     void putsTheLimitsLast();
     void choosesTheLimits_data();
     void choosesTheLimits();
+    void claimsNothingOfARunThatHeardNothing();
     void tellsWhatSilenceCanMean_data();
     void tellsWhatSilenceCanMean();
     void tellsThatTheClipsAreTheirOwnMeasure();
@@ -267,10 +268,24 @@ void TestRunReport::choosesTheLimits()
     record.testLetter = letter;
     record.listenedTo = source;
     record.isUnattended = !source.isEmpty();
+    record.digits = {heardDigit()};
     const QString limits = host::runLimits(record).join(u'\n');
     QVERIFY2(limits.contains(told), qPrintable(limits));
     QVERIFY2(!limits.contains(notTold), qPrintable(limits));
     QCOMPARE(limits.contains(QStringLiteral("full volume only")), letter == QLatin1String("p"));
+}
+
+void TestRunReport::claimsNothingOfARunThatHeardNothing()
+{
+    RunRecord ended = playbackRecord();
+    ended.testLetter = QStringLiteral("m");
+    ended.digits.clear();
+    RunRecord refused = playbackRecord();
+    refused.wasModuleCalled = false;
+    for (const RunRecord &record : {ended, refused}) {
+        QCOMPARE(host::runLimits(record).size(), 1);
+        QVERIFY(host::runLimits(record).constFirst().contains(QStringLiteral("says nothing about the device")));
+    }
 }
 
 void TestRunReport::tellsWhatSilenceCanMean_data()
@@ -297,8 +312,9 @@ void TestRunReport::tellsWhatSilenceCanMean()
 void TestRunReport::tellsThatTheClipsAreTheirOwnMeasure()
 {
     const QString sentence = QStringLiteral("the very clips that were played");
-    QVERIFY(host::runLimits(playbackRecord()).join(u'\n').contains(sentence));
     RunRecord attended = playbackRecord();
+    attended.digits = {heardDigit()};
+    QVERIFY(host::runLimits(attended).join(u'\n').contains(sentence));
     attended.isUnattended = false;
     QVERIFY(!host::runLimits(attended).join(u'\n').contains(sentence));
 }
