@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/gui/main_window.h"
 
-#include "autotests/host/gui/fake_module.h"
-#include "host/gui/dialog_prompter.h"
+#include "autotests/host/gui/shown_program.h"
 #include "host/gui/key_text.h"
 #include "host/translations/translators.h"
 
@@ -29,19 +28,10 @@ namespace {
 
 constexpr int patienceMilliseconds = 10'000;
 
-/// The window on a module of the test's own.
-struct Program {
-    explicit Program(bool hasEvents = false) : window(session, language, QStringLiteral("4.42.0.92"), hasEvents)
-    {
-        session.refresh();
-        window.show();
-    }
+/// With what its window tells.
+struct Program : ShownProgram {
+    using ShownProgram::ShownProgram;
 
-    template <typename Widget>
-    Widget *find(const char *name)
-    {
-        return window.findChild<Widget *>(QLatin1String(name));
-    }
     QString log() { return find<QPlainTextEdit>("host_log")->toPlainText(); }
     QString verdict() { return find<QLabel>("host_result_verdict")->text(); }
     QStringList messages()
@@ -52,20 +42,6 @@ struct Program {
             texts.append(list->item(row)->text());
         return texts;
     }
-
-    // Windows removes no folder that is a process's current one.
-    struct Folder : QTemporaryDir {
-        Folder() : before(QDir::currentPath()) {}
-        ~Folder() { QDir::setCurrent(before); }
-        QString before;
-    } folder;
-    struct Language : host::LanguageSetting {
-        explicit Language(const QString &path) { useOwnFolder(path); }
-    } language{folder.path()};
-    FakeModule module;
-    host::DialogPrompter prompter;
-    host::TestSession session{module.interface(), prompter, folder.path()};
-    host::MainWindow window;
 };
 
 } // namespace
