@@ -29,6 +29,25 @@ function(ma_needs_threads program)
     add_dependencies(thread_tests ${program})
 endfunction()
 
+# tools/wine-run --display lets one run at a time into a prefix. A test that is not started before its turn neither takes the
+# place of another nor spends its own time on waiting. Those with managed windows take longest and have two prefixes in turn.
+set_property(GLOBAL PROPERTY managed_display 1)
+function(ma_wait_for_display name)
+    if(NOT "--display" IN_LIST ARGN)
+        return()
+    endif()
+    if("--qt-test" IN_LIST ARGN AND NOT "--managed" IN_LIST ARGN)
+        set(prefix display)
+    else()
+        get_property(number GLOBAL PROPERTY managed_display)
+        set(prefix managed${number})
+        set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT "WINE_MANAGED_PREFIX=${number}")
+        math(EXPR number "3 - ${number}")
+        set_property(GLOBAL PROPERTY managed_display ${number})
+    endif()
+    set_tests_properties(${name} PROPERTIES RESOURCE_LOCK wine-${prefix})
+endfunction()
+
 # ma_add_test_command(<name> COMMAND ... [LABELS ...] [SOUND "<arguments of tools/virtual-sound-card run>"] [ENVIRONMENT ...]
 #                     [TIMEOUT s] [FOLDER dir] [SERIAL])
 function(ma_add_test_command name)
@@ -53,6 +72,9 @@ function(ma_add_test_command name)
         TIMEOUT ${A_TIMEOUT}
         SKIP_RETURN_CODE 77
         ENVIRONMENT "${MODULE_AUDIO_TEST_ENVIRONMENT};${A_ENVIRONMENT}")
+    if(WIN32)
+        ma_wait_for_display(${name} ${command})
+    endif()
     if(A_FOLDER)
         set_tests_properties(${name} PROPERTIES WORKING_DIRECTORY "${A_FOLDER}")
     endif()

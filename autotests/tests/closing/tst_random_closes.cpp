@@ -135,6 +135,8 @@ void TestRandomCloses::leaveNothingBehind()
         const QString left = stage.leftovers();
         QVERIFY2(left.isEmpty(), (what + ": " + left.toUtf8()).constData());
         longest = std::max(longest, course.took);
+        if (!course.wasEnded) // a run that nothing disturbed: a busy machine may have made the first ones long
+            lengths[kind] = std::min(lengths[kind], std::max<qint64>(course.length, 1));
         ++ends[course.wasEnded ? QLatin1String(nameOf(end)) : QStringLiteral("too late")];
     }
     for (auto end = ends.cbegin(); end != ends.cend(); ++end)
