@@ -5,6 +5,8 @@
 #include "audio/describe_component.h"
 #include "audio/sdl_api.h"
 
+#include <QLoggingCategory>
+
 #include <algorithm>
 #include <memory>
 #include <new>
@@ -14,6 +16,8 @@
 namespace ostra::audio {
 
 namespace {
+
+Q_LOGGING_CATEGORY(discovery, "ostra.audio.discovery")
 
 constexpr int outputDevices = 0;
 
@@ -38,6 +42,7 @@ try {
     throw;
 } catch (...) {
     // The components listed so far stay.
+    qCWarning(discovery, "refresh ended early: a service of the host threw");
 }
 
 void AudioComponentManager::listDevices()

@@ -7,12 +7,16 @@
 
 #include <QCoreApplication>
 #include <QThread>
+#include <QTimer>
 
+#include <chrono>
 #include <utility>
 
 namespace ostra {
 
 namespace {
+
+constexpr std::chrono::milliseconds releaseInterval{100};
 
 // Runs `action` on the thread of `object` before it returns.
 template <typename Action>
@@ -24,15 +28,25 @@ void runInThreadOf(QObject &object, Action action)
         QMetaObject::invokeMethod(&object, action, Qt::BlockingQueuedConnection);
 }
 
+// Without memory for a call to the dialog's thread: its timer deletes both. A dialog that goes by itself leaves the wrapper.
+void waitForTimer(AudioWidgetWrapper *wrapper, DialogLink &link)
+{
+    link.released = wrapper;
+    link.hasDialog.wait(true);
+    delete link.released.exchange(nullptr);
+}
+
 // The dialog belongs to the application's thread and asks the host's objects until it is destroyed: so it is not left to
 // itself when a test that ran on another thread is over.
 void deleteWithDialog(AudioWidgetWrapper *wrapper) noexcept
 {
     QCoreApplication *application = QCoreApplication::instance();
-    if (!wrapper->hasDialog() || application == nullptr)
+    const std::shared_ptr<DialogLink> link = wrapper->link();
+    if (!link->hasDialog || application == nullptr)
         delete wrapper;
-    else // without memory for the call it is left behind: here is the wrong thread
-        utils::guarded([=] { runInThreadOf(*application, [wrapper] { delete wrapper; }); });
+    else
+        utils::guarded([=] { runInThreadOf(*application, [wrapper] { delete wrapper; }); },
+                       [&] { waitForTimer(wrapper, *link); });
 }
 
 } // namespace
@@ -46,7 +60,7 @@ AudioWidgetWrapper::AudioWidgetWrapper(QString outputDeviceName, TestContext &co
 
 AudioWidgetWrapper::~AudioWidgetWrapper()
 {
-    if (dialog_) {
+    if (hasDialog()) {             // one that already goes is not touched
         dialog_->disconnect(this); // what it tells while it goes reaches nobody
         delete dialog_;
     }
@@ -55,7 +69,7 @@ AudioWidgetWrapper::~AudioWidgetWrapper()
 void AudioWidgetWrapper::makeDialog(QWidget *parent, QObject *argument)
 {
     dialog_ = new InteractionDialog(outputDeviceName_, parent, argument, context_.events());
-    hasDialog_ = true;
+    linkDialog();
     dialog_->setCancellationWatcher(&context_);
     dialog_->setResult(dialog_result::none);
     dialog_->setAttribute(Qt::WA_DeleteOnClose);
@@ -64,13 +78,23 @@ void AudioWidgetWrapper::makeDialog(QWidget *parent, QObject *argument)
     hasInternalError_ = false;
 }
 
+// By way of the dialog alone: once it is gone, the thread of the run may delete this object at any moment.
+void AudioWidgetWrapper::linkDialog()
+{
+    InteractionDialog *dialog = dialog_;
+    connect(dialog, &QObject::destroyed, dialog, [link = link_] {
+        link->hasDialog = false;
+        link->hasDialog.notify_all();
+    });
+    auto *timer = new QTimer(dialog);
+    connect(timer, &QTimer::timeout, dialog, [link = link_] { delete link->released.exchange(nullptr); });
+    timer->start(releaseInterval);
+    link_->hasDialog = true;
+}
+
 void AudioWidgetWrapper::watchDialog()
 {
     InteractionDialog *dialog = dialog_;
-    connect(dialog, &QObject::destroyed, this, [this] {
-        dialog_.clear();
-        hasDialog_ = false;
-    });
     // Kept at once: the dialog may be gone when its loop returns.
     connect(dialog, &QDialog::finished, this, [this, dialog] {
         hasFinished_ = !dialog->hasWatcherFailed();
@@ -112,13 +136,14 @@ int AudioWidgetWrapper::exec(QWidget *parent, QObject *argument)
     } catch (...) { // out of memory; the host's frames are between here and the test
         hasInternalError_ = true;
         outcome_ = dialog_result::closed;
+        delete dialog_; // nobody else may know of it yet
     }
     return outcome_;
 }
 
 void AudioWidgetWrapper::closeDialog()
 {
-    if (hasDialog_)
+    if (hasDialog())
         utils::guarded([this] { runInThreadOf(*this, [this] { emit CloseDialog(); }); });
 }
 

@@ -13,8 +13,17 @@
 
 namespace ostra {
 
+class AudioWidgetWrapper;
 class InteractionDialog;
 class TestContext;
+
+/// What the thread of the run and the dialog know of each other. Outlives both, so that neither looks at what the other
+/// deletes.
+struct DialogLink {
+    std::atomic<bool> hasDialog = false;
+    /// One that the run is done with and has no memory to say so: its dialog looks for it.
+    std::atomic<AudioWidgetWrapper *> released = nullptr;
+};
 
 /// The microphone dialog as the host runs it, and what came of it. Lives in the application's thread, whatever thread makes
 /// it; `exec` is called there, everything else by the thread that runs the test, before or after `exec`.
@@ -44,7 +53,9 @@ public:
     bool internalError() const noexcept { return hasInternalError_; }
 
     /// Whether a dialog exists; from any thread.
-    bool hasDialog() const noexcept { return hasDialog_; }
+    bool hasDialog() const noexcept { return link_->hasDialog; }
+    /// Never null; from any thread.
+    std::shared_ptr<DialogLink> link() const noexcept { return link_; }
 
 signals:
     void CloseDialog();
@@ -52,13 +63,14 @@ signals:
 private:
     int runDialog(QWidget *parent, QObject *argument);
     void makeDialog(QWidget *parent, QObject *argument);
+    void linkDialog();
     void watchDialog();
     void endDialog();
 
     QString outputDeviceName_;
     TestContext &context_;
     QPointer<InteractionDialog> dialog_;
-    std::atomic<bool> hasDialog_ = false;
+    std::shared_ptr<DialogLink> link_ = std::make_shared<DialogLink>();
     std::int32_t outcome_;
     bool hasFinished_ = false;
     bool isDeviceLost_ = false;

@@ -164,8 +164,9 @@ void Rewriter::rewriteDeclaration(const Group &group, StyleRule &target, const S
 {
     const auto &[property, value] = declaration;
     if (!isIcon(property)) {
-        // Importance would carry one half of a pair into the rules of other pairs.
-        const QString plain = hasColor(value) ? withoutImportance(value) : value;
+        // Importance would carry one half of a pair into the rules of other pairs, and hide the frames of the focus.
+        const bool isOurs = hasColor(value) || property.startsWith(u"border");
+        const QString plain = isOurs ? withoutImportance(value) : value;
         target.set(property, withColor(plain, colorFor(property, group.surface)));
         return;
     }

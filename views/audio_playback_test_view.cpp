@@ -244,16 +244,12 @@ void AudioPlaybackTestView::playNextClip()
 
 void AudioPlaybackTestView::CheckSystemEventAbortion()
 {
-    switch (askForEvents(systemEvents_)) {
-    case EventAnswer::cancel:
-        finish(playback_outcome::systemEvent);
-        break;
-    case EventAnswer::unknown: // nobody can tell any more what may have spoilt the test
-        finish(playback_outcome::notCompleted);
-        break;
-    case EventAnswer::goOn:
-        break;
-    }
+    const EventAnswer answer = askForEvents(systemEvents_);
+    if (answer == EventAnswer::goOn)
+        return;
+    // If the host threw, nobody can tell any more what may have spoilt the test.
+    const bool isEvent = answer == EventAnswer::cancel;
+    guard([=, this] { finish(isEvent ? playback_outcome::systemEvent : playback_outcome::notCompleted); });
 }
 
 void AudioPlaybackTestView::PlayAudio()
@@ -324,24 +320,39 @@ void AudioPlaybackTestView::done(int r)
 
 void AudioPlaybackTestView::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_9)
-        type(event->key() - Qt::Key_0);
-    else if (event->key() == Qt::Key_Escape)
-        OnCloseButtonClicked();
-    InputDialog::keyPressEvent(event);
+    guard([=, this] {
+        if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_9)
+            type(event->key() - Qt::Key_0);
+        else if (event->key() == Qt::Key_Escape)
+            OnCloseButtonClicked();
+        InputDialog::keyPressEvent(event);
+    });
 }
 
-void AudioPlaybackTestView::mousePressEvent(QMouseEvent *event) { drag_.press(*event); }
-void AudioPlaybackTestView::mouseMoveEvent(QMouseEvent *event) { drag_.move(*event); }
-void AudioPlaybackTestView::mouseReleaseEvent(QMouseEvent * /*event*/) { drag_.release(); }
+void AudioPlaybackTestView::mousePressEvent(QMouseEvent *event)
+{
+    guard([=, this] { drag_.press(*event); });
+}
+
+void AudioPlaybackTestView::mouseMoveEvent(QMouseEvent *event)
+{
+    guard([=, this] { drag_.move(*event); });
+}
+
+void AudioPlaybackTestView::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    guard([this] { drag_.release(); });
+}
 
 // A translucent window paints no background of its own: between the rows one would look through it.
 void AudioPlaybackTestView::paintEvent(QPaintEvent * /*event*/)
 {
-    QStyleOption option;
-    option.initFrom(this);
-    QPainter painter(this);
-    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    utils::guarded([this] {
+        QStyleOption option;
+        option.initFrom(this);
+        QPainter painter(this);
+        style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    });
 }
 
 } // namespace ostra

@@ -29,9 +29,10 @@ constexpr std::chrono::milliseconds systemEventInterval{500};
 
 InteractionDialog::InteractionDialog(const QString &outputDeviceName, QWidget *parent, QObject *eventFilter,
                                      EventSource *events)
-    : InputDialog(parent, eventFilter, Qt::Dialog | Qt::FramelessWindowHint), recording_(std::make_shared<audio::RecordingSlot>()),
-      selectDevice_(new SelectDevice(this)), recordAudio_(new RecordAudio(recording_, this)),
-      playAudio_(new PlayAudio(recording_, outputDeviceName, this)), events_(events)
+    : InputDialog(parent, eventFilter, Qt::Dialog | Qt::FramelessWindowHint),
+      recording_(std::make_shared<audio::RecordingSlot>()), selectDevice_(new SelectDevice(this)),
+      recordAudio_(new RecordAudio(recording_, this)), playAudio_(new PlayAudio(recording_, outputDeviceName, this)),
+      events_(events)
 {
     connect(&systemEventTimer_, &QTimer::timeout, this, &InteractionDialog::CheckSystemEvent);
     systemEventTimer_.start(utils::paced(systemEventInterval));
@@ -166,7 +167,7 @@ void InteractionDialog::CheckSystemEvent()
     guard([this, isUnknown] {
         QTimer::singleShot(0, this, [this, isUnknown] {
             if (isReady_)
-                isUnknown ? Abort() : done(result());
+                guard([this, isUnknown] { isUnknown ? Abort() : done(result()); });
         });
     });
 }
@@ -179,9 +180,11 @@ void InteractionDialog::done(int result)
 
 void InteractionDialog::changeEvent(QEvent *event)
 {
-    if (isCancelledByEvent())
-        done(dialog_result::cancelled);
-    InputDialog::changeEvent(event);
+    guard([=, this] {
+        if (isCancelledByEvent())
+            done(dialog_result::cancelled);
+        InputDialog::changeEvent(event);
+    });
 }
 
 bool InteractionDialog::eventFilter(QObject *watched, QEvent *event)
@@ -194,33 +197,44 @@ bool InteractionDialog::eventFilter(QObject *watched, QEvent *event)
 void InteractionDialog::closeEvent(QCloseEvent *event)
 {
     // Nobody has heard a sound when the user or the end of the application takes the window away: result 0 would say so.
-    if (!event->spontaneous() && !isApplicationQuitting_) {
-        InputDialog::closeEvent(event);
-        return;
-    }
-    Close();
-    event->accept();
+    guard([=, this] {
+        if (!event->spontaneous() && !isApplicationQuitting_)
+            return InputDialog::closeEvent(event);
+        Close();
+        event->accept();
+    });
 }
 
 void InteractionDialog::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)
-        done(dialog_result::cancelled);
+        guard([this] { done(dialog_result::cancelled); });
 }
 
-void InteractionDialog::mousePressEvent(QMouseEvent *event) { drag_->press(*event); }
+void InteractionDialog::mousePressEvent(QMouseEvent *event)
+{
+    guard([=, this] { drag_->press(*event); });
+}
 
-void InteractionDialog::mouseMoveEvent(QMouseEvent *event) { drag_->move(*event); }
+void InteractionDialog::mouseMoveEvent(QMouseEvent *event)
+{
+    guard([=, this] { drag_->move(*event); });
+}
 
-void InteractionDialog::mouseReleaseEvent(QMouseEvent * /*event*/) { drag_->release(); }
+void InteractionDialog::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    guard([this] { drag_->release(); });
+}
 
 void InteractionDialog::showEvent(QShowEvent *event)
 {
-    if (parentWidget() != nullptr) {
-        const QWidget *window = parentWidget()->window();
-        move(window->frameGeometry().topLeft() + (window->rect().center() - rect().center()));
-    }
-    InputDialog::showEvent(event);
+    guard([=, this] {
+        if (parentWidget() != nullptr) {
+            const QWidget *window = parentWidget()->window();
+            move(window->frameGeometry().topLeft() + (window->rect().center() - rect().center()));
+        }
+        InputDialog::showEvent(event);
+    });
 }
 
 } // namespace ostra

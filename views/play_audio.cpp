@@ -85,9 +85,12 @@ void PlayAudio::showEvent(QShowEvent *event)
 {
     // The button is disabled while it plays, yet its signal would start a second playback; and a window that comes back from
     // the task bar is shown as well.
-    if (!event->spontaneous() && !job_.isBusy())
-        emit ui_->microphone_test_play_button->clicked(false);
-    QWidget::showEvent(event);
+    const auto play = [=, this] {
+        if (!event->spontaneous() && !job_.isBusy())
+            emit ui_->microphone_test_play_button->clicked(false);
+        QWidget::showEvent(event);
+    };
+    utils::guarded(play, [this] { emit AbortTest(); });
 }
 
 } // namespace ostra

@@ -73,6 +73,7 @@ private slots:
     void copesWithoutABackEndName();
     void closesEveryDeviceBeforeItOpensTheNext();
     void keepsWhatIsListedWhenMemoryRunsOut();
+    void logsARefreshThatAServiceEnds();
     void componentAnswersTheSharedOperations();
     void dropsForeignComponentsWithoutDestroyingThem();
 
@@ -308,6 +309,17 @@ void TestAudioComponentManager::keepsWhatIsListedWhenMemoryRunsOut()
     QCOMPARE(names(manager), (std::vector<std::string>{"A"}));
     QCOMPARE(fake.count("open"), 2);
     QCOMPARE(fake.count("close"), 2); // also the device that was being described
+}
+
+void TestAudioComponentManager::logsARefreshThatAServiceEnds()
+{
+    FakeSdl fake;
+    fake.deviceNames = {"A", "B"};
+    sdl().deviceName = [](int, int) -> const char * { throw 42; };
+    AudioComponentManager manager(id_);
+    QTest::ignoreMessage(QtWarningMsg, "refresh ended early: a service of the host threw");
+    manager.refresh();
+    QCOMPARE(manager.componentCount(), std::uint64_t(0));
 }
 
 void TestAudioComponentManager::componentAnswersTheSharedOperations()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tests/audio_widget_wrapper.h"
 
+#include "autotests/support/refusing_allocator.h"
 #include "autotests/tests/microphone_host.h"
 #include "autotests/views/fake_sound.h"
 #include "autotests/views/page_probe.h"
@@ -14,9 +15,11 @@
 #include <QThread>
 #include <QTimer>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <thread>
+#include <utility>
 
 using namespace ostra;
 
@@ -40,6 +43,28 @@ struct Stage {
     }
 };
 
+std::atomic<std::thread::id> starving;
+
+// Every allocation of the starving thread is refused, none of the others.
+bool isOfTheStarvingThread()
+{
+    if (std::this_thread::get_id() != starving)
+        return false;
+    refusing_allocator::allocationsUntilFailure = 0;
+    return true;
+}
+
+void letGoWithoutMemory(std::shared_ptr<AudioWidgetWrapper> &wrapper)
+{
+    starving = std::this_thread::get_id();
+    refusing_allocator::choice = &isOfTheStarvingThread;
+    refusing_allocator::allocationsUntilFailure = 0;
+    wrapper.reset();
+    starving = std::thread::id();
+    refusing_allocator::allocationsUntilFailure = -1;
+    refusing_allocator::choice = nullptr;
+}
+
 void deletePosted() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
 } // namespace
@@ -62,6 +87,9 @@ private slots:
     void closeDialogLeavesAResultAlone();
     void closeDialogWithoutADialogDoesNothing();
     void closeDialogWorksFromAnotherThread();
+    void withoutMemoryItStillTakesItsDialogAlong();
+    void withoutMemoryItOutlivesADialogThatGoesByItself();
+    void aDialogThatGoesDoesNotComeBackToTheWrapper();
     void aDialogDestroyedInItsLoopIsNoPass();
     void theEndOfTheApplicationIsNoPass_data();
     void theEndOfTheApplicationIsNoPass();
@@ -200,6 +228,46 @@ void TestAudioWidgetWrapper::closeDialogWorksFromAnotherThread()
     const int result = stage.resultOf([&] { other = std::thread([&] { stage.wrapper->closeDialog(); }); });
     other.join();
     QCOMPARE(result, 0);
+}
+
+void TestAudioWidgetWrapper::withoutMemoryItStillTakesItsDialogAlong()
+{
+    Stage stage;
+    stage.resultOf([&] { stage.host.wantsToStop = true; });
+    QVERIFY(!stage.dialog.isNull());
+    const QPointer<AudioWidgetWrapper> wrapper(stage.wrapper.get());
+    std::thread other([&] { letGoWithoutMemory(stage.wrapper); });
+    QTRY_VERIFY_WITH_TIMEOUT(stage.dialog.isNull() && wrapper.isNull(), bound);
+    other.join();
+}
+
+void TestAudioWidgetWrapper::withoutMemoryItOutlivesADialogThatGoesByItself()
+{
+    Stage stage;
+    stage.resultOf([&] { stage.host.wantsToStop = true; });
+    const QPointer<AudioWidgetWrapper> wrapper(stage.wrapper.get());
+    const std::shared_ptr<DialogLink> link = wrapper->link();
+    std::thread other([&] { letGoWithoutMemory(stage.wrapper); });
+    while (link->released == nullptr) // no event of the dialog is handled meanwhile
+        std::this_thread::yield();
+    delete stage.dialog;
+    other.join();
+    QVERIFY(wrapper.isNull());
+}
+
+// It would come back to one that the thread of the run deletes at that moment.
+void TestAudioWidgetWrapper::aDialogThatGoesDoesNotComeBackToTheWrapper()
+{
+    Stage stage;
+    stage.resultOf([&] { stage.host.wantsToStop = true; });
+    QVERIFY(!disconnect(stage.dialog, &QObject::destroyed, stage.wrapper.get(), nullptr));
+    bool wasThereWhenItWent = true;
+    connect(stage.dialog, &QObject::destroyed, this, [&] {
+        wasThereWhenItWent = stage.wrapper->hasDialog();
+        stage.wrapper.reset(); // as the thread of the run does
+    });
+    delete stage.dialog;
+    QVERIFY(!wasThereWhenItWent);
 }
 
 void TestAudioWidgetWrapper::aDialogDestroyedInItsLoopIsNoPass()

@@ -66,6 +66,7 @@ private slots:
     void iconsTakeTheColourOfTheirText();
     void statesOfNamedButtonsAreFilledIn();
     void importanceDoesNotBreakAPair();
+    void importanceDoesNotHideTheFocus();
     void sizesStayAsTheyWere();
     void qtReadsTheResult_data();
     void qtReadsTheResult();
@@ -291,6 +292,19 @@ void TestHighContrastStyle::importanceDoesNotBreakAPair()
     const StyleRule &rule = rules.rule(QStringLiteral("QPushButton"));
     QCOMPARE(rule.value(QStringLiteral("color")), distinct(system_color::buttonText));
     QCOMPARE(rule.value(QStringLiteral("margin")), QStringLiteral("1px !important"));
+}
+
+void TestHighContrastStyle::importanceDoesNotHideTheFocus()
+{
+    const QString sheet =
+        QStringLiteral("QPushButton#a { color: red; border: none !IMPORTANT; border-radius: 3px !important }");
+    const StyleRules rules = StyleRules::parse(highContrastStyleSheet(sheet, distinctColors(), {}));
+    StyleRules read = rules;
+    QCOMPARE(read.rule(QStringLiteral("QPushButton#a")).value(QStringLiteral("border")), QStringLiteral("none"));
+    QCOMPARE(read.rule(QStringLiteral("QPushButton#a")).value(QStringLiteral("border-radius")), QStringLiteral("3px"));
+    QVERIFY(read.rule(QStringLiteral("QPushButton#a:focus"))
+                .value(QStringLiteral("border"))
+                .startsWith(QStringLiteral("2px solid")));
 }
 
 void TestHighContrastStyle::sizesStayAsTheyWere()

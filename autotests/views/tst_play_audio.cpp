@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 
 using namespace ostra;
 using page_probe::named;
@@ -85,6 +86,7 @@ private slots:
     void showsTheKeysOfItsTexts();
     void startsAtZeroSecondsAndWithoutNext();
     void playsByItselfWhenItComesUp();
+    void aPlaybackThatCannotBeginByItselfFails();
     void playsOnceWhenAWindowComesBack();
     void isNotStartedAgainWhileItPlays();
     void disablesPlayAndNextWhileItPlays();
@@ -159,6 +161,19 @@ void TestPlayAudio::playsByItselfWhenItComesUp()
     QCOMPARE(clicked.constFirst().constFirst().toBool(), false);
     QTRY_COMPARE_WITH_TIMEOUT(sound.openedNames(), std::vector<std::string>{"Speakers 0"}, bound);
     QVERIFY(!stage.play().isEnabled());
+}
+
+void TestPlayAudio::aPlaybackThatCannotBeginByItselfFails()
+{
+    const FakeSound sound;
+    Stage stage;
+    connect(&stage.play(), &QPushButton::clicked, this, [] { throw std::bad_alloc(); });
+    try {
+        stage.page.show();
+    } catch (...) {
+        QFAIL("it came out");
+    }
+    QCOMPARE(stage.told(), wasAborted);
 }
 
 void TestPlayAudio::playsOnceWhenAWindowComesBack()

@@ -3,6 +3,9 @@
 
 #include <QApplication>
 
+#include <new>
+#include <utility>
+
 using namespace ostra;
 using playback_fixture::Playback;
 
@@ -34,6 +37,8 @@ private slots:
     void keepsTheFocusOffTheFailButtonWhileASequencePlays();
     void leavesAFocusThatTheUserMoved();
     void ignoresKeysAfterTheEnd();
+    void nothingIsThrownIntoTheEventLoop_data();
+    void nothingIsThrownIntoTheEventLoop();
 
 private:
     static bool show(const Playback &playback)
@@ -202,6 +207,36 @@ void TestPlaybackViewKeyboard::ignoresKeysAfterTheEnd()
     QVERIFY(!playback.key(4).isHidden());
     QTest::keyClick(playback.view.get(), Qt::Key_Escape);
     QCOMPARE(playback.view->outcome(), 0);
+}
+
+void TestPlaybackViewKeyboard::nothingIsThrownIntoTheEventLoop_data()
+{
+    QTest::addColumn<bool>("isKey");
+    QTest::newRow("escape") << true;
+    QTest::newRow("an event of the machine") << false;
+}
+
+// What throws is told of the end first, as an object of the host may be.
+void TestPlaybackViewKeyboard::nothingIsThrownIntoTheEventLoop()
+{
+    QFETCH(const bool, isKey);
+    Playback playback;
+    bool hasThrown = false;
+    connect(playback.view.get(), &QDialog::finished, this, [&] {
+        if (!std::exchange(hasThrown, true))
+            throw std::bad_alloc();
+    });
+    playback.context.flags = isKey ? 0 : 1;
+    try {
+        if (isKey)
+            QTest::keyClick(playback.view.get(), Qt::Key_Escape);
+        else
+            playback.view->CheckSystemEventAbortion();
+    } catch (...) {
+        QFAIL("it came out");
+    }
+    QVERIFY(hasThrown && playback.view->hasFinished());
+    QCOMPARE(playback.view->outcome(), isKey ? 3 : 5);
 }
 
 QTEST_MAIN(TestPlaybackViewKeyboard)

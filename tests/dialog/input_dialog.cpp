@@ -2,6 +2,7 @@
 #include "tests/dialog/input_dialog.h"
 
 #include "contract/test_context.h"
+#include "utils/guarded.h"
 #include "utils/pace.h"
 
 #include <QDebug>
@@ -42,8 +43,10 @@ void InputDialog::raiseOnce()
 void InputDialog::askWatcher()
 {
     // Only the loop ends: whoever made the dialog closes it.
-    if (watcher_ != nullptr && wantsStop())
-        emit finished(0);
+    utils::guarded([this] {
+        if (watcher_ != nullptr && wantsStop())
+            emit finished(0);
+    });
 }
 
 // An exception must not unwind through the event dispatcher; a host that cannot answer any more ends the test.

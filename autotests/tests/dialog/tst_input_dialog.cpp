@@ -113,6 +113,7 @@ private slots:
     void neverAsksAWatcherThatIsNull();
     void aWatcherThatSaysYesLeavesTheDialogVisible();
     void aWatcherThatThrowsEndsTheLoop();
+    void aListenerThatThrowsAtTheEndIsAskedAgain();
     void raisesAboveAllOthersAndHidesAgain();
     void losesTheStayOnTopFlagByTheRaise();
     void aDialogFinishedDuringTheRaiseDoesNotHang();
@@ -261,6 +262,26 @@ void TestInputDialog::aWatcherThatThrowsEndsTheLoop()
     dialog.setCancellationWatcher(&watcher);
     QCOMPARE(run(dialog, {}), 0);
     QCOMPARE(watcher.askedAt.size(), 1);
+}
+
+void TestInputDialog::aListenerThatThrowsAtTheEndIsAskedAgain()
+{
+    InputDialog dialog(nullptr, nullptr);
+    Watcher watcher;
+    watcher.wantsStop = true;
+    watcher.clock.start();
+    dialog.setCancellationWatcher(&watcher);
+    int toldCount = 0;
+    connect(&dialog, &QDialog::finished, this, [&] {
+        if (toldCount++ == 0)
+            throw std::runtime_error("the listener is gone");
+    });
+    try {
+        QCOMPARE(run(dialog, {}), 0);
+    } catch (...) {
+        QFAIL("it came out of the event loop");
+    }
+    QCOMPARE(toldCount, 2);
 }
 
 void TestInputDialog::raisesAboveAllOthersAndHidesAgain()
