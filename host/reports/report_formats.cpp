@@ -11,6 +11,19 @@
 
 namespace host {
 
+namespace {
+
+// A report of an older program is read as this one would have written it.
+QJsonObject upgraded(QJsonObject report)
+{
+    if (report.contains(QLatin1String("restoredVolumes")))
+        report.insert(QLatin1String("volumesPutBackByGuardian"), report.take(QLatin1String("restoredVolumes")));
+    report.insert(QLatin1String("formatVersion"), reportFormatVersion);
+    return report;
+}
+
+} // namespace
+
 std::optional<ReportFormat> reportFormatOf(const QString &file)
 {
     const QString suffix = QFileInfo(file).suffix().toLower();
@@ -33,8 +46,8 @@ std::variant<QJsonObject, ReportError> readReport(const QByteArray &bytes)
         return ReportError{
             QStringLiteral("it is no JSON: %1 at byte %2").arg(parsing.errorString(), QString::number(parsing.offset))};
     const int version = document.object().value(QLatin1String("formatVersion")).toInt();
-    if (version == reportFormatVersion)
-        return document.object();
+    if (version >= 1 && version <= reportFormatVersion)
+        return upgraded(document.object());
     return ReportError{version > reportFormatVersion ? QStringLiteral("its format is newer than this program")
                                                      : QStringLiteral("it is no report of a test")};
 }
