@@ -43,7 +43,7 @@ void HistoryTable::fillRow(int row, const RunRecord &record)
     const QStringList cells{QLocale(language_).toString(record.startedUtc.toLocalTime().time(), QLocale::LongFormat),
                             shownText(record.testNameKey),
                             record.device.name,
-                            record.microphone,
+                            record.microphone.isEmpty() ? QStringLiteral("\u2013") : record.microphone,
                             verdictText(record),
                             LanguageSetting::nativeName(record.language)};
     for (int column = 0; column < historyColumnCount; ++column)

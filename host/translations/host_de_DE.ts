@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Führt den gewählten Test auf dem gewählten Gerät aus (Strg+R).</translation>
+        <translation>Führt den gewählten Test auf dem gewählten Gerät aus (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Stoppt den laufenden Test. Strg+Umschalt+S bewirkt dasselbe, auch während ein Testfenster geöffnet ist.</translation>
+        <translation>Stoppt den laufenden Test. %1 bewirkt dasselbe, auch während ein Testfenster geöffnet ist.</translation>
     </message>
     <message>
         <source>STOPPING</source>

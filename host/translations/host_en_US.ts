@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Runs the chosen test on the chosen device (Ctrl+R).</translation>
+        <translation>Runs the chosen test on the chosen device (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Stops the running test. Ctrl+Shift+S does the same and also works while a test window is open.</translation>
+        <translation>Stops the running test. %1 does the same and also works while a test window is open.</translation>
     </message>
     <message>
         <source>STOPPING</source>

@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Ejecuta la prueba elegida en el dispositivo elegido (Ctrl+R).</translation>
+        <translation>Ejecuta la prueba elegida en el dispositivo elegido (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Detiene la prueba en curso. Ctrl+Mayús+S hace lo mismo y funciona también con una ventana de prueba abierta.</translation>
+        <translation>Detiene la prueba en curso. %1 hace lo mismo y funciona también con una ventana de prueba abierta.</translation>
     </message>
     <message>
         <source>STOPPING</source>

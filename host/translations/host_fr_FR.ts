@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Exécute le test choisi sur le périphérique choisi (Ctrl+R).</translation>
+        <translation>Exécute le test choisi sur le périphérique choisi (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Arrête le test en cours. Ctrl+Maj+S fait de même et fonctionne aussi lorsqu’une fenêtre de test est ouverte.</translation>
+        <translation>Arrête le test en cours. %1 fait de même et fonctionne aussi lorsqu’une fenêtre de test est ouverte.</translation>
     </message>
     <message>
         <source>STOPPING</source>

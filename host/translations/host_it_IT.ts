@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Esegue il test scelto sul dispositivo scelto (Ctrl+R).</translation>
+        <translation>Esegue il test scelto sul dispositivo scelto (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Interrompe il test in corso. Ctrl+Maiusc+S fa lo stesso e funziona anche con una finestra di test aperta.</translation>
+        <translation>Interrompe il test in corso. %1 fa lo stesso e funziona anche con una finestra di test aperta.</translation>
     </message>
     <message>
         <source>STOPPING</source>

@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>選択したデバイスで選択したテストを実行します (Ctrl+R)。</translation>
+        <translation>選択したデバイスで選択したテストを実行します (%1)。</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>実行中のテストを停止します。Ctrl+Shift+S でも停止でき、テストのウィンドウが開いているときにも使えます。</translation>
+        <translation>実行中のテストを停止します。%1 でも停止でき、テストのウィンドウが開いているときにも使えます。</translation>
     </message>
     <message>
         <source>STOPPING</source>

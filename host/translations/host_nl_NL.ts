@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Voert de gekozen test uit op het gekozen apparaat (Ctrl+R).</translation>
+        <translation>Voert de gekozen test uit op het gekozen apparaat (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Stopt de lopende test. Ctrl+Shift+S doet hetzelfde en werkt ook als er een testvenster open is.</translation>
+        <translation>Stopt de lopende test. %1 doet hetzelfde en werkt ook als er een testvenster open is.</translation>
     </message>
     <message>
         <source>STOPPING</source>

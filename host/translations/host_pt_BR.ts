@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Executa o teste escolhido no dispositivo escolhido (Ctrl+R).</translation>
+        <translation>Executa o teste escolhido no dispositivo escolhido (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Para o teste em execução. Ctrl+Shift+S faz o mesmo e também funciona com uma janela de teste aberta.</translation>
+        <translation>Para o teste em execução. %1 faz o mesmo e também funciona com uma janela de teste aberta.</translation>
     </message>
     <message>
         <source>STOPPING</source>

@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>在所选设备上运行所选测试 (Ctrl+R)。</translation>
+        <translation>在所选设备上运行所选测试 (%1)。</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>停止正在运行的测试。Ctrl+Shift+S 作用相同，测试窗口打开时也有效。</translation>
+        <translation>停止正在运行的测试。%1 作用相同，测试窗口打开时也有效。</translation>
     </message>
     <message>
         <source>STOPPING</source>

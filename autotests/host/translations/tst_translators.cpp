@@ -45,6 +45,8 @@ private slots:
     void switchesWhileTheProgramRuns();
     void takesEnglishForAnUnknownCode_data();
     void takesEnglishForAnUnknownCode();
+    void bringsTheToolkitsOwnTexts_data();
+    void bringsTheToolkitsOwnTexts();
     void doesNotPileUp();
     void reportsAMissingFile_data();
     void reportsAMissingFile();
@@ -114,6 +116,29 @@ void TestTranslators::takesEnglishForAnUnknownCode()
     QVERIFY(host::installTranslators(QStringLiteral("de_DE")));
     QVERIFY(host::installTranslators(code));
     QCOMPARE(cancelText(), QStringLiteral("Cancel"));
+}
+
+void TestTranslators::bringsTheToolkitsOwnTexts_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("cancel");
+    QTest::newRow("by language") << "de_DE"
+                                 << "Abbrechen";
+    QTest::newRow("by language and country") << "pt_BR"
+                                             << "Cancelar";
+    QTest::newRow("English") << "en_US"
+                             << "Cancel";
+}
+
+void TestTranslators::bringsTheToolkitsOwnTexts()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, cancel);
+    if (!host::hasToolkitTexts(code)) // as on Windows, where they lie beside the programs
+        QSKIP("Qt's own texts are not installed");
+    QVERIFY(host::installTranslators(QStringLiteral("fr_FR")));
+    QVERIFY(host::installTranslators(code));
+    QCOMPARE(translated("QPlatformTheme", "Cancel"), cancel);
 }
 
 void TestTranslators::doesNotPileUp()
