@@ -85,6 +85,14 @@ RunReason impliedReason(const RunRecord &record)
     }
 }
 
+// A note explains what was not completed, but after a failure it is a hint only.
+bool isUnexplained(const RunRecord &record)
+{
+    const bool hasError = std::any_of(record.messages.begin(), record.messages.end(),
+                                      [](const RunMessage &message) { return message.level == ostra::message_level::error; });
+    return record.messages.isEmpty() || (verdictOf(record) == Verdict::failed && !hasError);
+}
+
 } // namespace
 
 QString reasonWords(const char *key, const QStringList &arguments)
@@ -120,9 +128,11 @@ QList<RunReason> reasonsOf(const RunRecord &record)
     if (!record.reason.isEmpty())
         return {reasonOf(record.reason)};
     QList<RunReason> reasons;
+    if (isUnexplained(record))
+        reasons.append(impliedReason(record));
     for (const RunMessage &message : record.messages)
         reasons.append({message.text, {}, {}});
-    return reasons.isEmpty() ? QList{impliedReason(record)} : reasons;
+    return reasons;
 }
 
 } // namespace host

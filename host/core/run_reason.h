@@ -24,8 +24,8 @@ QString reasonWords(const char *key, const QStringList &arguments = {});
 /// The way back: what `words` say. Words of another program get a key that stands for any.
 RunReason reasonOf(const QString &words);
 
-/// All reasons of a run that is no pass: the host's own, else the module's messages, else what its verdict alone tells. None of
-/// a pass.
+/// All reasons of a run that is no pass: the host's own, else the module's messages, after what its verdict alone tells where they
+/// do not explain it. None of a pass.
 QList<RunReason> reasonsOf(const RunRecord &record);
 
 } // namespace host

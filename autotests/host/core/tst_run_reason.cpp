@@ -131,6 +131,13 @@ void TestRunReason::tellsWhyThereIsNoPass_data()
     RunRecord answered = recordWith(1);
     answered.testLetter = QStringLiteral("m");
     QTest::newRow("answered with no") << answered << QStringList{QStringLiteral("REASON_ANSWERED_NO")};
+    answered.messages = {{QStringLiteral("POSSIBLE_DEFECTIVE_COMPONENTS: MICROPHONE"), 0}};
+    QTest::newRow("answered with no, and a hint")
+        << answered
+        << QStringList{QStringLiteral("REASON_ANSWERED_NO"), QStringLiteral("POSSIBLE_DEFECTIVE_COMPONENTS: MICROPHONE")};
+    RunRecord event = recordWith(4);
+    event.messages = {{QStringLiteral("NO_INPUT_DEVICE"), 0}};
+    QTest::newRow("explained by a note") << event << QStringList{QStringLiteral("NO_INPUT_DEVICE")};
     RunRecord stopped = recordWith(0);
     stopped.wasStopped = true;
     QTest::newRow("stopped") << stopped << QStringList{QStringLiteral("REASON_STOPPED")};
