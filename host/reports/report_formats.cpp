@@ -7,6 +7,7 @@
 #include "host/reports/text_report.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace host {
@@ -18,6 +19,10 @@ QJsonObject upgraded(QJsonObject report)
 {
     if (report.contains(QLatin1String("restoredVolumes")))
         report.insert(QLatin1String("volumesPutBackByGuardian"), report.take(QLatin1String("restoredVolumes")));
+    report.insert(QLatin1String("microphone"),
+                  report.value(QLatin1String("recording"))[QLatin1String("microphone")].toString());
+    report.insert(QLatin1String("reasonKeys"), QJsonArray());
+    report.insert(QLatin1String("reasonTranslated"), report.value(QLatin1String("reason")).toString());
     report.insert(QLatin1String("formatVersion"), reportFormatVersion);
     return report;
 }
@@ -46,7 +51,9 @@ std::variant<QJsonObject, ReportError> readReport(const QByteArray &bytes)
         return ReportError{
             QStringLiteral("it is no JSON: %1 at byte %2").arg(parsing.errorString(), QString::number(parsing.offset))};
     const int version = document.object().value(QLatin1String("formatVersion")).toInt();
-    if (version >= 1 && version <= reportFormatVersion)
+    if (version == reportFormatVersion)
+        return document.object();
+    if (version == 1)
         return upgraded(document.object());
     return ReportError{version > reportFormatVersion ? QStringLiteral("its format is newer than this program")
                                                      : QStringLiteral("it is no report of a test")};

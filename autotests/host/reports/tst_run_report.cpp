@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/host/reports/json_schema.h"
 #include "autotests/host/reports/sample_record.h"
+#include "host/reports/report_formats.h"
 #include "host/reports/run_limits.h"
 #include "host/reports/run_report.h"
 
@@ -60,6 +61,7 @@ private slots:
     void namesTheFileThatItCannotWrite();
     void keepsToItsSchema_data();
     void keepsToItsSchema();
+    void bringsTheFirstVersionToItsSchema();
     void schemaRefusesWhatIsWrong_data();
     void schemaRefusesWhatIsWrong();
     void bringsKeysAndTranslations();
@@ -383,6 +385,21 @@ void TestRunReport::keepsToItsSchema()
     QFETCH(const RunRecord, record);
     const QStringList errors = schemaErrors(parsed(record), schema());
     QVERIFY2(errors.isEmpty(), qPrintable(errors.join(u'\n')));
+}
+
+void TestRunReport::bringsTheFirstVersionToItsSchema()
+{
+    QJsonObject old = parsed(microphoneRecord());
+    old.insert(QStringLiteral("restoredVolumes"), old.take(QStringLiteral("volumesPutBackByGuardian")));
+    old.insert(QStringLiteral("formatVersion"), 1);
+    for (const char *key : {"microphone", "reasonKeys", "reasonTranslated"})
+        old.remove(QLatin1String(key));
+    const auto read = host::readReport(QJsonDocument(old).toJson());
+    QVERIFY(std::holds_alternative<QJsonObject>(read));
+    const auto &report = std::get<QJsonObject>(read);
+    QCOMPARE(schemaErrors(report, schema()), QStringList());
+    QCOMPARE(report.value(QLatin1String("microphone")).toString(), QStringLiteral("Mic <1>"));
+    QCOMPARE(report.value(QLatin1String("volumesPutBackByGuardian")).toArray(), QJsonArray{QStringLiteral("Speakers")});
 }
 
 void TestRunReport::schemaRefusesWhatIsWrong_data()
