@@ -15,7 +15,12 @@ namespace {
 
 using Result = std::variant<CommandLine, UsageError>;
 
-UsageError error(const QString &reason) { return {reason + QStringLiteral(" (try --help)")}; }
+/// \param command whose help tells more; null for that of the program
+UsageError error(const QString &reason, const CommandRow *command = nullptr)
+{
+    const QString topic = command == nullptr ? QString() : QLatin1String(command->name) + QStringLiteral(" ");
+    return {reason + QStringLiteral(" (try %1--help)").arg(topic)};
+}
 
 QString nameOf(const OptionRow &option) { return QLatin1String(option.name); }
 
@@ -42,12 +47,13 @@ QString optionText(const QString &name, const QStringList &arguments)
 UsageError parserError(const QCommandLineParser &parser, const QStringList &arguments)
 {
     const QStringList unknown = parser.unknownOptionNames();
+    const CommandRow *command = findCommand(parser.positionalArguments().value(0));
     if (!unknown.isEmpty())
-        return error(QStringLiteral("unknown option '%1'").arg(optionText(unknown.first(), arguments)));
+        return error(QStringLiteral("unknown option '%1'").arg(optionText(unknown.first(), arguments)), command);
     QString reason = parser.errorText();
     if (reason.endsWith(u'.'))
         reason.chop(1);
-    return error(reason.replace(0, 1, reason.first(1).toLower()));
+    return error(reason.replace(0, 1, reason.first(1).toLower()), command);
 }
 
 Command commandNamed(const QString &name)
@@ -60,6 +66,30 @@ Command commandNamed(const QString &name)
     const auto found =
         std::find_if(names.begin(), names.end(), [&name](const auto &entry) { return name == QLatin1String(entry.first); });
     return found == names.end() ? Command::none : found->second;
+}
+
+// What an option may be, whatever it goes with.
+std::optional<UsageError> checkWords(const OptionRow &option, const QStringList &values, const CommandRow *command)
+{
+    const QStringList known = wordsOf(option.words);
+    for (const QString &value : values) {
+        if (!known.isEmpty() && !known.contains(value))
+            return error(QStringLiteral("'--%1' does not know '%2' (known: %3)")
+                             .arg(nameOf(option), value, known.join(QStringLiteral(", "))),
+                         command);
+    }
+    return std::nullopt;
+}
+
+std::optional<UsageError> checkAllWords(const QCommandLineParser &parser)
+{
+    for (const OptionRow &option : optionRows()) {
+        if (option.value == nullptr)
+            continue;
+        if (const auto wrong = checkWords(option, parser.values(nameOf(option)), nullptr))
+            return wrong;
+    }
+    return std::nullopt;
 }
 
 // One of the options that answer at once, by their own order and not by that of the arguments.
@@ -85,27 +115,22 @@ std::optional<UsageError> checkArguments(const CommandRow &command, const QStrin
 {
     const qsizetype count = command.arguments == nullptr ? 1 : 2;
     if (words.size() > count)
-        return error(QStringLiteral("unexpected argument '%1'").arg(words.at(count)));
+        return error(QStringLiteral("unexpected argument '%1'").arg(words.at(count)), &command);
     if (words.size() < count)
         return error(
-            QStringLiteral("'%1' needs its argument: %2").arg(QLatin1String(command.name), QLatin1String(command.arguments)));
+            QStringLiteral("'%1' needs its argument: %2").arg(QLatin1String(command.name), QLatin1String(command.arguments)),
+            &command);
     const QStringList known = wordsOf(command.words);
     if (!known.isEmpty() && !known.contains(words.at(1)))
-        return error(QStringLiteral("'%1' does not know '%2'").arg(QLatin1String(command.name), words.at(1)));
+        return error(QStringLiteral("'%1' does not know '%2'").arg(QLatin1String(command.name), words.at(1)), &command);
     return std::nullopt;
 }
 
 std::optional<UsageError> checkOption(const CommandRow &command, const OptionRow &option, const QStringList &values)
 {
     if (!takesOption(command, option))
-        return error(QStringLiteral("'--%1' does not go with '%2'").arg(nameOf(option), QLatin1String(command.name)));
-    const QStringList known = wordsOf(option.words);
-    for (const QString &value : values) {
-        if (!known.isEmpty() && !known.contains(value))
-            return error(QStringLiteral("'--%1' does not know '%2' (known: %3)")
-                             .arg(nameOf(option), value, known.join(QStringLiteral(", "))));
-    }
-    return std::nullopt;
+        return error(QStringLiteral("'--%1' does not go with '%2'").arg(nameOf(option), QLatin1String(command.name)), &command);
+    return checkWords(option, values, &command);
 }
 
 Result readOptions(const QCommandLineParser &parser, const CommandRow &command, CommandLine line)
@@ -153,9 +178,14 @@ Result parseCommandLine(const QStringList &arguments)
     addOptions(parser);
     if (!parser.parse(arguments))
         return parserError(parser, arguments);
-    if (const auto answer = answerAtOnce(parser))
-        return *answer;
-    return readCommand(parser);
+    const auto answer = answerAtOnce(parser);
+    if (!answer)
+        return readCommand(parser);
+    if (answer->command != Command::help) { // a person who asks for help needs it
+        if (const auto wrong = checkAllWords(parser))
+            return *wrong;
+    }
+    return *answer;
 }
 
 } // namespace host

@@ -7,6 +7,7 @@
 #include "host/cli/text_table.h"
 #include "host/core/device_list.h"
 #include "host/core/module_library.h"
+#include "host/precheck/capture_devices.h"
 #include "host/precheck/virtual_devices.h"
 
 #include <QJsonArray>
@@ -52,32 +53,59 @@ QJsonObject jsonDevice(qsizetype number, const Device &device, bool isVirtual)
             {QLatin1String("properties"), jsonProperties(device)}};
 }
 
-void printDocument(const ModuleLibrary &library, const QList<Device> &devices, Console &console)
+QJsonArray jsonInputs(const QList<CaptureDevice> &inputs)
+{
+    QJsonArray list;
+    for (const CaptureDevice &input : inputs)
+        list.append(QJsonObject{
+            {QLatin1String("name"), input.name}, {QLatin1String("id"), input.id}, {QLatin1String("virtual"), input.isVirtual}});
+    return list;
+}
+
+void printDocument(const ModuleLibrary &library, const QList<Device> &devices, const QList<CaptureDevice> &inputs,
+                   Console &console)
 {
     const VirtualDevices virtualDevices = readVirtualDevices();
     QJsonArray list;
     for (qsizetype number = 0; number < devices.size(); ++number)
         list.append(jsonDevice(number, devices[number], virtualDevices.contains(devices[number].name)));
-    printJson(console, {{QLatin1String("productVersion"), library.productVersion()}, {QLatin1String("devices"), list}});
+    printJson(console, {{QLatin1String("productVersion"), library.productVersion()},
+                        {QLatin1String("devices"), list},
+                        {QLatin1String("inputs"), jsonInputs(inputs)}});
 }
+
+QString yesOrNo(bool isYes) { return isYes ? QStringLiteral("yes") : QStringLiteral("no"); }
 
 QStringList tableRow(qsizetype number, const Device &device, bool isVirtual)
 {
-    QStringList row{QString::number(number), device.name};
+    QStringList row{QString::number(number), QStringLiteral("output"), device.name};
     for (const char *key : {numberOfChannels, sampleRate, driverName, driverVersion})
         row.append(device.property(key).value_or(QString()));
-    row.append(isVirtual ? QStringLiteral("yes") : QStringLiteral("no"));
+    row.append(yesOrNo(isVirtual));
     return row;
 }
 
-void printTable(const QList<Device> &devices, Console &console)
+// Without a number: no test is run on an input, and `--microphone` takes the name.
+QStringList tableRow(const CaptureDevice &input)
+{
+    return {{}, QStringLiteral("input"), input.name, {}, {}, {}, {}, yesOrNo(input.isVirtual)};
+}
+
+void printTable(const QList<Device> &devices, const QList<CaptureDevice> &inputs, Console &console)
 {
     const VirtualDevices virtualDevices = readVirtualDevices();
     QList<QStringList> rows;
     for (qsizetype number = 0; number < devices.size(); ++number)
         rows.append(tableRow(number, devices[number], virtualDevices.contains(devices[number].name)));
-    const QStringList header{QStringLiteral("No"),          QStringLiteral("Device"), QStringLiteral("Channels"),
-                             QStringLiteral("Sample rate"), QStringLiteral("Driver"), QStringLiteral("Driver version"),
+    for (const CaptureDevice &input : inputs)
+        rows.append(tableRow(input));
+    const QStringList header{QStringLiteral("No"),
+                             QStringLiteral("Direction"),
+                             QStringLiteral("Device"),
+                             QStringLiteral("Channels"),
+                             QStringLiteral("Sample rate"),
+                             QStringLiteral("Driver"),
+                             QStringLiteral("Driver version"),
                              QStringLiteral("Virtual")};
     console.print(textTable(header, rows, console.isStyled() ? TableStyle::boldHeader : TableStyle::plain));
 }
@@ -90,10 +118,11 @@ ExitCode runList(const ModuleLibrary &library, bool isJson, Console &console)
     console.tellProgress(QStringLiteral("Reading devices…"));
     ostra::SystemComponentManager *manager = library.module()->componentManager();
     const bool isComplete = manager == nullptr || list.refresh(*manager);
+    const QList<CaptureDevice> inputs = readCaptureDevices();
     if (isJson)
-        printDocument(library, list.devices(), console);
-    else if (!list.devices().isEmpty())
-        printTable(list.devices(), console);
+        printDocument(library, list.devices(), inputs, console);
+    else if (!list.devices().isEmpty() || !inputs.isEmpty())
+        printTable(list.devices(), inputs, console);
     if (!isComplete) {
         console.complain(QStringLiteral("the list of devices is not complete: out of memory"));
         return ExitCode::notCompleted;

@@ -8,8 +8,8 @@ namespace host {
 class Console;
 class ModuleLibrary;
 
-/// Prints the machine's audio output devices as a table or as a JSON document. `library` is open. A machine without a device
-/// is no error: an empty list and a note on standard error.
+/// Prints the machine's audio output devices and its inputs as a table or as a JSON document. `library` is open. A machine
+/// without an output is no error: an empty list and a note on standard error.
 ExitCode runList(const ModuleLibrary &library, bool isJson, Console &console);
 
 } // namespace host

@@ -60,8 +60,10 @@ constexpr std::array<OptionRow, 22> options{{
 
 constexpr std::array<CommandRow, 5> commands{{
     {"list", nullptr, Completion::none, nullptr,
-     "Lists the output devices: number, name, channels and sample rate of the opening format (that of the spoken-digit clips, "
-     "22050 without them), driver, driver version, and whether the device is a virtual one.",
+     "Lists the outputs and the inputs: number (of an output), direction, name, channels and sample rate of the opening format "
+     "(that of the spoken-digit clips, "
+     "22050 without them), driver, driver version, and whether the device is a virtual one; of an input its name only, as "
+     "--microphone takes it.",
      "list\nlist --json --config /etc/diagnostics"},
     {"info", nullptr, Completion::none, nullptr, "Tells the product's version, the diagnostics and their tests.",
      "info --json\ninfo --self-check"},

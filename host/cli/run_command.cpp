@@ -3,15 +3,19 @@
 
 #include "host/cli/console.h"
 #include "host/cli/interrupt.h"
+#include "host/cli/refused_run.h"
 #include "host/cli/run_plan.h"
+#include "host/core/catalogue.h"
 #include "host/core/device_list.h"
 #include "host/core/module_library.h"
+#include "host/core/run_reason.h"
 #include "host/precheck/virtual_devices.h"
 #include "host/reports/run_report.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -31,8 +35,26 @@ ExitCode refuse(Console &console, const QString &message, ExitCode code = ExitCo
     return code;
 }
 
-// Names of the devices that the user means. The module is gone again before the host opens it.
-ExitCode findDevices(const QStringList &wanted, QStringList &names, Console &console)
+/// What the runs are about, copied: the module is gone again before the graphical host opens it.
+struct Subjects {
+    QList<Device> devices;             ///< in the order in which the user named them
+    QHash<QString, QString> testNames; ///< key of the name by the test's letter
+    VirtualDevices refused;
+};
+
+void noteTests(const ModuleLibrary &library, Subjects &subjects)
+{
+    const Catalogue catalogue = readCatalogue(*library.module());
+    for (const CatalogueDiagnostic &diagnostic : catalogue) {
+        for (const CatalogueTest &test : diagnostic.tests) {
+            if (!test.names.commandLineNames.empty())
+                subjects.testNames.insert(QString::fromStdString(test.names.commandLineNames.front()),
+                                          QString::fromStdString(test.names.nameKey));
+        }
+    }
+}
+
+ExitCode findSubjects(const CommandLine &line, Subjects &subjects, Console &console)
 {
     ModuleLibrary library;
     if (!library.open())
@@ -41,27 +63,26 @@ ExitCode findDevices(const QStringList &wanted, QStringList &names, Console &con
     console.tellProgress(QStringLiteral("Reading devices…"));
     if (ostra::SystemComponentManager *manager = library.module()->componentManager())
         list.refresh(*manager);
+    const QStringList wanted = line.all("device");
     for (const QString &device : wanted) {
         const qsizetype position = list.find(device);
         if (position < 0)
             return refuse(console, QStringLiteral("unknown device '%1' (list shows them)").arg(device));
-        names.append(list.devices()[position].name);
+        subjects.devices.append(list.devices()[position]);
     }
+    noteTests(library, subjects);
+    if (!line.isSet("allow-virtual"))
+        subjects.refused = readVirtualDevices();
     return ExitCode::success;
 }
 
-ExitCode checkDevices(const CommandLine &line, const QStringList &names, Console &console)
+void tellOfVirtualDevices(const Subjects &subjects, Console &console)
 {
-    const VirtualDevices devices = line.isSet("allow-virtual") ? VirtualDevices() : readVirtualDevices();
-    for (const QString &name : names) {
-        if (devices.contains(name))
-            return refuse(console,
-                          QStringLiteral("'%1' is a virtual device: a verdict on it says nothing about this machine "
-                                         "(--allow-virtual tests it nevertheless)")
-                              .arg(name),
-                          ExitCode::cannotBePerformed);
+    for (const Device &device : subjects.devices) {
+        if (subjects.refused.contains(device.name))
+            console.complain(reasonWords("REASON_VIRTUAL_DEVICE", {device.name}) +
+                             QStringLiteral(" (--allow-virtual tests it nevertheless)"));
     }
-    return ExitCode::success;
 }
 
 std::optional<ExitCode> interruption()
@@ -115,8 +136,13 @@ bool writeLanguage(const QString &folder, const QString &code)
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
 }
 
-ExitCode performOne(const CommandLine &line, const PlannedRun &run, Console &console)
+ExitCode performOne(const CommandLine &line, const Subjects &subjects, const PlannedRun &run, Console &console)
 {
+    if (subjects.refused.contains(run.device)) {
+        reportRefusal(line, run, subjects.devices[run.deviceNumber - 1], subjects.testNames.value(run.test),
+                      reasonWords("REASON_VIRTUAL_DEVICE", {run.device}), console);
+        return ExitCode::cannotBePerformed;
+    }
     if (run.language.isEmpty())
         return perform(argumentsOf(line, run, line.last("config")), console);
     const QTemporaryDir folder;
@@ -134,12 +160,12 @@ void printOutcome(const PlannedRun &run, ExitCode code, Console &console)
                            resultName(static_cast<std::uint32_t>(code))));
 }
 
-ExitCode performAll(const CommandLine &line, const QList<PlannedRun> &runs, Console &console)
+ExitCode performAll(const CommandLine &line, const Subjects &subjects, const QList<PlannedRun> &runs, Console &console)
 {
     ExitCode worst = ExitCode::success;
     QList<ExitCode> codes;
     for (const PlannedRun &run : runs) {
-        const ExitCode code = performOne(line, run, console);
+        const ExitCode code = performOne(line, subjects, run, console);
         worst = worseOf(worst, code);
         codes.append(code);
         if (interruption() || code == ExitCode::usage)
@@ -156,13 +182,15 @@ ExitCode runTests(const CommandLine &line, Console &console)
 {
     if (const auto wrong = checkRun(line))
         return refuse(console, wrong->message);
+    Subjects subjects;
+    if (const ExitCode code = findSubjects(line, subjects, console); code != ExitCode::success)
+        return code;
+    tellOfVirtualDevices(subjects, console);
     QStringList devices;
-    if (const ExitCode code = findDevices(line.all("device"), devices, console); code != ExitCode::success)
-        return code;
-    if (const ExitCode code = checkDevices(line, devices, console); code != ExitCode::success)
-        return code;
+    for (const Device &device : subjects.devices)
+        devices.append(device.name);
     catchSignals();
-    return performAll(line, planRuns(line, devices), console);
+    return performAll(line, subjects, planRuns(line, devices), console);
 }
 
 } // namespace host

@@ -2,6 +2,7 @@
 #include "host/cli/run_plan.h"
 
 #include "host/reports/report_formats.h"
+#include "host/reports/writable_folder.h"
 #include "host/translations/translators.h"
 
 #include <QDir>
@@ -28,23 +29,23 @@ QString numbered(const QString &file, const PlannedRun &run)
     return run.number > 0 ? numberedReport(file, run.number) : file;
 }
 
-QStringList reportsOf(const CommandLine &line, const PlannedRun &run)
-{
-    QStringList files;
-    for (const QString &file : line.all("report"))
-        files.append(numbered(file, run));
-    if (!line.isSet("reports"))
-        return files;
-    const QString name = QDir(line.last("reports")).filePath(reportNameOf(run));
-    for (const char *suffix : {"json", "xml", "html"})
-        files.append(name + u'.' + QLatin1String(suffix));
-    return files;
-}
-
 bool isPlain(QChar letter)
 {
     const ushort code = letter.unicode();
     return (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z') || (code >= '0' && code <= '9') || code == '-';
+}
+
+std::optional<UsageError> checkFolders(const CommandLine &line)
+{
+    const QString reports = line.last("reports");
+    if (line.isSet("reports") && !QFileInfo(reports).isDir())
+        return UsageError{QStringLiteral("'%1' is no folder (--reports)").arg(reports)};
+    if (line.isSet("reports") && !canWriteInto(reports))
+        return UsageError{QStringLiteral("nothing can be written into '%1' (--reports)").arg(reports)};
+    const QString pictures = line.last("screenshots");
+    if (line.isSet("screenshots") && !canMakeAndWriteInto(pictures))
+        return UsageError{QStringLiteral("nothing can be written into '%1' (--screenshots)").arg(pictures)};
+    return std::nullopt;
 }
 
 std::optional<UsageError> checkFiles(const CommandLine &line)
@@ -52,13 +53,15 @@ std::optional<UsageError> checkFiles(const CommandLine &line)
     for (const QString &file : line.all("report")) {
         if (!reportFormatOf(file))
             return UsageError{QStringLiteral("the report '%1' cannot be written: %2").arg(file, reportSuffixes())};
+        if (!canWriteBeside(file))
+            return UsageError{QStringLiteral("the report '%1' cannot be written: its folder is missing or closed").arg(file)};
     }
     const QString sound = line.last("keep-audio");
     if (line.isSet("keep-audio") && !sound.endsWith(QStringLiteral(".wav"), Qt::CaseInsensitive))
         return UsageError{QStringLiteral("the sound '%1' cannot be kept: its name must end in .wav").arg(sound)};
-    if (line.isSet("reports") && !QFileInfo(line.last("reports")).isDir())
-        return UsageError{QStringLiteral("'%1' is no folder (--reports)").arg(line.last("reports"))};
-    return std::nullopt;
+    if (line.isSet("keep-audio") && !canWriteBeside(sound))
+        return UsageError{QStringLiteral("the sound '%1' cannot be kept: its folder is missing or closed").arg(sound)};
+    return checkFolders(line);
 }
 
 } // namespace
@@ -96,11 +99,28 @@ std::optional<UsageError> checkRun(const CommandLine &line)
     return checkFiles(line);
 }
 
+QString sourceOf(const CommandLine &line, const PlannedRun &run)
+{
+    return line.isSet("listen") ? line.last("listen") : QStringLiteral("Monitor of ") + run.device;
+}
+
+QStringList reportsOf(const CommandLine &line, const PlannedRun &run)
+{
+    QStringList files;
+    for (const QString &file : line.all("report"))
+        files.append(numbered(file, run));
+    if (!line.isSet("reports"))
+        return files;
+    const QString name = QDir(line.last("reports")).filePath(reportNameOf(run));
+    for (const char *suffix : {"json", "xml", "html"})
+        files.append(name + u'.' + QLatin1String(suffix));
+    return files;
+}
+
 QStringList argumentsOf(const CommandLine &line, const PlannedRun &run, const QString &configFolder)
 {
-    const QString source = line.isSet("listen") ? line.last("listen") : QStringLiteral("Monitor of ") + run.device;
     QStringList arguments{QStringLiteral("--unattended"), QStringLiteral("--test=") + run.test,
-                          QStringLiteral("--device=") + run.device, QStringLiteral("--listen=") + source};
+                          QStringLiteral("--device=") + run.device, QStringLiteral("--listen=") + sourceOf(line, run)};
     const auto add = [&arguments](const char *option, const QString &value) {
         arguments.append(QStringLiteral("--%1=%2").arg(QLatin1String(option), value));
     };

@@ -29,6 +29,11 @@ std::optional<UsageError> checkRun(const CommandLine &line);
 /// The graphical host's arguments. `configFolder` holds the run's language; empty for the user's own.
 QStringList argumentsOf(const CommandLine &line, const PlannedRun &run, const QString &configFolder);
 
+/// The capture source that hears the run's device.
+QString sourceOf(const CommandLine &line, const PlannedRun &run);
+/// Every report that the line wants of that run.
+QStringList reportsOf(const CommandLine &line, const PlannedRun &run);
+
 /// Name of the run's reports without their suffix, such as "1-Speakers-p-en_US": letters, digits, "-" and "_" only.
 QString reportNameOf(const PlannedRun &run);
 

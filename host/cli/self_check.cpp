@@ -3,14 +3,18 @@
 
 #include "host/cli/console.h"
 #include "host/cli/json_output.h"
+#include "host/cli/terminal.h"
 #include "host/core/module_library.h"
 #include "host/precheck/clip_check.h"
 #include "host/translations/translators.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QProcessEnvironment>
 
 #include <algorithm>
 
@@ -26,20 +30,38 @@ bool hasProgram(const char *name)
     return QFileInfo(path).isExecutable() || QFileInfo(path + QStringLiteral(".exe")).isExecutable();
 }
 
-void addPictures(QList<SelfCheck> &checks)
+constexpr int windowsLimitMs = 60'000;
+
+QList<SelfCheck> checksIn(const QByteArray &line)
 {
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    const std::pair<const char *, const char *> needed[] = {{"png", "the dialogs have no pictures"},
-                                                            {"gif", "nothing moves while a sound plays"},
-                                                            {"svg", "high-contrast icons keep their own colours"}};
-    for (const auto &[format, lacking] : needed)
-        checks.append({QStringLiteral("pictures: ") + QLatin1String(format), formats.contains(format), QLatin1String(lacking)});
+    QList<SelfCheck> checks;
+    const QJsonArray list = QJsonDocument::fromJson(line).array();
+    for (const QJsonValue check : list)
+        checks.append({check[QLatin1String("name")].toString(), check[QLatin1String("ok")].toBool(),
+                       check[QLatin1String("lacking")].toString()});
+    return checks;
+}
+
+// Only a program with windows knows of fonts and plug-ins. It shows none: what can be shown without a display is told without.
+void addWindows(QList<SelfCheck> &checks)
+{
+    QProcess host;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!environment.contains(QStringLiteral("QT_QPA_PLATFORM")) && !platformWithoutDisplay().isEmpty())
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platformWithoutDisplay());
+    host.setProcessEnvironment(environment);
+    host.start(beside("TamrexDiagnostics"), {QStringLiteral("--self-check")});
+    host.waitForFinished(windowsLimitMs);
+    const QList<SelfCheck> found = checksIn(host.readAllStandardOutput());
+    checks.append({QStringLiteral("windows"), !found.isEmpty(), QStringLiteral("the graphical host does not start")});
+    checks.append(found);
 }
 
 void addPrograms(QList<SelfCheck> &checks)
 {
     const std::pair<const char *, const char *> needed[] = {{"TamrexDiagnostics", "no test can be run"},
                                                             {"audio_listener", "no test can be run with nobody there"},
+                                                            {"audio_speaker", "no microphone can be tested with nobody there"},
                                                             {"volume_guardian", "volumes are not put back after a crash"}};
     for (const auto &[name, lacking] : needed)
         checks.append({QStringLiteral("program: ") + QLatin1String(name), hasProgram(name), QLatin1String(lacking)});
@@ -49,7 +71,9 @@ void addClips(QList<SelfCheck> &checks)
 {
     for (const QLatin1StringView language : translationCodes)
         checks.append({QStringLiteral("clips: ") + language, checkClips(beside("audio_files"), {language}).isIntact(),
-                       QStringLiteral("unattended tests in that language are refused")});
+                       QStringLiteral("tests in that language are refused")});
+    checks.append({QStringLiteral("clips: sentence"), QFileInfo::exists(beside("audio_files/operator/sentence_en_US.wav")),
+                   QStringLiteral("no microphone can be tested with nobody there")});
 }
 
 void print(const QList<SelfCheck> &checks, Console &console)
@@ -78,7 +102,7 @@ QList<SelfCheck> checkInstallation()
     ModuleLibrary library;
     checks.append({QStringLiteral("module"), library.load(), library.errorText()});
     addPrograms(checks);
-    addPictures(checks);
+    addWindows(checks);
     addClips(checks);
     return checks;
 }

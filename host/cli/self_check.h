@@ -17,8 +17,8 @@ struct SelfCheck {
     QString lacking; ///< what does not work without it
 };
 
-/// Looks for the formats of the dialogs' pictures, for the programs and libraries that belong beside this one, and for the
-/// clips. Needs the application object.
+/// Looks for the programs and libraries that belong beside this one and for the clips, and asks the graphical host what its
+/// windows lack: pictures, texts, fonts. Needs the application object; 60 s at most.
 QList<SelfCheck> checkInstallation();
 
 /// Prints them, as text or as a JSON document, and returns 3 when something is lacking.

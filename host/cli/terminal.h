@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QString>
+
 #include <memory>
 
 namespace host {
@@ -23,5 +25,8 @@ private:
     struct State;
     std::unique_ptr<State> state_;
 };
+
+/// Name of the toolkit's platform that needs no display; empty where every session has one.
+QString platformWithoutDisplay();
 
 } // namespace host

@@ -31,4 +31,6 @@ bool Terminal::outputUnderstandsStyles() const { return state_->hasStyles; }
 
 bool Terminal::errorIsWatched() const { return state_->errorIsTerminal; }
 
+QString platformWithoutDisplay() { return QStringLiteral("offscreen"); }
+
 } // namespace host

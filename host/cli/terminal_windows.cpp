@@ -53,4 +53,6 @@ bool Terminal::outputUnderstandsStyles() const { return state_->hasStyles; }
 
 bool Terminal::errorIsWatched() const { return state_->errorIsConsole; }
 
+QString platformWithoutDisplay() { return {}; }
+
 } // namespace host

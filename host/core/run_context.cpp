@@ -4,6 +4,7 @@
 #include "contract/input_request.h"
 #include "contract/result_codes.h"
 #include "host/core/prompter.h"
+#include "host/core/run_reason.h"
 
 #include <QMetaObject>
 #include <QMutexLocker>
@@ -48,7 +49,7 @@ void RunContext::complete(std::uint32_t moduleCode, RunRecord &record) const
     record.wasStopped = isStopped();
     record.code = record.wasStopped ? ostra::result::notCompleted : moduleCode;
     if (record.wasStopped)
-        record.reason = QStringLiteral("the run was stopped");
+        record.reason = reasonWords("REASON_STOPPED");
 }
 
 void RunContext::addMessage(std::string text, std::uint32_t level, std::uint32_t /*reserved*/)

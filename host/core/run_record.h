@@ -66,14 +66,17 @@ struct RunRecord {
     QString testLetter;  ///< "p" or "m"
     QString testNameKey; ///< such as "AUDIO_PLAYBACK_TEST"
     Device device;
-    QString language; ///< code such as "en_US"
+    QString microphone; ///< of the microphone test, as its dialog names it; empty where none was chosen or asked for
+    QString language;   ///< code such as "en_US"
     QDateTime startedUtc;
     QDateTime endedUtc;
     bool wasModuleCalled = true;  ///< false: the host had to refuse, and `moduleCode` says nothing
     std::uint32_t moduleCode = 4; ///< what the module returned
     std::uint32_t code = 4;       ///< the verdict: 4 when the run was stopped, else `moduleCode`
     bool wasStopped = false;
-    QString reason; ///< why there is no verdict of the module's own, in words for a report; empty otherwise
+    /// Why there is no verdict of the module's own, in the host's own English words (`reasonWords`) or those of one of its
+    /// programs; empty otherwise.
+    QString reason;
     QList<RunProgress> progress;
     QList<RunMessage> messages;
     bool isUnattended = false;

@@ -5,6 +5,7 @@
 #include "host/gui/key_text.h"
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 #include <QTextDocument>
 
 #include <array>
@@ -43,14 +44,16 @@ DeviceTable::DeviceTable(QWidget *parent) : QTableWidget(0, 1 + static_cast<int>
 void DeviceTable::setDevices(const QList<Device> &devices)
 {
     const int before = chosen();
-    const QString name = devices_.value(before).name;
+    if (before >= 0)
+        wanted_ = devices_[before].name;
+    const QSignalBlocker quiet(this); // whoever shows the list looks at what is chosen once it is there
     devices_ = devices;
     setRowCount(static_cast<int>(devices.size()));
     for (int row = 0; row < rowCount(); ++row)
         fillRow(row, devices[row]);
     clearSelection();
     setCurrentCell(-1, -1);
-    choose(before < 0 ? 0 : rowOf(name, before));
+    choose(wanted_.isEmpty() ? 0 : rowOf(wanted_, before));
 }
 
 void DeviceTable::fillRow(int row, const Device &device)

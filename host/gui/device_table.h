@@ -7,7 +7,8 @@
 
 namespace host {
 
-/// The devices with their properties, one a row. The chosen one stays chosen over a new list, by its name.
+/// The devices with their properties, one a row. The chosen one stays chosen over a new list, by its name;
+/// where it is gone none is, until it is back or the person chooses another.
 class DeviceTable : public QTableWidget {
     Q_OBJECT
 
@@ -27,6 +28,7 @@ private:
     int rowOf(const QString &name, int preferred) const;
 
     QList<Device> devices_;
+    QString wanted_; ///< chosen last; a device that was gone for a while is it again
 };
 
 } // namespace host

@@ -12,7 +12,7 @@ namespace host {
 
 namespace {
 
-constexpr int historyColumnCount = 5;
+constexpr int historyColumnCount = 6;
 
 } // namespace
 
@@ -40,17 +40,21 @@ void HistoryTable::add(const RunRecord &record)
 
 void HistoryTable::fillRow(int row, const RunRecord &record)
 {
-    const QStringList cells{QLocale(record.language).toString(record.startedUtc.toLocalTime().time(), QLocale::LongFormat),
-                            shownText(record.testNameKey), record.device.name, verdictText(record),
+    const QStringList cells{QLocale(language_).toString(record.startedUtc.toLocalTime().time(), QLocale::LongFormat),
+                            shownText(record.testNameKey),
+                            record.device.name,
+                            record.microphone.isEmpty() ? QStringLiteral("\u2013") : record.microphone,
+                            verdictText(record),
                             LanguageSetting::nativeName(record.language)};
     for (int column = 0; column < historyColumnCount; ++column)
         setItem(row, column, new QTableWidgetItem(cells[column]));
 }
 
-void HistoryTable::retranslate()
+void HistoryTable::retranslate(const QString &language)
 {
-    setHorizontalHeaderLabels(
-        {hostText("TIME"), hostText("TEST"), hostText("DEVICE"), hostText("RESULT"), hostText("LANGUAGE")});
+    language_ = language;
+    setHorizontalHeaderLabels({hostText("TIME"), hostText("TEST"), hostText("DEVICE"), shownText(QStringLiteral("MICROPHONE")),
+                               hostText("RESULT"), hostText("LANGUAGE")});
     setAccessibleName(hostText("HISTORY"));
     for (int row = 0; row < rowCount(); ++row)
         fillRow(row, records_[row]);

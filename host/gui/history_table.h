@@ -15,12 +15,14 @@ public:
     explicit HistoryTable(QWidget *parent = nullptr);
 
     void add(const RunRecord &record);
-    void retranslate();
+    /// \param language code, by whose rules times are written
+    void retranslate(const QString &language);
 
 private:
     void fillRow(int row, const RunRecord &record);
 
     QList<RunRecord> records_; // as shown
+    QString language_;
 };
 
 } // namespace host

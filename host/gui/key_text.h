@@ -17,4 +17,7 @@ QString shownText(const QString &keyOrComposite);
 /// The same, one sentence ("|") each; no empty ones.
 QStringList shownSentences(const QString &keyOrComposite);
 
+/// Why a run has no verdict of the module's own, from the words that its record has for it.
+QString shownReason(const QString &words);
+
 } // namespace host

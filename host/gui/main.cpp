@@ -2,6 +2,7 @@
 #include "host/core/sound_environment.h"
 #include "host/gui/console_output.h"
 #include "host/gui/program.h"
+#include "host/gui/window_check.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -34,6 +35,10 @@ int main(int argc, char *argv[])
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0"); // the module's dialogs scale themselves
     host::keepInterruptSignals();
     const QApplication application(argc, argv);
+    if (options.isSelfCheck) {
+        host::print(QString::fromUtf8(host::windowCheckLine(host::checkWindows())));
+        return 0;
+    }
     QCoreApplication::setOrganizationName(QStringLiteral("Tamrex"));
     QCoreApplication::setApplicationName(QStringLiteral("TamrexDiagnostics"));
     QCoreApplication::setApplicationVersion(QStringLiteral(HOST_VERSION));

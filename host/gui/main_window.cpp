@@ -2,6 +2,8 @@
 #include "host/gui/main_window.h"
 
 #include "contract/result_codes.h"
+#include "host/core/run_reason.h"
+#include "host/guardian/guardian_client.h"
 #include "host/gui/device_table.h"
 #include "host/gui/event_menu.h"
 #include "host/gui/history_table.h"
@@ -156,7 +158,7 @@ void MainWindow::connectSession()
     // Later: a run from within the click would keep the button's own event open until it ends.
     connect(tests_, &RunPanel::runPressed, this, &MainWindow::runChosen, Qt::QueuedConnection);
     connect(tests_, &RunPanel::stopPressed, this, &MainWindow::stopPressed);
-    connect(devices_, &QTableWidget::itemSelectionChanged, this, [this] { tests_->setCanRun(devices_->chosen() >= 0); });
+    connect(devices_, &QTableWidget::itemSelectionChanged, this, &MainWindow::enableRun);
     connect(&session_, &TestSession::devicesAboutToBeRead, this, [this] {
         devicesText_->setText(hostText("READING_DEVICES"));
         devicesText_->repaint(); // the event loop stands still until they are read
@@ -212,7 +214,7 @@ void MainWindow::changeLanguage(const QString &code)
 
 void MainWindow::runChosen()
 {
-    if (mayRun())
+    if (mayRun() && isWarnedOfLoudness())
         session_.run(tests_->chosen(), devices_->chosen(), language_.code());
 }
 
@@ -220,26 +222,40 @@ void MainWindow::runChosen()
 bool MainWindow::mayRun()
 {
     const int test = tests_->chosen();
-    const int device = static_cast<int>(devices_->chosen());
-    if (!precheck_ || session_.isRunning() || test < 0 || device < 0)
+    if (!precheck_ || session_.isRunning() || test < 0 || devices_->chosen() < 0)
         return true;
-    const QList<PrecheckFinding> findings =
-        precheck_(session_.tests()[test].letter, session_.deviceList().devices()[device].name);
+    const QList<PrecheckFinding> findings = precheck_(session_.tests()[test].letter, devices_->chosenName());
     QStringList sentences;
     QString refusal;
     for (const PrecheckFinding &finding : findings) {
         sentences.append(precheckText(finding));
         log(sentences.last());
         if (finding.isBlocking() && refusal.isEmpty())
-            refusal = sentences.last();
+            refusal = reasonWords(precheckKey(finding.what), {finding.subject});
     }
     if (findings.isEmpty())
         return true;
     PrecheckPrompt prompt(sentences, !refusal.isEmpty(), this);
     const bool isWanted = prompt.exec() == QDialog::Accepted;
     if (!refusal.isEmpty())
-        session_.refuse(test, device, language_.code(), refusal);
+        session_.refuse(test, devices_->chosen(), language_.code(), refusal); // the device may have gone meanwhile
     return isWanted && refusal.isEmpty();
+}
+
+// The playback test asks for itself.
+bool MainWindow::isWarnedOfLoudness()
+{
+    const int test = tests_->chosen();
+    const QString device = devices_->chosenName();
+    const bool isMicrophoneTest = test >= 0 && session_.tests()[test].letter == QLatin1String("m");
+    if (!isMicrophoneTest || device.isEmpty() || session_.isRunning() || warnedOf_.contains(device))
+        return true;
+    InstructionsPrompt prompt(session_.tests()[test].nameKey, QStringLiteral("MICROPHONE_TEST_INSTRUCTIONS"),
+                              endpointsThatWillBeRaised(), this);
+    if (prompt.exec() != QDialog::Accepted)
+        return false;
+    warnedOf_.append(device);
+    return true;
 }
 
 bool MainWindow::saveReport(const QString &file)
@@ -287,7 +303,15 @@ void MainWindow::showDevices(bool isComplete)
         log(hostText("LOG_LIST_INCOMPLETE"));
     if (!before.isEmpty() && devices_->chosen() < 0)
         log(hostText("LOG_DEVICE_GONE").arg(before));
-    tests_->setCanRun(devices_->chosen() >= 0);
+    warnedOf_.clear(); // as the playback test, which asks anew then
+    enableRun();
+}
+
+void MainWindow::enableRun()
+{
+    const bool canRun = devices_->chosen() >= 0;
+    tests_->setCanRun(canRun);
+    runAction_->setEnabled(canRun && !session_.isRunning());
 }
 
 void MainWindow::showStarted(const RunRecord &record)
@@ -301,7 +325,12 @@ void MainWindow::showEnded(const RunRecord &record)
     setRunning(false);
     result_->showRun(record);
     history_->add(record);
-    log(hostText("LOG_RUN_ENDED").arg(shownText(record.testNameKey), record.device.name, verdictText(record)));
+    const QString ended = hostText("LOG_RUN_ENDED").arg(shownText(record.testNameKey), record.device.name, verdictText(record));
+    log(record.microphone.isEmpty() ? ended : hostText("WITH_MICROPHONE").arg(ended, record.microphone));
+    if (!record.reason.isEmpty())
+        log(shownReason(record.reason));
+    if (!record.wasModuleCalled)
+        tests_->showProgress(0, {}); // what an earlier run left there
     if (!record.restoredVolumes.isEmpty())
         log(hostText("LOG_VOLUMES_PUT_BACK").arg(record.restoredVolumes.join(QStringLiteral(", "))));
     if (exitCode_)
@@ -331,7 +360,7 @@ void MainWindow::setRunning(bool isRunning)
     devices_->setEnabled(!isRunning);
     refresh_->setEnabled(!isRunning);
     refreshAction_->setEnabled(!isRunning);
-    runAction_->setEnabled(!isRunning);
+    runAction_->setEnabled(!isRunning && devices_->chosen() >= 0);
     stopAction_->setEnabled(isRunning);
     for (QAction *action : {saveAction_, copyAction_})
         action->setEnabled(!isRunning && !session_.history().isEmpty());

@@ -68,6 +68,8 @@ private:
     void connectSession();
     void runChosen();
     bool mayRun();
+    bool isWarnedOfLoudness();
+    void enableRun();
     void chooseReportFile();
     void showDevices(bool isComplete);
     void showStarted(const RunRecord &record);
@@ -111,6 +113,7 @@ private:
     std::optional<int> exitCode_; // asked for during a run
     bool hasDevices_ = false;
     Precheck precheck_;
+    QStringList warnedOf_; ///< devices whose loudness the person has accepted
 };
 
 } // namespace host

@@ -38,7 +38,7 @@ void MainWindow::retranslate()
     tabs_->setTabText(1, hostText("HISTORY"));
     tabs_->setAccessibleName(hostText("LOG"));
     log_->setAccessibleName(hostText("LOG"));
-    history_->retranslate();
+    history_->retranslate(language_.code());
     retranslateMenus();
     assignMnemonics();
 }

@@ -22,7 +22,7 @@ struct KnownOption {
     bool isUnattendedOnly;
 };
 
-constexpr std::array<KnownOption, 17> knownOptions{{
+constexpr std::array<KnownOption, 18> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
@@ -38,6 +38,7 @@ constexpr std::array<KnownOption, 17> knownOptions{{
     {"developer", nullptr, "add a menu that simulates events of the machine", false},
     {"simulate-event", "BIT@MS", "raise that event that long after the start of a run; may be repeated", false},
     {"stop-after", "MS", "stop each run that long after its start", false},
+    {"self-check", nullptr, "print as JSON what the windows of this installation lack, and exit", false},
     {"help", nullptr, "print this and exit", false},
     {"version", nullptr, "print the version and exit", false},
 }};
@@ -148,6 +149,7 @@ Options readValues(const QCommandLineParser &parser)
 {
     Options options;
     options.isHelp = parser.isSet(QStringLiteral("help"));
+    options.isSelfCheck = parser.isSet(QStringLiteral("self-check"));
     options.isVersion = parser.isSet(QStringLiteral("version"));
     options.isUnattended = parser.isSet(QStringLiteral("unattended"));
     options.isDeveloper = parser.isSet(QStringLiteral("developer"));
@@ -175,7 +177,11 @@ std::variant<Options, OptionsError> readOptions(const QStringList &arguments)
     if (!parser.parse(arguments))
         return parserError(parser);
     Options options = readValues(parser);
-    if (options.isHelp || options.isVersion)
+    if (options.isHelp)
+        return options;
+    if (const auto wrong = checkLanguage(parser, options))
+        return *wrong;
+    if (options.isVersion)
         return options;
     if (!parser.positionalArguments().isEmpty())
         return error(QStringLiteral("unexpected argument '%1'").arg(parser.positionalArguments().first()));
@@ -184,8 +190,7 @@ std::variant<Options, OptionsError> readOptions(const QStringList &arguments)
     if (!mistyped)
         return error(QStringLiteral("--mistype takes a number of sequences, not '%1'").arg(mistype));
     options.mistypedSequences = *mistyped;
-    for (const auto &wrong :
-         {checkUnattended(parser, options), checkLanguage(parser, options), readSchedule(parser, options.schedule)}) {
+    for (const auto &wrong : {checkUnattended(parser, options), readSchedule(parser, options.schedule)}) {
         if (wrong)
             return *wrong;
     }

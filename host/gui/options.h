@@ -13,6 +13,7 @@ namespace host {
 /// What the command line asks for. Paths are absolute: the program's current folder changes.
 struct Options {
     bool isHelp = false;
+    bool isSelfCheck = false;
     bool isVersion = false;
     bool isUnattended = false;
     bool isDeveloper = false;

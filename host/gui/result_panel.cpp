@@ -40,7 +40,8 @@ QFont enlarged(QFont font)
 
 QString subjectOf(const RunRecord &record)
 {
-    return QStringLiteral("%1: %2").arg(shownText(record.testNameKey), record.device.name);
+    const QString subject = QStringLiteral("%1: %2").arg(shownText(record.testNameKey), record.device.name);
+    return record.microphone.isEmpty() ? subject : hostText("WITH_MICROPHONE").arg(subject, record.microphone);
 }
 
 QString verdictText(const RunRecord &record) { return hostText(verdictKey(verdictOf(record))); }
@@ -103,7 +104,8 @@ void ResultPanel::showVerdict()
     verdict_->setText(verdictText(*record_));
     subject_->setText(subjectOf(*record_));
     if (!record_->reason.isEmpty())
-        messages_->addItem(new QListWidgetItem(style()->standardIcon(QStyle::SP_MessageBoxInformation), record_->reason));
+        messages_->addItem(
+            new QListWidgetItem(style()->standardIcon(QStyle::SP_MessageBoxInformation), shownReason(record_->reason)));
     for (const RunMessage &message : record_->messages)
         addMessage(message);
 }

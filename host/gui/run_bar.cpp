@@ -53,7 +53,7 @@ void RunBar::retranslate()
     const QStringList texts = withMnemonics({hostText("STOP_TEST"), hostText("SIMULATE_EVENT")});
     stop_->setText(QStringLiteral("%1 (%2)").arg(texts[0], RunKeys::stopKeys()));
     stop_->setAccessibleName(hostText("STOP_TEST"));
-    stop_->setToolTip(hostText("STOP_TEST_HINT"));
+    stop_->setToolTip(hostText("STOP_TEST_HINT").arg(RunKeys::stopKeys()));
     if (events_ == nullptr)
         return;
     events_->setText(texts[1]);

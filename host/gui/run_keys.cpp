@@ -19,6 +19,8 @@ int eventBit(int key)
 
 } // namespace
 
+QString RunKeys::runKeys() { return QKeySequence(Qt::CTRL | Qt::Key_R).toString(QKeySequence::NativeText); }
+
 QString RunKeys::stopKeys() { return QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S).toString(QKeySequence::NativeText); }
 
 QString RunKeys::eventKeys(int bit)

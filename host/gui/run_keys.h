@@ -20,6 +20,8 @@ public:
     /// The keys are taken only while a test runs.
     void setRunning(bool isRunning) noexcept { isRunning_ = isRunning; }
 
+    /// As a person reads them: the toolkit names keys in the language in force.
+    static QString runKeys();
     static QString stopKeys();
     static QString eventKeys(int bit);
     static constexpr int eventCount = 10;

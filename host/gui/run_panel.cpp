@@ -2,6 +2,7 @@
 #include "host/gui/run_panel.h"
 
 #include "host/gui/key_text.h"
+#include "host/gui/run_keys.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -123,9 +124,9 @@ void RunPanel::retranslate()
         list_->item(row)->setText(shownText(tests_[row].nameKey));
     list_->setFixedHeight(list_->sizeHintForRow(0) * list_->count() + 2 * list_->frameWidth());
     run_->setAccessibleName(hostText("RUN_TEST"));
-    run_->setToolTip(hostText("RUN_TEST_HINT"));
+    run_->setToolTip(hostText("RUN_TEST_HINT").arg(RunKeys::runKeys()));
     stop_->setAccessibleName(hostText("STOP_TEST"));
-    stop_->setToolTip(hostText("STOP_TEST_HINT"));
+    stop_->setToolTip(hostText("STOP_TEST_HINT").arg(RunKeys::stopKeys()));
     progress_->setAccessibleName(hostText("PROGRESS"));
     progressText_->setText(shownText(progressKey_));
     showDescription();

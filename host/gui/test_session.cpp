@@ -4,6 +4,7 @@
 #include "contract/module_interface.h"
 #include "contract/result_codes.h"
 #include "host/core/run_context.h"
+#include "host/gui/microphone_watch.h"
 
 #include <QScopeGuard>
 
@@ -114,7 +115,9 @@ void TestSession::perform(ostra::Test &test, RunContext &context, RunRecord &rec
         return;
     }
     schedule(context);
+    const MicrophoneWatch microphone;
     context.complete(test.run(&context), record);
+    record.microphone = microphone.name();
 }
 
 // The context is the timers' receiver: what is due after the end of the run does not happen.

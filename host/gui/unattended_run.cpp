@@ -3,15 +3,16 @@
 
 #include "contract/result_codes.h"
 #include "host/core/capture_source.h"
+#include "host/core/run_reason.h"
 #include "host/core/verdict.h"
 #include "host/gui/console_output.h"
 #include "host/gui/key_text.h"
 #include "host/operator/test_operator.h"
 #include "host/precheck/precheck.h"
 #include "host/reports/run_report.h"
+#include "host/reports/writable_folder.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QTimer>
 
 #include <chrono>
@@ -55,9 +56,11 @@ bool UnattendedRun::prepare(QString &problem)
         problem = QStringLiteral("'%1' hears another device than '%2', which would be blamed for its silence")
                       .arg(options_.source, deviceName());
     for (const QString &file : options_.reportFiles) {
-        if (problem.isEmpty() && !QFileInfo(QFileInfo(file).path()).isWritable())
+        if (problem.isEmpty() && !canWriteBeside(file))
             problem = QStringLiteral("the report '%1' cannot be written: its folder is missing or closed").arg(file);
     }
+    if (problem.isEmpty() && !options_.screenshotsFolder.isEmpty() && !canMakeAndWriteInto(options_.screenshotsFolder))
+        problem = QStringLiteral("nothing can be written into '%1' (--screenshots)").arg(options_.screenshotsFolder);
     return problem.isEmpty();
 }
 
@@ -80,7 +83,7 @@ std::optional<RunRecord> UnattendedRun::perform()
         complain(precheckText(finding));
     for (const PrecheckFinding &finding : findings) {
         if (finding.isBlocking())
-            return unheard(QStringLiteral("clips: ") + precheckText(finding));
+            return unheard(reasonWords(precheckKey(finding.what), {finding.subject}));
     }
     TestOperator person(operatorSettings());
     if (meter_)
@@ -98,7 +101,9 @@ std::optional<RunRecord> UnattendedRun::perform()
         record.listenedTo = options_.source;
         person.endRun(record);
         if (isOverdue)
-            record.reason = QStringLiteral("the run took longer than five minutes");
+            record.reason = reasonWords("REASON_TOOK_TOO_LONG");
+        if (record.microphone.isEmpty())
+            record.microphone = options_.microphone;
     });
 }
 
@@ -130,6 +135,7 @@ RunRecord UnattendedRun::unheard(const QString &reason) const
     record.testLetter = session_.tests()[test_].letter;
     record.testNameKey = session_.tests()[test_].nameKey;
     record.device = session_.deviceList().devices()[device_];
+    record.microphone = options_.microphone;
     record.language = language_;
     record.startedUtc = QDateTime::currentDateTimeUtc();
     record.endedUtc = record.startedUtc;

@@ -202,7 +202,12 @@ private:
 
     QString unheard(const char *text) const
     {
-        return QLatin1String(view_.flag("unattended") ? text : "A person listened: nothing was measured.");
+        if (report_.value(QLatin1String("moduleCode")).isNull())
+            return QStringLiteral("The test was not run.");
+        if (!view_.flag("unattended"))
+            return view_.code() <= 1 ? QStringLiteral("A person listened: nothing was measured.")
+                                     : QStringLiteral("Nobody judged what was played.");
+        return QLatin1String(text);
     }
 
     void writeRecording()

@@ -38,13 +38,8 @@ QString timestampOf(const ReportView &view) { return view.text("startedUtc").lef
 
 QString whyOf(const ReportView &view)
 {
-    QStringList reasons;
-    if (const QString reason = view.text("reason"); !reason.isEmpty())
-        reasons.append(reason);
-    const QJsonArray messages = view.list("messages");
-    for (const QJsonValue message : messages)
-        reasons.append(plainText(message[QLatin1String("text")].toString()));
-    return reasons.isEmpty() ? view.verdictName() : reasons.join(QStringLiteral("; "));
+    const QString reason = view.reason();
+    return reason.isEmpty() ? view.verdictName() : reason;
 }
 
 void writeSuiteAttributes(QXmlStreamWriter &xml, const ReportView &view)

@@ -7,9 +7,27 @@
 #include "host/reports/text_report.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace host {
+
+namespace {
+
+// A report of an older program is read as this one would have written it.
+QJsonObject upgraded(QJsonObject report)
+{
+    if (report.contains(QLatin1String("restoredVolumes")))
+        report.insert(QLatin1String("volumesPutBackByGuardian"), report.take(QLatin1String("restoredVolumes")));
+    report.insert(QLatin1String("microphone"),
+                  report.value(QLatin1String("recording"))[QLatin1String("microphone")].toString());
+    report.insert(QLatin1String("reasonKeys"), QJsonArray());
+    report.insert(QLatin1String("reasonTranslated"), report.value(QLatin1String("reason")).toString());
+    report.insert(QLatin1String("formatVersion"), reportFormatVersion);
+    return report;
+}
+
+} // namespace
 
 std::optional<ReportFormat> reportFormatOf(const QString &file)
 {
@@ -35,6 +53,8 @@ std::variant<QJsonObject, ReportError> readReport(const QByteArray &bytes)
     const int version = document.object().value(QLatin1String("formatVersion")).toInt();
     if (version == reportFormatVersion)
         return document.object();
+    if (version == 1)
+        return upgraded(document.object());
     return ReportError{version > reportFormatVersion ? QStringLiteral("its format is newer than this program")
                                                      : QStringLiteral("it is no report of a test")};
 }

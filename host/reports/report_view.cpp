@@ -121,6 +121,18 @@ QString ReportView::deviceName() const
     return plainText(report_.value(QLatin1String("device"))[QLatin1String("name")].toString());
 }
 
+// What the program says for itself is worded for logs: the sentence for people follows also in English.
+QString ReportView::reason() const
+{
+    QStringList parts{text("reason"), text("reasonTranslated")};
+    parts.removeAll(QString());
+    parts.removeDuplicates();
+    QString reason = parts.join(QStringLiteral(" \u2013 "));
+    if (const QStringList keys = lines("reasonKeys"); !keys.isEmpty())
+        reason += QStringLiteral(" (%1)").arg(keys.join(QStringLiteral("; ")));
+    return reason;
+}
+
 QString ReportView::languageTag() const
 {
     const QString code = text("language");
@@ -139,6 +151,7 @@ QList<std::pair<QString, QString>> ReportView::facts() const
 {
     QList<std::pair<QString, QString>> facts{
         {QStringLiteral("Device"), deviceName()},
+        {QStringLiteral("Microphone"), text("microphone")},
         {QStringLiteral("Language"), text("language")},
         {QStringLiteral("Started (UTC)"), text("startedUtc")},
         {QStringLiteral("Ended (UTC)"), text("endedUtc")},
@@ -148,10 +161,10 @@ QList<std::pair<QString, QString>> ReportView::facts() const
         {QStringLiteral("Unattended"), yesOrNo(flag("unattended"))},
         {QStringLiteral("Stopped"), yesOrNo(flag("stopped"))},
         {QStringLiteral("Listened to"), text("listenedTo")},
-        {QStringLiteral("Reason"), text("reason")},
+        {QStringLiteral("Reason"), reason()},
         {QStringLiteral("Latency (ms)"), latencyText(report_.value(QLatin1String("latency")).toObject())},
         {QStringLiteral("Sound kept in"), text("keptAudio")},
-        {QStringLiteral("Volumes put back"), lines("restoredVolumes").join(QStringLiteral(", "))},
+        {QStringLiteral("Guardian put back"), lines("volumesPutBackByGuardian").join(QStringLiteral(", "))},
         {QStringLiteral("Volumes"), text("volumeComplaint")},
         {QStringLiteral("Pictures"), lines("screenshots").join(QStringLiteral(", "))}};
     facts.removeIf([](const auto &fact) { return fact.second.isEmpty(); });
@@ -168,7 +181,7 @@ QList<std::pair<QString, QString>> ReportView::recordingFacts() const
     };
     const auto flag = [&heard](const char *key) { return yesOrNo(heard.value(QLatin1String(key)).toBool()); };
     const auto words = [&heard](const char *key) { return plainText(heard.value(QLatin1String(key)).toString(unknownValue)); };
-    return {{QStringLiteral("Microphone"), words("microphone")},
+    return {{QStringLiteral("Recorded by"), words("microphone")},
             {QStringLiteral("Spoken through"), words("spokenThrough")},
             {QStringLiteral("Sentence found"), flag("found")},
             {QStringLiteral("Heard at (ms)"), number("heardAtMs", 0)},

@@ -28,6 +28,8 @@ public:
     QString testKey() const;
     QString testName() const; ///< translated
     QString deviceName() const;
+    /// Why there is no pass: in English, in the language of the run where that is another, and the keys. Empty of a pass.
+    QString reason() const;
     QString languageTag() const; ///< as HTML wants it: "pt-BR"; "en" when there is none
     double seconds() const;
     /// What else describes the run, as pairs of a title and a value; empty values left out.

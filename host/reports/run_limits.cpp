@@ -2,6 +2,7 @@
 #include "host/reports/run_limits.h"
 
 #include "host/core/capture_source.h"
+#include "host/core/verdict.h"
 
 #include <algorithm>
 
@@ -98,12 +99,20 @@ bool hasTestedNothing(const RunRecord &record)
     return !record.wasModuleCalled || (record.isUnattended && record.digits.isEmpty() && !record.recording);
 }
 
+bool isJudged(const RunRecord &record)
+{
+    const Verdict verdict = verdictOf(record);
+    return verdict == Verdict::passed || verdict == Verdict::failed;
+}
+
 } // namespace
 
 QStringList runLimits(const RunRecord &record)
 {
     if (hasTestedNothing(record))
         return {QStringLiteral("Nothing was played and heard: this run says nothing about the device.")};
+    if (!record.isUnattended && !isJudged(record))
+        return {QStringLiteral("Nobody judged what was played: this run says nothing about the device.")};
     QStringList limits = record.testLetter == QLatin1String("m") ? limitsOfMicrophoneTest(record) : limitsOfPlayback(record);
     if (record.wasStopped)
         limits.append(QStringLiteral("The run was stopped: it says nothing about the device."));

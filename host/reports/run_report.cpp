@@ -2,9 +2,11 @@
 #include "host/reports/run_report.h"
 
 #include "contract/result_codes.h"
+#include "host/core/run_reason.h"
 #include "host/core/verdict.h"
 #include "host/reports/report_formats.h"
 #include "host/reports/run_limits.h"
+#include "host/translations/key_sentences.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -172,6 +174,7 @@ QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
                                                  {QStringLiteral("nameKey"), record.testNameKey},
                                                  {QStringLiteral("translated"), translated(record.testNameKey, lookUp)}}},
             {QStringLiteral("device"), deviceOf(record.device)},
+            {QStringLiteral("microphone"), record.microphone},
             {QStringLiteral("language"), record.language},
             {QStringLiteral("startedUtc"), momentOf(record.startedUtc)},
             {QStringLiteral("endedUtc"), momentOf(record.endedUtc)},
@@ -180,7 +183,6 @@ QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
             {QStringLiteral("moduleCode"),
              record.wasModuleCalled ? QJsonValue(static_cast<qint64>(record.moduleCode)) : QJsonValue()},
             {QStringLiteral("stopped"), record.wasStopped},
-            {QStringLiteral("reason"), record.reason},
             {QStringLiteral("progress"), progressOf(record, lookUp)},
             {QStringLiteral("messages"), messagesOf(record, lookUp)},
             {QStringLiteral("unattended"), record.isUnattended},
@@ -188,10 +190,32 @@ QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
             {QStringLiteral("digits"), digitsOf(record)},
             {QStringLiteral("latency"), latencyOf(record.digits)},
             {QStringLiteral("recording"), recordingOf(record.recording)},
-            {QStringLiteral("restoredVolumes"), QJsonArray::fromStringList(record.restoredVolumes)},
+            {QStringLiteral("volumesPutBackByGuardian"), QJsonArray::fromStringList(record.restoredVolumes)},
             {QStringLiteral("volumeComplaint"), record.volumeComplaint},
             {QStringLiteral("keptAudio"), record.keptAudio},
             {QStringLiteral("screenshots"), QJsonArray::fromStringList(record.screenshots)}};
+}
+
+QString wordsOf(const RunReason &reason)
+{
+    return reason.words.isEmpty() ? keySentences(reason.key, englishText).join(u' ') : reason.words;
+}
+
+// Three forms of one answer: for programs, for whoever reads the logs of many machines, and for the person at this one.
+void addReason(QJsonObject &body, const RunRecord &record, const TextLookup &lookUp)
+{
+    QStringList keys;
+    QStringList words;
+    QStringList translations;
+    const QList<RunReason> reasons = reasonsOf(record);
+    for (const RunReason &reason : reasons) {
+        keys.append(reason.key);
+        words.append(wordsOf(reason));
+        translations.append(withArguments(translated(reason.key, lookUp), reason.arguments));
+    }
+    body.insert(QStringLiteral("reasonKeys"), QJsonArray::fromStringList(keys));
+    body.insert(QStringLiteral("reason"), words.join(QStringLiteral("; ")));
+    body.insert(QStringLiteral("reasonTranslated"), translations.join(u' '));
 }
 
 QByteArray indented(const QJsonObject &object) { return QJsonDocument(object).toJson(QJsonDocument::Indented); }
@@ -226,7 +250,9 @@ QString resultName(std::uint32_t code)
 // The toolkit sorts an object's members, and the limits belong below what they limit: both objects become one.
 QByteArray runReport(const RunRecord &record, const TextLookup &lookUp)
 {
-    const QByteArray body = indented(bodyOf(record, lookUp));
+    QJsonObject members = bodyOf(record, lookUp);
+    addReason(members, record, lookUp);
+    const QByteArray body = indented(members);
     const QByteArray limits = indented({{QStringLiteral("limits"), QJsonArray::fromStringList(runLimits(record))}});
     return body.left(body.lastIndexOf("\n}")) + ',' + limits.mid(limits.indexOf('\n'));
 }

@@ -10,7 +10,8 @@
 
 namespace host {
 
-constexpr int reportFormatVersion = 1;
+/// Version 1 had no "reasonKeys", "reasonTranslated" and "microphone", and called "volumesPutBackByGuardian" otherwise.
+constexpr int reportFormatVersion = 2;
 
 /// Text for a key or a composite of keys, in the language of the run.
 using TextLookup = std::function<QString(const QString &)>;

@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>AUDIO_PLAYBACK_TEST_GENERAL_INSTRUCTIONS</source>
-        <translation>Geben Sie die drei gesprochenen Ziffern der Reihe nach ein. Sie haben zwei Versuche.</translation>
+        <translation>Geben Sie die drei gesprochenen Ziffern in der gehörten Reihenfolge ein. Sie haben zwei Versuche.</translation>
     </message>
     <message>
         <source>SELECT_OR_TYPE_NUMBER</source>
-        <translation>Klicken Sie die gehörten Ziffern an oder tippen Sie sie.</translation>
+        <translation>Klicken Sie die gehörten Ziffern an oder tippen Sie sie ein.</translation>
     </message>
     <message>
         <source>FAIL_BUTTON_TEXT</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>QUICK_AUDIO_TESTS_TOOLTIP</source>
-        <translation>Checks playing and recording sound.</translation>
+        <translation>Checks the playback and the recording of sound.</translation>
     </message>
     <message>
         <source>AUDIO_PLAYBACK_TEST</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>POSSIBLE_DEFECTIVE_COMPONENTS</source>
-        <translation>Possible defective components</translation>
+        <translation>Possibly defective components</translation>
     </message>
     <message>
         <source>SPEAKERS</source>

@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>FAIL_BUTTON_TOOLTP</source>
-        <translation>Finalizar la prueba como fallida: sin sonido</translation>
+        <translation>Finalizar la prueba como no superada: sin sonido</translation>
     </message>
     <message>
         <source>BACKSPACE_BUTTON_TOOLTP</source>

@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>AUDIO_PLAYBACK_TEST_WRONG_SEQUENCE</source>
-        <translation>Les chiffres saisis ne correspondent pas aux chiffres lus.</translation>
+        <translation>Les chiffres saisis ne correspondent pas aux chiffres énoncés.</translation>
     </message>
     <message>
         <source>USER_DID_NOT_REPORT_SOUND</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>PLAY_THE_SEQUENCE_AGAIN</source>
-        <translation>Relire la séquence</translation>
+        <translation>Réécouter la séquence</translation>
     </message>
     <message>
         <source>SELECT_A_MICROPHONE_DEVICE</source>

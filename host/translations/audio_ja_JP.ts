@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>NO_INPUT_DEVICE</source>
-        <translation>音声入力デバイスが見つかりませんでした。</translation>
+        <translation>オーディオ入力デバイスが見つかりませんでした。</translation>
     </message>
     <message>
         <source>POSSIBLE_DEFECTIVE_COMPONENTS</source>

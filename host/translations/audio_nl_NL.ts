@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>DRIVER_VERSION</source>
-        <translation>Versie van stuurprogramma</translation>
+        <translation>Stuurprogrammaversie</translation>
     </message>
     <message>
         <source>AUDIO_PLAYBACK_TEST_WRONG_SEQUENCE</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>AUDIO_DEVICE_COULD_NOT_BE_ACCESSED</source>
-        <translation>Het audioapparaat is niet toegankelijk.</translation>
+        <translation>Het audioapparaat kon niet worden benaderd.</translation>
     </message>
     <message>
         <source>TEST_CANCELED_BECAUSE_OF_AN_EVENT_THAT_COULD_COMPROMISE_THE_TEST_OUTCOME_HAPPENED</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>CLICK_FAIL_IF_NO_SOUND_WAS_HEARD</source>
-        <translation>Klik bij geen geluid op ‘Niets gehoord’.</translation>
+        <translation>Als er geen geluid is, klikt u op ‘Niets gehoord’.</translation>
     </message>
     <message>
         <source>FAIL_BUTTON_TOOLTP</source>

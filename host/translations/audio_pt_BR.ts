@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>CLICK_FAIL_IF_NO_SOUND_WAS_HEARD</source>
-        <translation>Sem som, clique em “Não ouvi nada”.</translation>
+        <translation>Se não houver som, clique em “Não ouvi nada”.</translation>
     </message>
     <message>
         <source>FAIL_BUTTON_TOOLTP</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>PRESS_RECORD_AND_SPEAK_ON_THE_MICROPHONE</source>
-        <translation>Pressione “Gravar” e fale ao microfone.</translation>
+        <translation>Pressione “Gravar” e fale no microfone.</translation>
     </message>
     <message>
         <source>PRESS_PLAY_AND_LISTEN_TO_THE_RECORDED_AUDIO</source>

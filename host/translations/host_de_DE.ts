@@ -60,6 +60,82 @@
         <translation>Die Datenschutzeinstellungen des Systems sperren das Mikrofon für Programme: Es würde nur Stille aufnehmen.</translation>
     </message>
     <message>
+        <source>REASON_STOPPED</source>
+        <translation>Der Durchlauf wurde gestoppt.</translation>
+    </message>
+    <message>
+        <source>REASON_TOOK_TOO_LONG</source>
+        <translation>Der Durchlauf dauerte länger als fünf Minuten.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_DEVICE</source>
+        <translation>„%1“ ist ein virtuelles Gerät: Ein Ergebnis darauf sagt nichts über diesen Computer aus.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUMES_HELD</source>
+        <translation>Ein anderer Durchlauf hält die Lautstärken.</translation>
+    </message>
+    <message>
+        <source>REASON_LISTENER_LOST</source>
+        <translation>Das zuhörende Programm fiel während des Durchlaufs aus.</translation>
+    </message>
+    <message>
+        <source>REASON_NOT_RECOGNISED</source>
+        <translation>Es war Ton zu hören, aber die Ziffern wurden nicht erkannt.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_DEAD</source>
+        <translation>Die Aufnahmequelle liefert überhaupt nichts.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUME_NOT_RAISED</source>
+        <translation>Die Lautstärke konnte nicht erhöht werden.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_SOURCE</source>
+        <translation>Keine Aufnahmequelle heißt „%1“. Vorhanden: %2</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_MICROPHONE</source>
+        <translation>Kein Mikrofon heißt „%1“. Vorhanden: %2</translation>
+    </message>
+    <message>
+        <source>REASON_QUESTION_OPEN</source>
+        <translation>Eine Frage des Tests blieb ohne Antwort.</translation>
+    </message>
+    <message>
+        <source>REASON_SPEECH_DID_NOT_BEGIN</source>
+        <translation>Der aufzunehmende Satz konnte nicht gesprochen werden.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SPEAKER</source>
+        <translation>Der aufzunehmende Satz konnte nicht gesprochen werden: %1</translation>
+    </message>
+    <message>
+        <source>REASON_DIALOG</source>
+        <translation>Ein Fenster des Tests reagierte nicht wie erwartet.</translation>
+    </message>
+    <message>
+        <source>REASON_ANSWERED_NO</source>
+        <translation>Die Frage, ob derselbe Ton zu hören war, wurde mit „Nein“ beantwortet.</translation>
+    </message>
+    <message>
+        <source>REASON_ENDED_EARLY</source>
+        <translation>Der Test wurde vor einem Ergebnis geschlossen oder abgebrochen.</translation>
+    </message>
+    <message>
+        <source>REASON_NONE_GIVEN</source>
+        <translation>Der Test nannte keinen Grund.</translation>
+    </message>
+    <message>
+        <source>REASON_SERVER_SILENT</source>
+        <translation>Der Soundserver antwortet nicht: %1</translation>
+    </message>
+    <message>
+        <source>REASON_TOLD</source>
+        <translation>Ein Programm des Durchlaufs meldete: %1</translation>
+    </message>
+    <message>
         <source>VALUE_NOT_KNOWN</source>
         <translation>unbekannt</translation>
     </message>
@@ -81,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Führt den gewählten Test auf dem gewählten Gerät aus (Strg+R).</translation>
+        <translation>Führt den gewählten Test auf dem gewählten Gerät aus (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -89,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Stoppt den laufenden Test. Strg+Umschalt+S bewirkt dasselbe, auch während ein Testfenster geöffnet ist.</translation>
+        <translation>Stoppt den laufenden Test. %1 bewirkt dasselbe, auch während ein Testfenster geöffnet ist.</translation>
     </message>
     <message>
         <source>STOPPING</source>
@@ -172,6 +248,10 @@
         <translation>Beendet: %1, Gerät „%2“, Ergebnis: %3</translation>
     </message>
     <message>
+        <source>WITH_MICROPHONE</source>
+        <translation>%1 (Mikrofon: %2)</translation>
+    </message>
+    <message>
         <source>LOG_PROGRESS</source>
         <translation>Fortschritt: %1 %</translation>
     </message>
@@ -220,6 +300,10 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
+        <source>MICROPHONE_TEST_INSTRUCTIONS</source>
+        <translation>Sie nehmen mit einem Mikrofon auf und hören die Aufnahme danach. Während des Tests werden alle Wiedergabe- und Aufnahmelautstärken dieses Computers auf 100 % gesetzt und danach zurückgestellt. Wenn Sie Kopfhörer tragen, nehmen Sie diese jetzt ab.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Ja</translation>
     </message>
@@ -229,7 +313,7 @@
     </message>
     <message>
         <source>ENDPOINTS_RAISED</source>
-        <translation>Während des Tests laufen diese Geräte mit voller Lautstärke, danach wird ihre Lautstärke wiederhergestellt:</translation>
+        <translation>Während des Tests steht die Lautstärke dieser Geräte und Mikrofone auf 100 %, danach wird sie wiederhergestellt:</translation>
     </message>
     <message>
         <source>MENU_FILE</source>
@@ -290,7 +374,7 @@ Version dieses Programms: %2</translation>
     </message>
     <message>
         <source>METER_TITLE</source>
-        <translation>Lautstärkepegel</translation>
+        <translation>Tonpegel</translation>
     </message>
     <message>
         <source>METER_SOURCE</source>
@@ -334,7 +418,7 @@ Version dieses Programms: %2</translation>
     </message>
     <message>
         <source>PRECHECK_REFUSED</source>
-        <translation>Der Test kann nicht durchgeführt werden</translation>
+        <translation>Der Test kann nicht ausgeführt werden</translation>
     </message>
     <message>
         <source>PRECHECK_RUN</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>REFRESH_DEVICES_HINT</source>
-        <translation>Reads the list of output devices again (F5). The list also follows by itself when a device comes or goes.</translation>
+        <translation>Reads the list of output devices again (F5). The list also updates by itself when a device is connected or removed.</translation>
     </message>
     <message>
         <source>READING_DEVICES</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>NO_DEVICES</source>
-        <translation>No output device was found. Connect one: the list follows by itself.</translation>
+        <translation>No output device was found. Connect one: the list updates by itself.</translation>
     </message>
     <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>PRECHECK_CLIPS_MISSING</source>
-        <translation>The spoken digits of the language %1 are missing. The test cannot be run.</translation>
+        <translation>The spoken digits for the language %1 are missing. The test cannot be run.</translation>
     </message>
     <message>
         <source>PRECHECK_CLIP_DAMAGED</source>
@@ -57,7 +57,83 @@
     </message>
     <message>
         <source>PRECHECK_MICROPHONE_BLOCKED</source>
-        <translation>The privacy settings of the system keep programs from the microphone: it would record silence.</translation>
+        <translation>The privacy settings of the system keep programs from the microphone: it would record only silence.</translation>
+    </message>
+    <message>
+        <source>REASON_STOPPED</source>
+        <translation>The run was stopped.</translation>
+    </message>
+    <message>
+        <source>REASON_TOOK_TOO_LONG</source>
+        <translation>The run took longer than five minutes.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_DEVICE</source>
+        <translation>“%1” is a virtual device: a result on it says nothing about this computer.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUMES_HELD</source>
+        <translation>Another run is holding the volumes.</translation>
+    </message>
+    <message>
+        <source>REASON_LISTENER_LOST</source>
+        <translation>The program that listens was lost during the run.</translation>
+    </message>
+    <message>
+        <source>REASON_NOT_RECOGNISED</source>
+        <translation>Sound was heard, but the digits were not recognised.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_DEAD</source>
+        <translation>The capture source delivers nothing at all.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUME_NOT_RAISED</source>
+        <translation>The volume could not be raised.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_SOURCE</source>
+        <translation>No capture source is named “%1”. There are: %2</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_MICROPHONE</source>
+        <translation>No microphone is named “%1”. There are: %2</translation>
+    </message>
+    <message>
+        <source>REASON_QUESTION_OPEN</source>
+        <translation>A question of the test was left without an answer.</translation>
+    </message>
+    <message>
+        <source>REASON_SPEECH_DID_NOT_BEGIN</source>
+        <translation>The sentence to be recorded could not be spoken.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SPEAKER</source>
+        <translation>The sentence to be recorded could not be spoken: %1</translation>
+    </message>
+    <message>
+        <source>REASON_DIALOG</source>
+        <translation>A window of the test did not react as expected.</translation>
+    </message>
+    <message>
+        <source>REASON_ANSWERED_NO</source>
+        <translation>The question whether the same sound was heard was answered with “No”.</translation>
+    </message>
+    <message>
+        <source>REASON_ENDED_EARLY</source>
+        <translation>The test was closed or cancelled before it had a result.</translation>
+    </message>
+    <message>
+        <source>REASON_NONE_GIVEN</source>
+        <translation>The test did not tell why.</translation>
+    </message>
+    <message>
+        <source>REASON_SERVER_SILENT</source>
+        <translation>The sound server does not answer: %1</translation>
+    </message>
+    <message>
+        <source>REASON_TOLD</source>
+        <translation>A program of the run reported: %1</translation>
     </message>
     <message>
         <source>VALUE_NOT_KNOWN</source>
@@ -81,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Runs the chosen test on the chosen device (Ctrl+R).</translation>
+        <translation>Runs the chosen test on the chosen device (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -89,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Stops the running test. Ctrl+Shift+S does the same and also works while a test window is open.</translation>
+        <translation>Stops the running test. %1 does the same and also works while a test window is open.</translation>
     </message>
     <message>
         <source>STOPPING</source>
@@ -172,8 +248,12 @@
         <translation>Ended: %1, device “%2”, result: %3</translation>
     </message>
     <message>
+        <source>WITH_MICROPHONE</source>
+        <translation>%1 (microphone: %2)</translation>
+    </message>
+    <message>
         <source>LOG_PROGRESS</source>
-        <translation>Progress: %1 %</translation>
+        <translation>Progress: %1%</translation>
     </message>
     <message>
         <source>LOG_STOP_PRESSED</source>
@@ -220,6 +300,10 @@
         <translation>Cancel</translation>
     </message>
     <message>
+        <source>MICROPHONE_TEST_INSTRUCTIONS</source>
+        <translation>You will record with a microphone and hear the recording played back. During the test, every playback and recording volume of this computer is set to 100% and put back afterwards. If you are wearing headphones, take them off now.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Yes</translation>
     </message>
@@ -229,7 +313,7 @@
     </message>
     <message>
         <source>ENDPOINTS_RAISED</source>
-        <translation>During the test these devices play at full volume; afterwards their volume is restored:</translation>
+        <translation>During the test the volume of these devices and microphones is at 100%; afterwards it is restored:</translation>
     </message>
     <message>
         <source>MENU_FILE</source>
@@ -334,7 +418,7 @@ Version of this program: %2</translation>
     </message>
     <message>
         <source>PRECHECK_REFUSED</source>
-        <translation>The test cannot be performed</translation>
+        <translation>The test cannot be run</translation>
     </message>
     <message>
         <source>PRECHECK_RUN</source>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
-        <translation>El servidor de sonido no responde: no se pudieron comprobar el volumen ni el silencio.</translation>
+        <translation>El servidor de sonido no responde: no se ha podido comprobar el volumen ni si el sonido está silenciado.</translation>
     </message>
     <message>
         <source>PRECHECK_DEVICE_MUTED</source>
@@ -53,11 +53,87 @@
     </message>
     <message>
         <source>PRECHECK_CLIPS_UNCHECKED</source>
-        <translation>No hay una lista de los archivos de sonido suministrados: no se pudieron comprobar.</translation>
+        <translation>No hay una lista de los archivos de sonido suministrados: no se han podido comprobar.</translation>
     </message>
     <message>
         <source>PRECHECK_MICROPHONE_BLOCKED</source>
         <translation>La configuración de privacidad del sistema impide que los programas usen el micrófono: solo grabaría silencio.</translation>
+    </message>
+    <message>
+        <source>REASON_STOPPED</source>
+        <translation>La ejecución se ha detenido.</translation>
+    </message>
+    <message>
+        <source>REASON_TOOK_TOO_LONG</source>
+        <translation>La ejecución ha durado más de cinco minutos.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_DEVICE</source>
+        <translation>«%1» es un dispositivo virtual: un resultado en él no dice nada sobre este equipo.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUMES_HELD</source>
+        <translation>Otra ejecución mantiene los volúmenes.</translation>
+    </message>
+    <message>
+        <source>REASON_LISTENER_LOST</source>
+        <translation>El programa de escucha se ha perdido durante la ejecución.</translation>
+    </message>
+    <message>
+        <source>REASON_NOT_RECOGNISED</source>
+        <translation>Se ha oído sonido, pero no se han reconocido los dígitos.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_DEAD</source>
+        <translation>La fuente de captura no entrega nada.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUME_NOT_RAISED</source>
+        <translation>No se ha podido subir el volumen.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_SOURCE</source>
+        <translation>Ninguna fuente de captura se llama «%1». Existen: %2</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_MICROPHONE</source>
+        <translation>Ningún micrófono se llama «%1». Existen: %2</translation>
+    </message>
+    <message>
+        <source>REASON_QUESTION_OPEN</source>
+        <translation>Una pregunta de la prueba ha quedado sin respuesta.</translation>
+    </message>
+    <message>
+        <source>REASON_SPEECH_DID_NOT_BEGIN</source>
+        <translation>No se ha podido pronunciar la frase que se iba a grabar.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SPEAKER</source>
+        <translation>No se ha podido pronunciar la frase que se iba a grabar: %1</translation>
+    </message>
+    <message>
+        <source>REASON_DIALOG</source>
+        <translation>Una ventana de la prueba no ha reaccionado como se esperaba.</translation>
+    </message>
+    <message>
+        <source>REASON_ANSWERED_NO</source>
+        <translation>A la pregunta de si se ha oído el mismo sonido se ha respondido «No».</translation>
+    </message>
+    <message>
+        <source>REASON_ENDED_EARLY</source>
+        <translation>La prueba se ha cerrado o cancelado antes de tener un resultado.</translation>
+    </message>
+    <message>
+        <source>REASON_NONE_GIVEN</source>
+        <translation>La prueba no ha indicado el motivo.</translation>
+    </message>
+    <message>
+        <source>REASON_SERVER_SILENT</source>
+        <translation>El servidor de sonido no responde: %1</translation>
+    </message>
+    <message>
+        <source>REASON_TOLD</source>
+        <translation>Un programa de la ejecución ha comunicado: %1</translation>
     </message>
     <message>
         <source>VALUE_NOT_KNOWN</source>
@@ -81,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Ejecuta la prueba elegida en el dispositivo elegido (Ctrl+R).</translation>
+        <translation>Ejecuta la prueba elegida en el dispositivo elegido (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -89,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Detiene la prueba en curso. Ctrl+Mayús+S hace lo mismo y funciona también con una ventana de prueba abierta.</translation>
+        <translation>Detiene la prueba en curso. %1 hace lo mismo y funciona también con una ventana de prueba abierta.</translation>
     </message>
     <message>
         <source>STOPPING</source>
@@ -137,7 +213,7 @@
     </message>
     <message>
         <source>VERDICT_INVALID_CALL</source>
-        <translation>No ejecutada: la prueba no se llamó correctamente</translation>
+        <translation>No ejecutada: la prueba no se ha llamado correctamente</translation>
     </message>
     <message>
         <source>LEVEL_ERROR</source>
@@ -170,6 +246,10 @@
     <message>
         <source>LOG_RUN_ENDED</source>
         <translation>Finalizada: %1, dispositivo «%2», resultado: %3</translation>
+    </message>
+    <message>
+        <source>WITH_MICROPHONE</source>
+        <translation>%1 (micrófono: %2)</translation>
     </message>
     <message>
         <source>LOG_PROGRESS</source>
@@ -220,6 +300,10 @@
         <translation>Cancelar</translation>
     </message>
     <message>
+        <source>MICROPHONE_TEST_INSTRUCTIONS</source>
+        <translation>Va a grabar con un micrófono y después oirá la grabación. Durante la prueba, todos los volúmenes de reproducción y grabación de este equipo se pondrán al 100 % y se restablecerán después. Si lleva auriculares, quíteselos ahora.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Sí</translation>
     </message>
@@ -229,7 +313,7 @@
     </message>
     <message>
         <source>ENDPOINTS_RAISED</source>
-        <translation>Durante la prueba, estos dispositivos funcionan al volumen máximo; después se restablece su volumen:</translation>
+        <translation>Durante la prueba, el volumen de estos dispositivos y micrófonos está al 100 %; después se restablece:</translation>
     </message>
     <message>
         <source>MENU_FILE</source>
@@ -302,7 +386,7 @@ Versión de este programa: %2</translation>
     </message>
     <message>
         <source>METER_SILENT</source>
-        <translation>silencio</translation>
+        <translation>en silencio</translation>
     </message>
     <message>
         <source>METER_QUIET</source>

@@ -33,31 +33,107 @@
     </message>
     <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
-        <translation>Le serveur de son ne répond pas : le volume et la coupure du son n’ont pas pu être vérifiés.</translation>
+        <translation>Le serveur audio ne répond pas : le volume et la coupure du son n’ont pas pu être vérifiés.</translation>
     </message>
     <message>
         <source>PRECHECK_DEVICE_MUTED</source>
-        <translation>Le son de « %1 » est coupé. Rien n’a été modifié : le test le rétablit lui-même pendant son exécution.</translation>
+        <translation>Le son de « %1 » est coupé. Rien n’a été modifié : le test le rétablit lui-même pendant son exécution.</translation>
     </message>
     <message>
         <source>PRECHECK_DEVICE_AT_ZERO</source>
-        <translation>Le volume de « %1 » est à 0. Rien n’a été modifié : le test l’augmente lui-même pendant son exécution.</translation>
+        <translation>Le volume de « %1 » est à 0. Rien n’a été modifié : le test l’augmente lui-même pendant son exécution.</translation>
     </message>
     <message>
         <source>PRECHECK_CLIPS_MISSING</source>
-        <translation>Les chiffres parlés de la langue %1 sont absents. Le test ne peut pas être exécuté.</translation>
+        <translation>Les chiffres énoncés de la langue %1 sont absents. Le test ne peut pas être exécuté.</translation>
     </message>
     <message>
         <source>PRECHECK_CLIP_DAMAGED</source>
-        <translation>Le fichier son %1 est absent ou n’est pas celui qui a été fourni. Le test ne peut pas être exécuté : l’appareil serait mis en cause à tort.</translation>
+        <translation>Le fichier son %1 est absent ou n’est pas celui qui a été fourni. Le test ne peut pas être exécuté : le périphérique serait mis en cause à tort.</translation>
     </message>
     <message>
         <source>PRECHECK_CLIPS_UNCHECKED</source>
-        <translation>Il n’y a pas de liste des fichiers son fournis : ils n’ont pas pu être vérifiés.</translation>
+        <translation>Il n’y a pas de liste des fichiers son fournis : ils n’ont pas pu être vérifiés.</translation>
     </message>
     <message>
         <source>PRECHECK_MICROPHONE_BLOCKED</source>
-        <translation>Les paramètres de confidentialité du système interdisent le microphone aux programmes : il n’enregistrerait que du silence.</translation>
+        <translation>Les paramètres de confidentialité du système interdisent le microphone aux programmes : il n’enregistrerait que du silence.</translation>
+    </message>
+    <message>
+        <source>REASON_STOPPED</source>
+        <translation>L’exécution a été arrêtée.</translation>
+    </message>
+    <message>
+        <source>REASON_TOOK_TOO_LONG</source>
+        <translation>L’exécution a duré plus de cinq minutes.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_DEVICE</source>
+        <translation>« %1 » est un périphérique virtuel : un résultat sur celui-ci ne dit rien de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUMES_HELD</source>
+        <translation>Une autre exécution maintient les volumes.</translation>
+    </message>
+    <message>
+        <source>REASON_LISTENER_LOST</source>
+        <translation>Le programme d’écoute a été perdu pendant l’exécution.</translation>
+    </message>
+    <message>
+        <source>REASON_NOT_RECOGNISED</source>
+        <translation>Du son a été entendu, mais les chiffres n’ont pas été reconnus.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_DEAD</source>
+        <translation>La source de capture ne fournit rien du tout.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUME_NOT_RAISED</source>
+        <translation>Le volume n’a pas pu être augmenté.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_SOURCE</source>
+        <translation>Aucune source de capture ne s’appelle « %1 ». Sources présentes : %2</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_MICROPHONE</source>
+        <translation>Aucun microphone ne s’appelle « %1 ». Microphones présents : %2</translation>
+    </message>
+    <message>
+        <source>REASON_QUESTION_OPEN</source>
+        <translation>Une question du test est restée sans réponse.</translation>
+    </message>
+    <message>
+        <source>REASON_SPEECH_DID_NOT_BEGIN</source>
+        <translation>La phrase à enregistrer n’a pas pu être prononcée.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SPEAKER</source>
+        <translation>La phrase à enregistrer n’a pas pu être prononcée : %1</translation>
+    </message>
+    <message>
+        <source>REASON_DIALOG</source>
+        <translation>Une fenêtre du test n’a pas réagi comme prévu.</translation>
+    </message>
+    <message>
+        <source>REASON_ANSWERED_NO</source>
+        <translation>À la question de savoir si le même son a été entendu, la réponse a été « Non ».</translation>
+    </message>
+    <message>
+        <source>REASON_ENDED_EARLY</source>
+        <translation>Le test a été fermé ou annulé avant d’avoir un résultat.</translation>
+    </message>
+    <message>
+        <source>REASON_NONE_GIVEN</source>
+        <translation>Le test n’a pas indiqué de raison.</translation>
+    </message>
+    <message>
+        <source>REASON_SERVER_SILENT</source>
+        <translation>Le serveur audio ne répond pas : %1</translation>
+    </message>
+    <message>
+        <source>REASON_TOLD</source>
+        <translation>Un programme de l’exécution a signalé : %1</translation>
     </message>
     <message>
         <source>VALUE_NOT_KNOWN</source>
@@ -81,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Exécute le test choisi sur le périphérique choisi (Ctrl+R).</translation>
+        <translation>Exécute le test choisi sur le périphérique choisi (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -89,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Arrête le test en cours. Ctrl+Maj+S fait de même et fonctionne aussi lorsqu’une fenêtre de test est ouverte.</translation>
+        <translation>Arrête le test en cours. %1 fait de même et fonctionne aussi lorsqu’une fenêtre de test est ouverte.</translation>
     </message>
     <message>
         <source>STOPPING</source>
@@ -172,6 +248,10 @@
         <translation>Terminé : %1, périphérique « %2 », résultat : %3</translation>
     </message>
     <message>
+        <source>WITH_MICROPHONE</source>
+        <translation>%1 (microphone : %2)</translation>
+    </message>
+    <message>
         <source>LOG_PROGRESS</source>
         <translation>Progression : %1 %</translation>
     </message>
@@ -220,6 +300,10 @@
         <translation>Annuler</translation>
     </message>
     <message>
+        <source>MICROPHONE_TEST_INSTRUCTIONS</source>
+        <translation>Vous allez enregistrer avec un microphone, puis écouter l’enregistrement. Pendant le test, tous les volumes de lecture et d’enregistrement de cet ordinateur sont réglés à 100 %, puis rétablis. Si vous portez un casque ou des écouteurs, retirez-les maintenant.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Oui</translation>
     </message>
@@ -229,7 +313,7 @@
     </message>
     <message>
         <source>ENDPOINTS_RAISED</source>
-        <translation>Pendant le test, ces périphériques sont au volume maximal ; leur volume est ensuite rétabli :</translation>
+        <translation>Pendant le test, le volume de ces périphériques et microphones est à 100 % ; il est ensuite rétabli :</translation>
     </message>
     <message>
         <source>MENU_FILE</source>
@@ -294,11 +378,11 @@ Version de ce programme : %2</translation>
     </message>
     <message>
         <source>METER_SOURCE</source>
-        <translation>Écouté par : %1</translation>
+        <translation>Source d’écoute : %1</translation>
     </message>
     <message>
         <source>METER_WORDS</source>
-        <translation>Niveau %1 dBFS, crête %2 dBFS : %3</translation>
+        <translation>Niveau %1 dBFS, crête %2 dBFS : %3</translation>
     </message>
     <message>
         <source>METER_SILENT</source>
@@ -326,7 +410,7 @@ Version de ce programme : %2</translation>
     </message>
     <message>
         <source>METER_WAVE_WORDS</source>
-        <translation>Lecture de l’enregistrement : %1 s, crête %2 dBFS</translation>
+        <translation>Lecture de l’enregistrement : %1 s, crête %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>
@@ -334,11 +418,11 @@ Version de ce programme : %2</translation>
     </message>
     <message>
         <source>PRECHECK_REFUSED</source>
-        <translation>Le test ne peut pas être effectué</translation>
+        <translation>Le test ne peut pas être exécuté</translation>
     </message>
     <message>
         <source>PRECHECK_RUN</source>
-        <translation>Lancer quand même</translation>
+        <translation>Exécuter quand même</translation>
     </message>
     <message>
         <source>PRECHECK_CLOSE</source>
@@ -354,11 +438,11 @@ Version de ce programme : %2</translation>
     </message>
     <message>
         <source>LOG_REPORT_SAVED</source>
-        <translation>Le rapport a été enregistré : %1</translation>
+        <translation>Le rapport a été enregistré : %1</translation>
     </message>
     <message>
         <source>LOG_REPORT_NOT_SAVED</source>
-        <translation>Le rapport n’a pas pu être enregistré : %1</translation>
+        <translation>Le rapport n’a pas pu être enregistré : %1</translation>
     </message>
     <message>
         <source>LOG_REPORT_COPIED</source>

@@ -37,11 +37,11 @@
     </message>
     <message>
         <source>PRECHECK_DEVICE_MUTED</source>
-        <translation>L’audio di “%1” è disattivato. Non è stato modificato nulla: il test lo attiva da sé durante l’esecuzione.</translation>
+        <translation>L’audio di «%1» è disattivato. Non è stato modificato nulla: il test lo attiva da sé durante l’esecuzione.</translation>
     </message>
     <message>
         <source>PRECHECK_DEVICE_AT_ZERO</source>
-        <translation>Il volume di “%1” è a 0. Non è stato modificato nulla: il test lo alza da sé durante l’esecuzione.</translation>
+        <translation>Il volume di «%1» è a 0. Non è stato modificato nulla: il test lo alza da sé durante l’esecuzione.</translation>
     </message>
     <message>
         <source>PRECHECK_CLIPS_MISSING</source>
@@ -58,6 +58,82 @@
     <message>
         <source>PRECHECK_MICROPHONE_BLOCKED</source>
         <translation>Le impostazioni di privacy del sistema negano il microfono ai programmi: registrerebbe solo silenzio.</translation>
+    </message>
+    <message>
+        <source>REASON_STOPPED</source>
+        <translation>L’esecuzione è stata interrotta.</translation>
+    </message>
+    <message>
+        <source>REASON_TOOK_TOO_LONG</source>
+        <translation>L’esecuzione è durata più di cinque minuti.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_DEVICE</source>
+        <translation>«%1» è un dispositivo virtuale: un risultato su di esso non dice nulla su questo computer.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUMES_HELD</source>
+        <translation>Un’altra esecuzione mantiene i volumi.</translation>
+    </message>
+    <message>
+        <source>REASON_LISTENER_LOST</source>
+        <translation>Il programma di ascolto è andato perso durante l’esecuzione.</translation>
+    </message>
+    <message>
+        <source>REASON_NOT_RECOGNISED</source>
+        <translation>È stato sentito un suono, ma le cifre non sono state riconosciute.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_DEAD</source>
+        <translation>La sorgente di acquisizione non fornisce alcun segnale.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUME_NOT_RAISED</source>
+        <translation>Impossibile alzare il volume.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_SOURCE</source>
+        <translation>Nessuna sorgente di acquisizione si chiama «%1». Presenti: %2</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_MICROPHONE</source>
+        <translation>Nessun microfono si chiama «%1». Presenti: %2</translation>
+    </message>
+    <message>
+        <source>REASON_QUESTION_OPEN</source>
+        <translation>Una domanda del test è rimasta senza risposta.</translation>
+    </message>
+    <message>
+        <source>REASON_SPEECH_DID_NOT_BEGIN</source>
+        <translation>Impossibile pronunciare la frase da registrare.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SPEAKER</source>
+        <translation>Impossibile pronunciare la frase da registrare: %1</translation>
+    </message>
+    <message>
+        <source>REASON_DIALOG</source>
+        <translation>Una finestra del test non ha reagito come previsto.</translation>
+    </message>
+    <message>
+        <source>REASON_ANSWERED_NO</source>
+        <translation>Alla domanda se si è sentito lo stesso suono è stato risposto «No».</translation>
+    </message>
+    <message>
+        <source>REASON_ENDED_EARLY</source>
+        <translation>Il test è stato chiuso o annullato prima di avere un risultato.</translation>
+    </message>
+    <message>
+        <source>REASON_NONE_GIVEN</source>
+        <translation>Il test non ha indicato il motivo.</translation>
+    </message>
+    <message>
+        <source>REASON_SERVER_SILENT</source>
+        <translation>Il server audio non risponde: %1</translation>
+    </message>
+    <message>
+        <source>REASON_TOLD</source>
+        <translation>Un programma dell’esecuzione ha segnalato: %1</translation>
     </message>
     <message>
         <source>VALUE_NOT_KNOWN</source>
@@ -81,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Esegue il test scelto sul dispositivo scelto (Ctrl+R).</translation>
+        <translation>Esegue il test scelto sul dispositivo scelto (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -89,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Interrompe il test in corso. Ctrl+Maiusc+S fa lo stesso e funziona anche con una finestra di test aperta.</translation>
+        <translation>Interrompe il test in corso. %1 fa lo stesso e funziona anche con una finestra di test aperta.</translation>
     </message>
     <message>
         <source>STOPPING</source>
@@ -172,6 +248,10 @@
         <translation>Terminato: %1, dispositivo «%2», risultato: %3</translation>
     </message>
     <message>
+        <source>WITH_MICROPHONE</source>
+        <translation>%1 (microfono: %2)</translation>
+    </message>
+    <message>
         <source>LOG_PROGRESS</source>
         <translation>Avanzamento: %1%</translation>
     </message>
@@ -220,6 +300,10 @@
         <translation>Annulla</translation>
     </message>
     <message>
+        <source>MICROPHONE_TEST_INSTRUCTIONS</source>
+        <translation>Si registrerà con un microfono e poi si ascolterà la registrazione. Durante il test tutti i volumi di riproduzione e di registrazione di questo computer vengono portati al 100% e poi ripristinati. Se si indossano le cuffie, toglierle ora.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Sì</translation>
     </message>
@@ -229,7 +313,7 @@
     </message>
     <message>
         <source>ENDPOINTS_RAISED</source>
-        <translation>Durante il test questi dispositivi sono al volume massimo; al termine il volume viene ripristinato:</translation>
+        <translation>Durante il test il volume di questi dispositivi e microfoni è al 100%; al termine viene ripristinato:</translation>
     </message>
     <message>
         <source>MENU_FILE</source>
@@ -290,7 +374,7 @@ Versione di questo programma: %2</translation>
     </message>
     <message>
         <source>METER_TITLE</source>
-        <translation>Livello audio</translation>
+        <translation>Livello del suono</translation>
     </message>
     <message>
         <source>METER_SOURCE</source>

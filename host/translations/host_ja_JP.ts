@@ -37,11 +37,11 @@
     </message>
     <message>
         <source>PRECHECK_DEVICE_MUTED</source>
-        <translation>「%1」はミュートされています。何も変更していません。テストの実行中はテスト自身が音を出せるようにします。</translation>
+        <translation>「%1」はミュートされています。何も変更していません。実行中はテストがミュートを解除します。</translation>
     </message>
     <message>
         <source>PRECHECK_DEVICE_AT_ZERO</source>
-        <translation>「%1」の音量は 0 です。何も変更していません。テストの実行中はテスト自身が音量を上げます。</translation>
+        <translation>「%1」の音量は0です。何も変更していません。実行中はテストが音量を上げます。</translation>
     </message>
     <message>
         <source>PRECHECK_CLIPS_MISSING</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>PRECHECK_CLIP_DAMAGED</source>
-        <translation>音声ファイル %1 がないか、付属のファイルではありません。デバイスのせいにされてしまうため、テストを実行できません。</translation>
+        <translation>音声ファイル %1 がないか、付属のファイルではありません。デバイスの不具合と誤って判定されるため、テストを実行できません。</translation>
     </message>
     <message>
         <source>PRECHECK_CLIPS_UNCHECKED</source>
@@ -58,6 +58,82 @@
     <message>
         <source>PRECHECK_MICROPHONE_BLOCKED</source>
         <translation>システムのプライバシー設定により、プログラムはマイクを使用できません。無音しか録音されません。</translation>
+    </message>
+    <message>
+        <source>REASON_STOPPED</source>
+        <translation>実行が停止されました。</translation>
+    </message>
+    <message>
+        <source>REASON_TOOK_TOO_LONG</source>
+        <translation>実行に5分以上かかりました。</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_DEVICE</source>
+        <translation>「%1」は仮想デバイスです。このデバイスでの結果からは、このコンピューターについて何も分かりません。</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUMES_HELD</source>
+        <translation>別の実行が音量を固定しています。</translation>
+    </message>
+    <message>
+        <source>REASON_LISTENER_LOST</source>
+        <translation>聞き取りプログラムが実行中に失われました。</translation>
+    </message>
+    <message>
+        <source>REASON_NOT_RECOGNISED</source>
+        <translation>音は聞こえましたが、数字を認識できませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_DEAD</source>
+        <translation>録音元から何も届きません。</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUME_NOT_RAISED</source>
+        <translation>音量を上げることができませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_SOURCE</source>
+        <translation>「%1」という録音元はありません。使用できるもの: %2</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_MICROPHONE</source>
+        <translation>「%1」というマイクはありません。使用できるもの: %2</translation>
+    </message>
+    <message>
+        <source>REASON_QUESTION_OPEN</source>
+        <translation>テストの質問に回答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_SPEECH_DID_NOT_BEGIN</source>
+        <translation>録音する文を読み上げることができませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SPEAKER</source>
+        <translation>録音する文を読み上げることができませんでした: %1</translation>
+    </message>
+    <message>
+        <source>REASON_DIALOG</source>
+        <translation>テストのウィンドウが想定どおりに反応しませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_ANSWERED_NO</source>
+        <translation>同じ音が聞こえたかという質問への回答は「いいえ」でした。</translation>
+    </message>
+    <message>
+        <source>REASON_ENDED_EARLY</source>
+        <translation>結果が出る前に、テストが閉じられたか中止されました。</translation>
+    </message>
+    <message>
+        <source>REASON_NONE_GIVEN</source>
+        <translation>テストは理由を示しませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_SERVER_SILENT</source>
+        <translation>サウンドサーバーが応答しません: %1</translation>
+    </message>
+    <message>
+        <source>REASON_TOLD</source>
+        <translation>実行に使われたプログラムからの報告: %1</translation>
     </message>
     <message>
         <source>VALUE_NOT_KNOWN</source>
@@ -81,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>選択したデバイスで選択したテストを実行します (Ctrl+R)。</translation>
+        <translation>選択したデバイスで選択したテストを実行します (%1)。</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -89,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>実行中のテストを停止します。Ctrl+Shift+S でも停止でき、テストのウィンドウが開いているときにも使えます。</translation>
+        <translation>実行中のテストを停止します。%1 でも停止でき、テストのウィンドウが開いているときにも使えます。</translation>
     </message>
     <message>
         <source>STOPPING</source>
@@ -172,6 +248,10 @@
         <translation>終了: %1、デバイス「%2」、結果: %3</translation>
     </message>
     <message>
+        <source>WITH_MICROPHONE</source>
+        <translation>%1 (マイク: %2)</translation>
+    </message>
+    <message>
         <source>LOG_PROGRESS</source>
         <translation>進行状況: %1%</translation>
     </message>
@@ -209,7 +289,7 @@
     </message>
     <message>
         <source>LOG_DEVICE_GONE</source>
-        <translation>デバイス「%1」はなくなりました。</translation>
+        <translation>デバイス「%1」は利用できなくなりました。</translation>
     </message>
     <message>
         <source>PROMPT_ACCEPT</source>
@@ -218,6 +298,10 @@
     <message>
         <source>PROMPT_DECLINE</source>
         <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>MICROPHONE_TEST_INSTRUCTIONS</source>
+        <translation>マイクで録音し、その後で録音した音を聞きます。テスト中、このコンピューターのすべての再生音量と録音音量が100%に設定され、終了後に元に戻ります。ヘッドホンを着けている場合は、今すぐ外してください。</translation>
     </message>
     <message>
         <source>QUESTION_YES</source>
@@ -229,7 +313,7 @@
     </message>
     <message>
         <source>ENDPOINTS_RAISED</source>
-        <translation>テスト中、次のデバイスは最大音量になり、終了後に元の音量に戻ります。</translation>
+        <translation>テスト中、次のデバイスとマイクの音量は100%になり、終了後に元に戻ります。</translation>
     </message>
     <message>
         <source>MENU_FILE</source>
@@ -290,15 +374,15 @@
     </message>
     <message>
         <source>METER_TITLE</source>
-        <translation>音量レベル</translation>
+        <translation>音のレベル</translation>
     </message>
     <message>
         <source>METER_SOURCE</source>
-        <translation>聞き取り元：%1</translation>
+        <translation>聞き取り元: %1</translation>
     </message>
     <message>
         <source>METER_WORDS</source>
-        <translation>レベル %1 dBFS、ピーク %2 dBFS：%3</translation>
+        <translation>レベル %1 dBFS、ピーク %2 dBFS: %3</translation>
     </message>
     <message>
         <source>METER_SILENT</source>
@@ -326,7 +410,7 @@
     </message>
     <message>
         <source>METER_WAVE_WORDS</source>
-        <translation>録音の再生：%1 秒、ピーク %2 dBFS</translation>
+        <translation>録音の再生: %1 秒、ピーク %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>

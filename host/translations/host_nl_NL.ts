@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>REFRESH_DEVICES_HINT</source>
-        <translation>Leest de lijst met uitvoerapparaten opnieuw (F5). De lijst wordt ook vanzelf bijgewerkt als er een apparaat bijkomt of verdwijnt.</translation>
+        <translation>Leest de lijst met uitvoerapparaten opnieuw in (F5). De lijst wordt ook vanzelf bijgewerkt als er een apparaat bijkomt of verdwijnt.</translation>
     </message>
     <message>
         <source>READING_DEVICES</source>
-        <translation>Uitvoerapparaten worden gelezen…</translation>
+        <translation>Uitvoerapparaten worden ingelezen…</translation>
     </message>
     <message>
         <source>DEVICES_FOUND</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>PRECHECK_CLIP_DAMAGED</source>
-        <translation>Het geluidsbestand %1 ontbreekt of is niet het meegeleverde. De test kan niet worden uitgevoerd: het apparaat zou de schuld krijgen.</translation>
+        <translation>Het geluidsbestand %1 ontbreekt of is niet het meegeleverde. De test kan niet worden uitgevoerd: het apparaat zou ten onrechte de schuld krijgen.</translation>
     </message>
     <message>
         <source>PRECHECK_CLIPS_UNCHECKED</source>
@@ -58,6 +58,82 @@
     <message>
         <source>PRECHECK_MICROPHONE_BLOCKED</source>
         <translation>De privacyinstellingen van het systeem blokkeren de microfoon voor programma’s: er zou alleen stilte worden opgenomen.</translation>
+    </message>
+    <message>
+        <source>REASON_STOPPED</source>
+        <translation>De uitvoering is gestopt.</translation>
+    </message>
+    <message>
+        <source>REASON_TOOK_TOO_LONG</source>
+        <translation>De uitvoering duurde langer dan vijf minuten.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_DEVICE</source>
+        <translation>‘%1’ is een virtueel apparaat: een resultaat daarop zegt niets over deze computer.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUMES_HELD</source>
+        <translation>Een andere uitvoering houdt de volumes vast.</translation>
+    </message>
+    <message>
+        <source>REASON_LISTENER_LOST</source>
+        <translation>Het luisterprogramma is tijdens de uitvoering weggevallen.</translation>
+    </message>
+    <message>
+        <source>REASON_NOT_RECOGNISED</source>
+        <translation>Er is geluid gehoord, maar de cijfers zijn niet herkend.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_DEAD</source>
+        <translation>De opnamebron levert helemaal niets.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUME_NOT_RAISED</source>
+        <translation>Het volume kon niet worden verhoogd.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_SOURCE</source>
+        <translation>Geen enkele opnamebron heet ‘%1’. Aanwezig: %2</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_MICROPHONE</source>
+        <translation>Geen enkele microfoon heet ‘%1’. Aanwezig: %2</translation>
+    </message>
+    <message>
+        <source>REASON_QUESTION_OPEN</source>
+        <translation>Een vraag van de test bleef onbeantwoord.</translation>
+    </message>
+    <message>
+        <source>REASON_SPEECH_DID_NOT_BEGIN</source>
+        <translation>De op te nemen zin kon niet worden uitgesproken.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SPEAKER</source>
+        <translation>De op te nemen zin kon niet worden uitgesproken: %1</translation>
+    </message>
+    <message>
+        <source>REASON_DIALOG</source>
+        <translation>Een venster van de test reageerde niet zoals verwacht.</translation>
+    </message>
+    <message>
+        <source>REASON_ANSWERED_NO</source>
+        <translation>Op de vraag of hetzelfde geluid is gehoord, is ‘Nee’ geantwoord.</translation>
+    </message>
+    <message>
+        <source>REASON_ENDED_EARLY</source>
+        <translation>De test is gesloten of geannuleerd voordat er een resultaat was.</translation>
+    </message>
+    <message>
+        <source>REASON_NONE_GIVEN</source>
+        <translation>De test heeft geen reden opgegeven.</translation>
+    </message>
+    <message>
+        <source>REASON_SERVER_SILENT</source>
+        <translation>De geluidsserver antwoordt niet: %1</translation>
+    </message>
+    <message>
+        <source>REASON_TOLD</source>
+        <translation>Een programma van de uitvoering meldde: %1</translation>
     </message>
     <message>
         <source>VALUE_NOT_KNOWN</source>
@@ -81,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Voert de gekozen test uit op het gekozen apparaat (Ctrl+R).</translation>
+        <translation>Voert de gekozen test uit op het gekozen apparaat (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -89,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Stopt de lopende test. Ctrl+Shift+S doet hetzelfde en werkt ook als er een testvenster open is.</translation>
+        <translation>Stopt de lopende test. %1 doet hetzelfde en werkt ook als er een testvenster open is.</translation>
     </message>
     <message>
         <source>STOPPING</source>
@@ -172,6 +248,10 @@
         <translation>Beëindigd: %1, apparaat ‘%2’, resultaat: %3</translation>
     </message>
     <message>
+        <source>WITH_MICROPHONE</source>
+        <translation>%1 (microfoon: %2)</translation>
+    </message>
+    <message>
         <source>LOG_PROGRESS</source>
         <translation>Voortgang: %1%</translation>
     </message>
@@ -201,11 +281,11 @@
     </message>
     <message>
         <source>LOG_LANGUAGE_NOT_SAVED</source>
-        <translation>De taal kan niet worden opgeslagen in de map ‘%1’.</translation>
+        <translation>De taal kon niet worden opgeslagen in de map ‘%1’.</translation>
     </message>
     <message>
         <source>LOG_LIST_INCOMPLETE</source>
-        <translation>Er was onvoldoende geheugen om alle apparaten te lezen.</translation>
+        <translation>Er was onvoldoende geheugen om alle apparaten in te lezen.</translation>
     </message>
     <message>
         <source>LOG_DEVICE_GONE</source>
@@ -220,6 +300,10 @@
         <translation>Annuleren</translation>
     </message>
     <message>
+        <source>MICROPHONE_TEST_INSTRUCTIONS</source>
+        <translation>U neemt op met een microfoon en hoort daarna de opname. Tijdens de test worden alle weergave- en opnamevolumes van deze computer op 100% gezet en daarna teruggezet. Als u een hoofdtelefoon draagt, zet die dan nu af.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Ja</translation>
     </message>
@@ -229,7 +313,7 @@
     </message>
     <message>
         <source>ENDPOINTS_RAISED</source>
-        <translation>Tijdens de test staan deze apparaten op vol volume; daarna wordt het volume hersteld:</translation>
+        <translation>Tijdens de test staat het volume van deze apparaten en microfoons op 100%; daarna wordt het hersteld:</translation>
     </message>
     <message>
         <source>MENU_FILE</source>

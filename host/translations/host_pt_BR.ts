@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>PRECHECK_DEVICE_MUTED</source>
-        <translation>“%1” está sem som. Nada foi alterado: o próprio teste ativa o som enquanto é executado.</translation>
+        <translation>“%1” está silenciado. Nada foi alterado: o próprio teste ativa o som enquanto é executado.</translation>
     </message>
     <message>
         <source>PRECHECK_DEVICE_AT_ZERO</source>
@@ -58,6 +58,82 @@
     <message>
         <source>PRECHECK_MICROPHONE_BLOCKED</source>
         <translation>As configurações de privacidade do sistema impedem os programas de usar o microfone: ele gravaria apenas silêncio.</translation>
+    </message>
+    <message>
+        <source>REASON_STOPPED</source>
+        <translation>A execução foi parada.</translation>
+    </message>
+    <message>
+        <source>REASON_TOOK_TOO_LONG</source>
+        <translation>A execução demorou mais de cinco minutos.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_DEVICE</source>
+        <translation>“%1” é um dispositivo virtual: um resultado nele não diz nada sobre este computador.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUMES_HELD</source>
+        <translation>Outra execução está mantendo os volumes.</translation>
+    </message>
+    <message>
+        <source>REASON_LISTENER_LOST</source>
+        <translation>O programa de escuta foi perdido durante a execução.</translation>
+    </message>
+    <message>
+        <source>REASON_NOT_RECOGNISED</source>
+        <translation>Algum som foi ouvido, mas os dígitos não foram reconhecidos.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_DEAD</source>
+        <translation>A fonte de captura não fornece nada.</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUME_NOT_RAISED</source>
+        <translation>Não foi possível aumentar o volume.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_SOURCE</source>
+        <translation>Nenhuma fonte de captura se chama “%1”. Existem: %2</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_MICROPHONE</source>
+        <translation>Nenhum microfone se chama “%1”. Existem: %2</translation>
+    </message>
+    <message>
+        <source>REASON_QUESTION_OPEN</source>
+        <translation>Uma pergunta do teste ficou sem resposta.</translation>
+    </message>
+    <message>
+        <source>REASON_SPEECH_DID_NOT_BEGIN</source>
+        <translation>Não foi possível falar a frase a ser gravada.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SPEAKER</source>
+        <translation>Não foi possível falar a frase a ser gravada: %1</translation>
+    </message>
+    <message>
+        <source>REASON_DIALOG</source>
+        <translation>Uma janela do teste não reagiu como esperado.</translation>
+    </message>
+    <message>
+        <source>REASON_ANSWERED_NO</source>
+        <translation>A pergunta se o mesmo som foi ouvido foi respondida com “Não”.</translation>
+    </message>
+    <message>
+        <source>REASON_ENDED_EARLY</source>
+        <translation>O teste foi fechado ou cancelado antes de ter um resultado.</translation>
+    </message>
+    <message>
+        <source>REASON_NONE_GIVEN</source>
+        <translation>O teste não informou o motivo.</translation>
+    </message>
+    <message>
+        <source>REASON_SERVER_SILENT</source>
+        <translation>O servidor de som não responde: %1</translation>
+    </message>
+    <message>
+        <source>REASON_TOLD</source>
+        <translation>Um programa da execução informou: %1</translation>
     </message>
     <message>
         <source>VALUE_NOT_KNOWN</source>
@@ -81,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>Executa o teste escolhido no dispositivo escolhido (Ctrl+R).</translation>
+        <translation>Executa o teste escolhido no dispositivo escolhido (%1).</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -89,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>Para o teste em execução. Ctrl+Shift+S faz o mesmo e também funciona com uma janela de teste aberta.</translation>
+        <translation>Para o teste em execução. %1 faz o mesmo e também funciona com uma janela de teste aberta.</translation>
     </message>
     <message>
         <source>STOPPING</source>
@@ -133,7 +209,7 @@
     </message>
     <message>
         <source>VERDICT_STOPPED</source>
-        <translation>Interrompido</translation>
+        <translation>Parado</translation>
     </message>
     <message>
         <source>VERDICT_INVALID_CALL</source>
@@ -170,6 +246,10 @@
     <message>
         <source>LOG_RUN_ENDED</source>
         <translation>Encerrado: %1, dispositivo “%2”, resultado: %3</translation>
+    </message>
+    <message>
+        <source>WITH_MICROPHONE</source>
+        <translation>%1 (microfone: %2)</translation>
     </message>
     <message>
         <source>LOG_PROGRESS</source>
@@ -220,6 +300,10 @@
         <translation>Cancelar</translation>
     </message>
     <message>
+        <source>MICROPHONE_TEST_INSTRUCTIONS</source>
+        <translation>Você gravará com um microfone e depois ouvirá a gravação. Durante o teste, todos os volumes de reprodução e de gravação deste computador serão ajustados para 100% e restaurados depois. Se estiver usando fones de ouvido, retire-os agora.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Sim</translation>
     </message>
@@ -229,7 +313,7 @@
     </message>
     <message>
         <source>ENDPOINTS_RAISED</source>
-        <translation>Durante o teste, estes dispositivos ficam no volume máximo; depois, o volume deles é restaurado:</translation>
+        <translation>Durante o teste, o volume destes dispositivos e microfones fica em 100%; depois, é restaurado:</translation>
     </message>
     <message>
         <source>MENU_FILE</source>

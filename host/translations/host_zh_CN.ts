@@ -45,11 +45,11 @@
     </message>
     <message>
         <source>PRECHECK_CLIPS_MISSING</source>
-        <translation>缺少语言 %1 的数字语音。无法运行测试。</translation>
+        <translation>缺少语言 %1 的语音数字。无法运行测试。</translation>
     </message>
     <message>
         <source>PRECHECK_CLIP_DAMAGED</source>
-        <translation>声音文件 %1 缺失，或不是随附的文件。无法运行测试：否则会错怪设备。</translation>
+        <translation>声音文件 %1 缺失，或不是随附的文件。无法运行测试：否则会误判为设备故障。</translation>
     </message>
     <message>
         <source>PRECHECK_CLIPS_UNCHECKED</source>
@@ -58,6 +58,82 @@
     <message>
         <source>PRECHECK_MICROPHONE_BLOCKED</source>
         <translation>系统的隐私设置禁止程序使用麦克风：只会录到静音。</translation>
+    </message>
+    <message>
+        <source>REASON_STOPPED</source>
+        <translation>运行已停止。</translation>
+    </message>
+    <message>
+        <source>REASON_TOOK_TOO_LONG</source>
+        <translation>运行时间超过五分钟。</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_DEVICE</source>
+        <translation>“%1”是虚拟设备：其测试结果不能说明本计算机的状况。</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUMES_HELD</source>
+        <translation>另一次运行正在占用音量设置。</translation>
+    </message>
+    <message>
+        <source>REASON_LISTENER_LOST</source>
+        <translation>监听程序在运行期间中断。</translation>
+    </message>
+    <message>
+        <source>REASON_NOT_RECOGNISED</source>
+        <translation>听到了声音，但未能识别数字。</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_DEAD</source>
+        <translation>采集源没有提供任何数据。</translation>
+    </message>
+    <message>
+        <source>REASON_VOLUME_NOT_RAISED</source>
+        <translation>无法调高音量。</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_SOURCE</source>
+        <translation>没有名为“%1”的采集源。现有：%2</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SUCH_MICROPHONE</source>
+        <translation>没有名为“%1”的麦克风。现有：%2</translation>
+    </message>
+    <message>
+        <source>REASON_QUESTION_OPEN</source>
+        <translation>测试中的一个问题未得到回答。</translation>
+    </message>
+    <message>
+        <source>REASON_SPEECH_DID_NOT_BEGIN</source>
+        <translation>无法播放要录制的语句。</translation>
+    </message>
+    <message>
+        <source>REASON_NO_SPEAKER</source>
+        <translation>无法播放要录制的语句：%1</translation>
+    </message>
+    <message>
+        <source>REASON_DIALOG</source>
+        <translation>测试窗口未按预期响应。</translation>
+    </message>
+    <message>
+        <source>REASON_ANSWERED_NO</source>
+        <translation>对于是否听到相同声音的问题，回答为“否”。</translation>
+    </message>
+    <message>
+        <source>REASON_ENDED_EARLY</source>
+        <translation>测试在得出结果之前被关闭或取消。</translation>
+    </message>
+    <message>
+        <source>REASON_NONE_GIVEN</source>
+        <translation>测试未说明原因。</translation>
+    </message>
+    <message>
+        <source>REASON_SERVER_SILENT</source>
+        <translation>声音服务器没有响应：%1</translation>
+    </message>
+    <message>
+        <source>REASON_TOLD</source>
+        <translation>运行中的一个程序报告：%1</translation>
     </message>
     <message>
         <source>VALUE_NOT_KNOWN</source>
@@ -81,7 +157,7 @@
     </message>
     <message>
         <source>RUN_TEST_HINT</source>
-        <translation>在所选设备上运行所选测试 (Ctrl+R)。</translation>
+        <translation>在所选设备上运行所选测试 (%1)。</translation>
     </message>
     <message>
         <source>STOP_TEST</source>
@@ -89,7 +165,7 @@
     </message>
     <message>
         <source>STOP_TEST_HINT</source>
-        <translation>停止正在运行的测试。Ctrl+Shift+S 作用相同，测试窗口打开时也有效。</translation>
+        <translation>停止正在运行的测试。%1 作用相同，测试窗口打开时也有效。</translation>
     </message>
     <message>
         <source>STOPPING</source>
@@ -172,6 +248,10 @@
         <translation>已结束：%1，设备“%2”，结果：%3</translation>
     </message>
     <message>
+        <source>WITH_MICROPHONE</source>
+        <translation>%1（麦克风：%2）</translation>
+    </message>
+    <message>
         <source>LOG_PROGRESS</source>
         <translation>进度：%1%</translation>
     </message>
@@ -220,6 +300,10 @@
         <translation>取消</translation>
     </message>
     <message>
+        <source>MICROPHONE_TEST_INSTRUCTIONS</source>
+        <translation>您将使用麦克风录音，然后听录制的声音。测试期间，本计算机的所有播放和录音音量将调至 100%，之后恢复原值。如果您正戴着耳机，请立即取下。</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>是</translation>
     </message>
@@ -229,7 +313,7 @@
     </message>
     <message>
         <source>ENDPOINTS_RAISED</source>
-        <translation>测试期间，以下设备将以最大音量工作，之后恢复原音量：</translation>
+        <translation>测试期间，以下设备和麦克风的音量为 100%，之后恢复原音量：</translation>
     </message>
     <message>
         <source>MENU_FILE</source>
@@ -306,7 +390,7 @@
     </message>
     <message>
         <source>METER_QUIET</source>
-        <translation>偏轻</translation>
+        <translation>偏小</translation>
     </message>
     <message>
         <source>METER_GOOD</source>
@@ -314,7 +398,7 @@
     </message>
     <message>
         <source>METER_TOO_LOUD</source>
-        <translation>过响</translation>
+        <translation>过大</translation>
     </message>
     <message>
         <source>METER_NO_DATA</source>
@@ -334,7 +418,7 @@
     </message>
     <message>
         <source>PRECHECK_REFUSED</source>
-        <translation>无法执行测试</translation>
+        <translation>无法运行测试</translation>
     </message>
     <message>
         <source>PRECHECK_RUN</source>

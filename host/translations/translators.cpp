@@ -2,13 +2,15 @@
 #include "host/translations/translators.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPointer>
 #include <QTranslator>
 
 #include <algorithm>
 
 // Outside of any namespace, as the macro demands. A program that links this code as objects has no other call of it.
-static void registerCompiledTranslations() { Q_INIT_RESOURCE(host_translations); }
+static void initResource() { Q_INIT_RESOURCE(host_translations); }
 
 namespace host {
 
@@ -29,6 +31,26 @@ QString knownCode(const QString &code)
     return isKnown ? code : QStringLiteral("en_US");
 }
 
+bool loadToolkitTexts(QTranslator &translator, const QString &code)
+{
+    for (const QString &folder : {QCoreApplication::applicationDirPath() + QStringLiteral("/translations"),
+                                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)}) {
+        if (translator.load(QLocale(code), QStringLiteral("qtbase"), QStringLiteral("_"), folder))
+            return true;
+    }
+    return false;
+}
+
+// English is what they say without.
+void installToolkitTexts(const QString &code)
+{
+    static QPointer<QTranslator> translator;
+    delete translator;
+    translator = new QTranslator(QCoreApplication::instance());
+    if (code != QLatin1StringView("en_US") && loadToolkitTexts(*translator, code))
+        QCoreApplication::installTranslator(translator);
+}
+
 bool install(QPointer<QTranslator> &translator, const QString &file)
 {
     delete translator; // takes it out of force
@@ -38,16 +60,25 @@ bool install(QPointer<QTranslator> &translator, const QString &file)
 
 } // namespace
 
+void registerTranslations() { initResource(); }
+
 bool installTranslators(const QString &code, const QString &folder)
 {
-    registerCompiledTranslations();
+    registerTranslations();
     const QString known = knownCode(code);
+    installToolkitTexts(known);
     bool isComplete = true;
     for (std::size_t index = 0; index < parts.size(); ++index) {
         const QString file = QStringLiteral("%1/%2_%3.qm").arg(folder, parts[index], known);
         isComplete = install(installed()[index], file) && isComplete;
     }
     return isComplete;
+}
+
+bool hasToolkitTexts(const QString &code)
+{
+    QTranslator translator;
+    return code == QLatin1StringView("en_US") || loadToolkitTexts(translator, code);
 }
 
 } // namespace host

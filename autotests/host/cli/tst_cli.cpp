@@ -112,6 +112,7 @@ private slots:
     void refusesWrongUsage_data();
     void refusesWrongUsage();
     void listsDevicesAsOneJsonDocument();
+    void listsInputs();
     void listsDevicesAsATable();
     void needsNoDisplay();
     void readsTheConfigurationOfTheNamedFolder();
@@ -227,6 +228,24 @@ void TestCli::listsDevicesAsOneJsonDocument()
     QCOMPARE(ofTheCard(names), cardDevices);
 }
 
+// As the dialog of the microphone test lists them; monitors are none.
+void TestCli::listsInputs()
+{
+    const CliRun run = runCli({QStringLiteral("list"), QStringLiteral("--json")});
+    const QJsonArray inputs = parsed(run.output).value(QLatin1String("inputs")).toArray();
+    QStringList names;
+    for (const QJsonValue input : inputs) {
+        names.append(input[QLatin1String("name")].toString());
+        QVERIFY(!input[QLatin1String("id")].toString().isEmpty());
+        QVERIFY(input[QLatin1String("virtual")].toBool());
+    }
+    QVERIFY2(names.contains(QStringLiteral("Desk Mic")) && names.contains(QStringLiteral("Desk Mic (2)")),
+             qPrintable(names.join(u'\n')));
+#ifndef Q_OS_WIN // Wine takes monitors for microphones
+    QCOMPARE(names.size(), 2);
+#endif
+}
+
 void TestCli::listsDevicesAsATable()
 {
     const CliRun run = runCli({QStringLiteral("list")});
@@ -236,16 +255,23 @@ void TestCli::listsDevicesAsATable()
     QVERIFY(!run.output.contains('\r'));
     const QStringList lines = QString::fromUtf8(run.output).split(u'\n');
     QVERIFY(lines.last().isEmpty()); // the output ends with a line end
-    QCOMPARE(words(lines.first()).join(u' '), QStringLiteral("No Device Channels Sample rate Driver Driver version Virtual"));
+    QCOMPARE(words(lines.first()).join(u' '),
+             QStringLiteral("No Direction Device Channels Sample rate Driver Driver version Virtual"));
     const qsizetype column = lines.first().indexOf(QStringLiteral("Channels"));
+    const qsizetype nameColumn = lines.first().indexOf(QStringLiteral("Device"));
     QStringList names;
+    QStringList inputs;
     for (const QString &line : lines.mid(1, lines.size() - 2)) {
         const bool hasWideCharacter = line.contains(QChar(u'\u8033'));
+        const bool isInput = words(line).value(1) == QLatin1String("input");
+        const QString unknown = QStringLiteral("-");
         QCOMPARE(words(line.mid(column - (hasWideCharacter ? 1 : 0))).mid(0, 2),
-                 (QStringList{QStringLiteral("2"), QStringLiteral("48000")}));
-        names.append(line.left(column - (hasWideCharacter ? 1 : 0)).mid(2).trimmed());
+                 isInput ? (QStringList{unknown, unknown}) : (QStringList{QStringLiteral("2"), QStringLiteral("48000")}));
+        (isInput ? inputs : names).append(line.left(column - (hasWideCharacter ? 1 : 0)).mid(nameColumn).trimmed());
+        QCOMPARE(words(line).first() == unknown, isInput); // no test takes an input's number
     }
     QCOMPARE(ofTheCard(names), cardDevices);
+    QVERIFY2(inputs.contains(QStringLiteral("Desk Mic")), run.output.constData());
 }
 
 // The module has dialogs, but a window system that cannot be had is none of this program's business.

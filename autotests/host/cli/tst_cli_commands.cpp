@@ -48,6 +48,8 @@ private slots:
     void tellsWhatIsLacking();
     void refusesVirtualDevices_data();
     void refusesVirtualDevices();
+    void reportsARefusedRunInEachFormat();
+    void reportsEachRefusedRunInItsLanguage();
     void refusesRuns_data();
     void refusesRuns();
 };
@@ -168,20 +170,34 @@ void TestCliCommands::tellsWhatIsLacking()
     const QTemporaryDir folder;
     const QDir bundle(bundleFolder());
     for (const QString &name : bundle.entryList(QDir::Files)) {
-        if (!name.startsWith(QStringLiteral("audio_listener")))
+        if (!name.startsWith(QStringLiteral("audio_")))
             QVERIFY(QFile::copy(bundle.filePath(name), QDir(folder.path()).filePath(name)));
+    }
+    for (const char *plugins : {"platforms", "imageformats"}) { // on Windows they lie beside the programs
+        const QDir source(bundle.filePath(QLatin1String(plugins)));
+        QVERIFY(QDir(folder.path()).mkpath(QLatin1String(plugins)));
+        for (const QString &name : source.entryList(QDir::Files))
+            QVERIFY(QFile::copy(source.filePath(name), QDir(folder.path()).filePath(QLatin1String(plugins) + u'/' + name)));
     }
     const QStringList arguments{QStringLiteral("info"), QStringLiteral("--self-check")};
     const CliRun run = runCli(arguments, cliEnvironment(), cliPath(folder.path()));
     QVERIFY2(run.output.contains("program: audio_listener     LACKING: "), run.output.constData());
+    QVERIFY2(run.output.contains("program: audio_speaker      LACKING: "), run.output.constData());
     QVERIFY(run.output.contains("program: TamrexDiagnostics  ok\n"));
+    QVERIFY2(run.output.contains("windows                     ok\n"), run.output.constData());
+    QVERIFY(run.output.contains("texts: ja_JP                ok\n"));
     QVERIFY(run.output.contains("clips: ja_JP                LACKING: "));
     QVERIFY(run.output.contains("pictures: png               ok\n"));
     QCOMPARE(run.code, 3);
 
     const CliRun json = runCli(arguments + QStringList{QStringLiteral("--json")});
     const QJsonArray checks = parsed(json.output).value(QLatin1String("checks")).toArray();
-    QCOMPARE(checks.size(), 16);
+    QStringList names;
+    for (const QJsonValue check : checks)
+        names.append(check[QLatin1String("name")].toString().section(u':', 0, 0));
+    names.removeDuplicates();
+    QCOMPARE(names.join(u','), QStringLiteral("module,program,windows,pictures,texts,texts of Qt,fonts,clips"));
+    QCOMPARE(checks.size(), 1 + 4 + 1 + 3 + 9 + 8 + 2 + 9 + 1);
     QVERIFY(checks[0][QLatin1String("ok")].toBool());
 }
 
@@ -200,6 +216,56 @@ void TestCliCommands::refusesVirtualDevices()
         runCli(QStringList{QStringLiteral("run"), QStringLiteral("--device"), QStringLiteral("Speakers")} + more);
     QVERIFY2(run.errors.startsWith("TamrexDiagnosticsCLI: 'Speakers' is a virtual device: "), run.errors.constData());
     QTEST(run.code, "code");
+}
+
+void TestCliCommands::reportsARefusedRunInEachFormat()
+{
+    const QTemporaryDir folder;
+    QStringList arguments{QStringLiteral("run"),
+                          QStringLiteral("--device"),
+                          QStringLiteral("Speakers"),
+                          QStringLiteral("--test"),
+                          QStringLiteral("m"),
+                          QStringLiteral("--microphone"),
+                          QStringLiteral("Desk Mic"),
+                          QStringLiteral("--keep-audio"),
+                          folder.filePath(QStringLiteral("h.wav")),
+                          QStringLiteral("--language"),
+                          QStringLiteral("de_DE")};
+    for (const char *suffix : {"json", "xml", "html", "txt"})
+        arguments << QStringLiteral("--report") << folder.filePath(QStringLiteral("r.") + QLatin1String(suffix));
+    const CliRun run = runCli(arguments);
+    QCOMPARE(run.code, 3);
+    for (const char *suffix : {"json", "xml", "html", "txt"}) {
+        const QByteArray text = read(folder.filePath(QStringLiteral("r.") + QLatin1String(suffix)));
+        for (const char *part : {"REASON_VIRTUAL_DEVICE", "ist ein virtuelles Ger", "is a virtual device", "Desk Mic"})
+            QVERIFY2(text.contains(part), text.constData());
+    }
+    const QJsonObject report = parsed(read(folder.filePath(QStringLiteral("r.json"))));
+    QCOMPARE(report.value(QLatin1String("verdict"))[QLatin1String("code")].toInt(), 3);
+    QCOMPARE(report.value(QLatin1String("progress")).toArray(), QJsonArray());
+    QVERIFY(report.value(QLatin1String("recording")).isNull() && report.value(QLatin1String("moduleCode")).isNull());
+    QCOMPARE(report.value(QLatin1String("keptAudio")).toString(), QString());
+    QCOMPARE(report.value(QLatin1String("listenedTo")).toString(), QStringLiteral("Monitor of Speakers"));
+    QCOMPARE(report.value(QLatin1String("device"))[QLatin1String("name")].toString(), QStringLiteral("Speakers"));
+    QCOMPARE(report.value(QLatin1String("test"))[QLatin1String("nameKey")].toString(),
+             QStringLiteral("MICROPHONE_INTERACTIVE_TEST"));
+    QCOMPARE(report.value(QLatin1String("limits")).toArray().size(), 1);
+}
+
+void TestCliCommands::reportsEachRefusedRunInItsLanguage()
+{
+    const QTemporaryDir folder;
+    const CliRun run =
+        runCli({QStringLiteral("run"), QStringLiteral("--device=Speakers"), QStringLiteral("--test=p"),
+                QStringLiteral("--test=m"), QStringLiteral("--all-languages"), QStringLiteral("--reports=") + folder.path()});
+    QCOMPARE(run.code, 3);
+    QCOMPARE(run.errors.count('\n'), 1); // the device is named once
+    QCOMPARE(run.output.count("cannot be performed\n"), 18);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 18 * 3);
+    const QByteArray japanese = read(folder.filePath(QStringLiteral("1-Speakers-m-ja_JP.json")));
+    QVERIFY2(japanese.contains("\"language\": \"ja_JP\""), japanese.constData());
+    QVERIFY(japanese.contains(QStringLiteral("\u4eee\u60f3\u30c7\u30d0\u30a4\u30b9").toUtf8()));
 }
 
 void TestCliCommands::refusesRuns_data()

@@ -51,6 +51,8 @@ void TestCommandLine::accepts_data()
     add("list --help", Command::help, false);
     add("--version", Command::version, false);
     add("--help --version", Command::help, false);
+    add("--help --language xx", Command::help, false);
+    add("--language de_DE --version", Command::version, false);
     add("-- list", Command::list, false);
     add("list --gnu-exit", Command::list, false);
     add("info --self-check --json", Command::info, true);
@@ -101,29 +103,32 @@ void TestCommandLine::refuses_data()
 {
     QTest::addColumn<QString>("words");
     QTest::addColumn<QString>("message");
-    const auto add = [](const char *words, const char *message) {
-        QTest::newRow(words) << QString::fromLatin1(words) << QString::fromLatin1(message) + QStringLiteral(" (try --help)");
+    const auto add = [](const char *words, const char *message, const char *topic = "") {
+        QTest::newRow(words) << QString::fromLatin1(words)
+                             << QStringLiteral("%1 (try %2--help)").arg(QLatin1String(message), QLatin1String(topic));
     };
     add("--x", "unknown option '--x'");
     add("-x", "unknown option '-x'");
     add("--x=1", "unknown option '--x'");
-    add("list --verbose", "unknown option '--verbose'");
-    add("list -hx", "unknown option '-x'");
+    add("list --verbose", "unknown option '--verbose'", "list ");
+    add("list -hx", "unknown option '-x'", "list ");
     add("--json", "no command is given");
     add("play", "unknown command 'play'");
     add("List", "unknown command 'List'");
-    add("list info", "unexpected argument 'info'");
-    add("info --config .", "'--config' does not go with 'info'");
-    add("list --self-check", "'--self-check' does not go with 'list'");
-    add("run --test x", "'--test' does not know 'x' (known: p, m)");
-    add("run --device 0 more", "unexpected argument 'more'");
-    add("report", "'report' needs its argument: FILE");
-    add("clips", "'clips' needs its argument: verify");
-    add("clips make", "'clips' does not know 'make'");
+    add("list info", "unexpected argument 'info'", "list ");
+    add("info --config .", "'--config' does not go with 'info'", "info ");
+    add("list --self-check", "'--self-check' does not go with 'list'", "list ");
+    add("run --test x", "'--test' does not know 'x' (known: p, m)", "run ");
+    add("run --device 0 more", "unexpected argument 'more'", "run ");
+    add("report", "'report' needs its argument: FILE", "report ");
+    add("clips", "'clips' needs its argument: verify", "clips ");
+    add("clips make", "'clips' does not know 'make'", "clips ");
     add("clips verify --language xx_YY",
-        "'--language' does not know 'xx_YY' (known: pt_BR, en_US, es_ES, fr_FR, it_IT, de_DE, nl_NL, zh_CN, ja_JP)");
-    add("list --config", "missing value after '--config'");
-    add("list --json=yes", "unexpected value after '--json'");
+        "'--language' does not know 'xx_YY' (known: pt_BR, en_US, es_ES, fr_FR, it_IT, de_DE, nl_NL, zh_CN, ja_JP)", "clips ");
+    add("--language xx --version",
+        "'--language' does not know 'xx' (known: pt_BR, en_US, es_ES, fr_FR, it_IT, de_DE, nl_NL, zh_CN, ja_JP)");
+    add("list --config", "missing value after '--config'", "list ");
+    add("list --json=yes", "unexpected value after '--json'", "list ");
 }
 
 void TestCommandLine::refuses()

@@ -142,6 +142,14 @@ void TestRunPlan::refusesLines_data()
     add("--device 0 --test p --speak-through Out", "'--speak-through' goes with '--test m' only");
     add("--device 0 --keep-audio h.mp3", "the sound 'h.mp3' cannot be kept: its name must end in .wav");
     add("--device 0 --reports no/such", "'no/such' is no folder (--reports)");
+    add("--device 0 --report no/such/r.json", "the report 'no/such/r.json' cannot be written: its folder is missing or closed");
+    add("--device 0 --keep-audio no/such/h.wav", "the sound 'no/such/h.wav' cannot be kept: its folder is missing or closed");
+    const QString inAFile = QCoreApplication::applicationFilePath() + QStringLiteral("/pictures");
+    QTest::newRow("pictures below a file") << QStringLiteral("--device 0 --screenshots ") + inAFile
+                                           << QStringLiteral("nothing can be written into '%1' (--screenshots)").arg(inAFile);
+#ifndef Q_OS_WIN
+    add("--device 0 --reports /proc", "nothing can be written into '/proc' (--reports)");
+#endif
 }
 
 void TestRunPlan::refusesLines()

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "autotests/host/gui/prompt_answerer.h"
 #include "autotests/host/gui/shown_program.h"
+#include "host/core/run_reason.h"
+#include "host/gui/key_text.h"
 #include "host/gui/level_words.h"
 #include "host/translations/translators.h"
 
@@ -59,6 +62,9 @@ private slots:
     void showsWhatWasFound();
     void refusesToBlameTheDevice_data();
     void refusesToBlameTheDevice();
+    void warnsOfTheLoudnessBeforeAMicrophoneTest();
+    void runsNothingWhenTheWarningIsDeclined();
+    void blamesNoOtherDeviceWhenTheChosenOneGoes();
     void savesTheReportInEachFormat_data();
     void savesTheReportInEachFormat();
     void tellsWhyItCannotSave();
@@ -105,6 +111,7 @@ void TestBeforeAndAfter::asksAboutTheChosenRun()
         return QList<PrecheckFinding>();
     });
     program.window.choose(1, 1);
+    const PromptAnswerer answerer("host_prompt_accept");
     program.find<QPushButton>("host_run")->click();
     QTRY_COMPARE_WITH_TIMEOUT(program.session.history().size(), 1, patienceMs);
     QCOMPARE(asked, QStringList{QStringLiteral("m Headphones")});
@@ -172,8 +179,54 @@ void TestBeforeAndAfter::refusesToBlameTheDevice()
     const host::RunRecord record = program.session.history().last();
     QVERIFY(!isCalled && !record.wasModuleCalled);
     QCOMPARE(record.code, 3U);
-    QCOMPARE(record.reason, host::precheckText(finding));
+    QCOMPARE(record.reason, host::reasonWords(host::precheckKey(finding.what), {finding.subject}));
     QCOMPARE(program.find<QListWidget>("host_result_messages")->item(0)->text(), host::precheckText(finding));
+}
+
+// Once for each reading of the devices, as the playback test itself does.
+void TestBeforeAndAfter::warnsOfTheLoudnessBeforeAMicrophoneTest()
+{
+    ShownProgram program;
+    const PromptAnswerer answerer("host_prompt_accept");
+    program.window.choose(1, 0);
+    for (const qsizetype runs : {1, 2}) {
+        program.find<QPushButton>("host_run")->click();
+        QTRY_COMPARE_WITH_TIMEOUT(program.session.history().size(), runs, patienceMs);
+        QCOMPARE(answerer.texts().size(), 1);
+    }
+    QVERIFY(answerer.texts().first().contains(QStringLiteral("100%")));
+    program.session.refresh();
+    program.find<QPushButton>("host_run")->click();
+    QTRY_COMPARE_WITH_TIMEOUT(program.session.history().size(), 3, patienceMs);
+    QCOMPARE(answerer.texts().size(), 2);
+}
+
+void TestBeforeAndAfter::runsNothingWhenTheWarningIsDeclined()
+{
+    ShownProgram program;
+    const PromptAnswerer answerer("host_prompt_decline");
+    program.window.choose(1, 0);
+    program.find<QPushButton>("host_run")->click();
+    QTRY_COMPARE_WITH_TIMEOUT(answerer.texts().size(), 1, patienceMs);
+    QCoreApplication::processEvents();
+    QVERIFY(program.session.history().isEmpty());
+    QVERIFY(program.find<QPushButton>("host_run")->isEnabled());
+}
+
+void TestBeforeAndAfter::blamesNoOtherDeviceWhenTheChosenOneGoes()
+{
+    ShownProgram program;
+    program.window.setPrecheck([&program](const QString &, const QString &) {
+        QTimer::singleShot(0, &program.session, [&program] { // while the findings are shown
+            program.module.names = {"Headphones"};
+            program.session.refresh();
+        });
+        return QList<PrecheckFinding>{{Precheck::clipsMissing, QStringLiteral("en_US")}};
+    });
+    program.window.choose(0, 0);
+    runAndPress(program, "host_precheck_run");
+    QCoreApplication::processEvents();
+    QVERIFY(program.session.history().isEmpty());
 }
 
 void TestBeforeAndAfter::savesTheReportInEachFormat_data()

@@ -37,7 +37,11 @@ private slots:
     void answersWithoutADisplay_data();
     void answersWithoutADisplay();
     void refusesAnUnknownDeviceByNamingTheOthers();
+    void refusesFoldersThatTakeNoFile_data();
+    void refusesFoldersThatTakeNoFile();
     void cannotPerformWhatNobodyHears();
+    void reportsWhatItCannotPerform();
+    void tellsWhatItsWindowsLack();
     void writesItsLanguage();
     void leavesAForeignConfigurationAlone();
     void endsOnASignal_data();
@@ -111,6 +115,48 @@ void TestGuiProgram::refusesAnUnknownDeviceByNamingTheOthers()
     QCOMPARE(outcome.code, 2);
     QVERIFY2(outcome.errors.contains("unknown device 'Nobody' (known: "), outcome.errors.constData());
     QVERIFY2(outcome.errors.contains("'Speakers'"), outcome.errors.constData());
+}
+
+void TestGuiProgram::refusesFoldersThatTakeNoFile_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("pictures") << QStringLiteral("--screenshots=/proc/pictures");
+    QTest::newRow("report") << QStringLiteral("--report=/proc/r.json");
+}
+
+// Before the run, which would be for nothing.
+void TestGuiProgram::refusesFoldersThatTakeNoFile()
+{
+    QFETCH(const QString, option);
+    const Outcome outcome = run({QStringLiteral("--unattended"), QStringLiteral("--test=p"),
+                                 QStringLiteral("--device=Speakers"), QStringLiteral("--listen=Monitor of Speakers"), option});
+    QCOMPARE(outcome.code, 2);
+    QVERIFY2(outcome.errors.contains("/proc"), outcome.errors.constData());
+    QVERIFY2(outcome.output.isEmpty(), outcome.output.constData());
+}
+
+void TestGuiProgram::reportsWhatItCannotPerform()
+{
+    const QString file = state_->filePath(QStringLiteral("r.json"));
+    const Outcome outcome =
+        run({QStringLiteral("--unattended"), QStringLiteral("--test=m"), QStringLiteral("--device=Speakers"),
+             QStringLiteral("--listen=nobody"), QStringLiteral("--microphone=Ear"), QStringLiteral("--language=es_ES"),
+             QStringLiteral("--report=") + file});
+    QCOMPARE(outcome.code, 3);
+    QFile report(file);
+    QVERIFY(report.open(QIODevice::ReadOnly));
+    const QByteArray text = report.readAll();
+    for (const char *part : {"\"REASON_NO_SUCH_SOURCE\"", "Ninguna fuente de captura se llama \302\253nobody\302\273",
+                             "no capture source is named 'nobody'", "\"microphone\": \"Ear\""})
+        QVERIFY2(text.contains(part), text.constData());
+}
+
+void TestGuiProgram::tellsWhatItsWindowsLack()
+{
+    const Outcome outcome = run({QStringLiteral("--self-check")});
+    QCOMPARE(outcome.code, 0);
+    for (const char *name : {"pictures: svg", "texts: ja_JP", "texts of Qt: de_DE", "fonts: Chinese", "fonts: Japanese"})
+        QVERIFY2(outcome.output.contains(QByteArray("\"name\":\"") + name + "\",\"ok\":true"), outcome.output.constData());
 }
 
 void TestGuiProgram::cannotPerformWhatNobodyHears()

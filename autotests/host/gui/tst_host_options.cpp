@@ -135,6 +135,7 @@ void TestHostOptions::refusesWhatItCannotDo_data()
     row("mistype without unattended", "--mistype 1", "'--mistype' goes with");
     row("mistype no number", "--unattended --test p --device 0 --listen x --mistype -1", "not '-1'");
     row("unknown language", "--language de", "unknown language 'de' (known: pt_BR, en_US");
+    row("unknown language and version", "--language xx --version", "unknown language 'xx'");
     row("language and config", "--language de_DE --config .", "exclude each other");
     row("no such folder", "--config no/such/folder", "'no/such/folder' is no folder");
     row("event without moment", "--simulate-event 3", "'3' is no event");

@@ -221,10 +221,10 @@ void TestLevelWindow::speaksTheLanguageInForce()
 {
     Windows windows(QStringLiteral("<b>Mic</b>"));
     host::installTranslators(QStringLiteral("de_DE"));
-    QTRY_COMPARE_WITH_TIMEOUT(windows.levels.windowTitle(), QStringLiteral("Lautstärkepegel"), limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(windows.levels.windowTitle(), QStringLiteral("Tonpegel"), limitMs);
     windows.levels.take(moment(1000));
     QVERIFY2(windows.words()->text().endsWith(QStringLiteral(": gut")), qPrintable(windows.words()->text()));
-    QCOMPARE(windows.bar()->accessibleName(), QStringLiteral("Lautstärkepegel"));
+    QCOMPARE(windows.bar()->accessibleName(), QStringLiteral("Tonpegel"));
     bool isSourceNamed = false;
     for (const QLabel *label : windows.levels.findChildren<QLabel *>())
         isSourceNamed =

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/gui/main_window.h"
 
+#include "autotests/host/gui/prompt_answerer.h"
 #include "autotests/host/gui/shown_program.h"
 #include "host/gui/key_text.h"
 #include "host/translations/translators.h"
@@ -8,15 +9,18 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QActionGroup>
+#include <QApplication>
 #include <QDir>
 #include <QLabel>
 #include <QListWidget>
+#include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
 #include <QObject>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -32,6 +36,11 @@ constexpr int patienceMilliseconds = 10'000;
 struct Program : ShownProgram {
     using ShownProgram::ShownProgram;
 
+    QAction *runAction()
+    {
+        const auto menus = window.menuBar()->actions();
+        return menus[1]->menu()->actions().first();
+    }
     QString log() { return find<QPlainTextEdit>("host_log")->toPlainText(); }
     QString verdict() { return find<QLabel>("host_result_verdict")->text(); }
     QStringList messages()
@@ -61,7 +70,11 @@ private slots:
     void neverShowsAPassThatIsNone_data();
     void neverShowsAPassThatIsNone();
     void showsMessagesAsSentencesWithTheirLevel();
+    void choosesTheDeviceAgainWhenItIsBack();
+    void keepsWhatIsChosenAndPressedOverALateRefresh();
     void logsTheRun();
+    void namesTheMicrophone();
+    void writesTimesInTheLanguageInForce();
     void keepsTheHistoryNewestFirst();
     void showsProgress();
     void changesTheLanguageAndReadsTheDevicesAgain();
@@ -119,6 +132,12 @@ void TestMainWindow::cannotRunWithoutADevice()
     program.module.names.clear();
     program.session.refresh();
     QVERIFY(!program.find<QPushButton>("host_run")->isEnabled());
+    QVERIFY(!program.runAction()->isEnabled());
+    program.module.names = {"Speakers"};
+    program.session.refresh();
+    QVERIFY(program.runAction()->isEnabled());
+    program.module.names.clear();
+    program.session.refresh();
     QCOMPARE(program.find<QLabel>("host_devices_text")->text(), host::hostText("NO_DEVICES"));
 }
 
@@ -135,6 +154,7 @@ void TestMainWindow::runsTheChosenTest()
         return ostra::result::passed;
     };
     program.find<QListWidget>("host_tests")->setCurrentRow(1);
+    const PromptAnswerer answerer("host_prompt_accept");
     QTest::mouseClick(program.find<QPushButton>("host_run"), Qt::LeftButton);
     QTRY_VERIFY_WITH_TIMEOUT(wasRun, patienceMilliseconds);
     QVERIFY(couldStop && !couldRun);
@@ -167,7 +187,7 @@ void TestMainWindow::neverShowsAPassThatIsNone()
     };
     program.session.run(0, 0, program.language.code());
     QVERIFY(program.verdict() != host::hostText("VERDICT_PASSED"));
-    QVERIFY(program.find<QTableWidget>("host_history")->item(0, 3)->text() != host::hostText("VERDICT_PASSED"));
+    QVERIFY(program.find<QTableWidget>("host_history")->item(0, 4)->text() != host::hostText("VERDICT_PASSED"));
     QVERIFY(program.verdict() != host::hostText("NO_RESULT_YET"));
 }
 
@@ -186,6 +206,83 @@ void TestMainWindow::showsMessagesAsSentencesWithTheirLevel()
                                note + QStringLiteral("Possible defects: Left ear, Right ear")};
     QCOMPARE(program.messages(), expected);
     QVERIFY(!program.find<QListWidget>("host_result_messages")->item(0)->icon().isNull());
+}
+
+// Unplugged and back again, or a sound server that was started anew: never another device in its place.
+void TestMainWindow::choosesTheDeviceAgainWhenItIsBack()
+{
+    Program program;
+    program.window.choose(0, 1);
+    const auto *table = program.find<QTableWidget>("host_devices");
+    for (const std::vector<std::string> &gone : {std::vector<std::string>{"Speakers"}, {}, {"Speakers", "USB"}}) {
+        program.module.names = gone;
+        program.session.refresh();
+        QVERIFY(table->selectedItems().isEmpty());
+    }
+    program.module.names = {"USB", "Headphones", "Speakers"};
+    program.session.refresh();
+    QCOMPARE(table->currentRow(), 1);
+    QVERIFY(program.find<QPushButton>("host_run")->isEnabled());
+}
+
+// The list is read anew some seconds after the start where the sound server came up late.
+void TestMainWindow::keepsWhatIsChosenAndPressedOverALateRefresh()
+{
+    Program program;
+    bool wasRun = false;
+    program.module.microphone = [&wasRun](ostra::TestContext &context) {
+        wasRun = context.component()->name() == "Headphones";
+        return ostra::result::passed;
+    };
+    program.window.choose(1, 1);
+    QVERIFY(QTest::qWaitForWindowActive(&program.window));
+    auto *run = program.find<QPushButton>("host_run");
+    const PromptAnswerer answerer("host_prompt_accept");
+    QTest::mousePress(run, Qt::LeftButton);
+    program.session.refresh();
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(run));
+    QTest::mouseRelease(run, Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(wasRun, patienceMilliseconds);
+    QCOMPARE(program.find<QListWidget>("host_tests")->currentRow(), 1);
+}
+
+// As the real dialog: the choice, and then the page that records.
+void TestMainWindow::namesTheMicrophone()
+{
+    Program program;
+    program.module.microphone = [](ostra::TestContext &) {
+        QWidget dialog;
+        for (const char *name : {"Built-in", "Desk Mic"}) {
+            auto *choice = new QRadioButton(QLatin1String(name), &dialog);
+            choice->setObjectName(QStringLiteral("microphone_test_radio_button"));
+            choice->setChecked(true);
+        }
+        auto *record = new QPushButton(&dialog);
+        record->setObjectName(QStringLiteral("microphone_test_record_button"));
+        record->hide();
+        dialog.show();
+        record->show();
+        return ostra::result::passed;
+    };
+    QCOMPARE(program.session.run(1, 0, program.language.code())->microphone, QStringLiteral("Desk Mic"));
+    QCOMPARE(program.find<QTableWidget>("host_history")->item(0, 3)->text(), QStringLiteral("Desk Mic"));
+    QVERIFY(program.find<QLabel>("host_result_subject")->text().contains(QStringLiteral("Desk Mic")));
+    QVERIFY(program.log().contains(QStringLiteral("Desk Mic")));
+    QCOMPARE(program.session.run(0, 0, program.language.code())->microphone, QString());
+}
+
+void TestMainWindow::writesTimesInTheLanguageInForce()
+{
+    Program program;
+    program.session.run(0, 0, QStringLiteral("en_US"));
+    const auto *history = program.find<QTableWidget>("host_history");
+    const QTime time = program.session.history().first().startedUtc.toLocalTime().time();
+    program.window.changeLanguage(QStringLiteral("de_DE"));
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(history->item(0, 0)->text(), QLocale(QStringLiteral("de_DE")).toString(time, QLocale::LongFormat));
+    program.window.changeLanguage(QStringLiteral("en_US"));
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(history->item(0, 0)->text(), QLocale(QStringLiteral("en_US")).toString(time, QLocale::LongFormat));
 }
 
 void TestMainWindow::logsTheRun()
@@ -214,7 +311,7 @@ void TestMainWindow::keepsTheHistoryNewestFirst()
     QCOMPARE(history->rowCount(), 2);
     QCOMPARE(history->item(0, 2)->text(), QStringLiteral("Headphones"));
     QCOMPARE(history->item(1, 2)->text(), QStringLiteral("Speakers"));
-    QCOMPARE(history->item(0, 4)->text(), QStringLiteral("Deutsch"));
+    QCOMPARE(history->item(0, 5)->text(), QStringLiteral("Deutsch"));
 }
 
 void TestMainWindow::showsProgress()

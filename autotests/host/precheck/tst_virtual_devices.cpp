@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "host/precheck/capture_devices.h"
 #include "host/precheck/device_names.h"
 #include "host/precheck/virtual_devices.h"
 
@@ -37,6 +38,7 @@ void TestVirtualDevices::takesEveryDeviceOfAPretendedDriverForVirtual()
     QFETCH(const QByteArray, driver);
     qputenv("SDL_AUDIODRIVER", driver);
     QVERIFY(host::readVirtualDevices().contains(QStringLiteral("anything")));
+    QVERIFY(host::readCaptureDevices().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestVirtualDevices)

@@ -112,6 +112,9 @@ private slots:
     void tellsThatNoRecordingWasHeard_data();
     void tellsThatNoRecordingWasHeard();
     void alignsTheTable();
+    void tellsWhyInEachFormat_data();
+    void tellsWhyInEachFormat();
+    void readsReportsOfTheFirstVersion();
 };
 
 void TestReportFormats::knowsFormatsBySuffix_data()
@@ -152,7 +155,7 @@ void TestReportFormats::refusesOtherFiles_data()
     QTest::newRow("nothing") << QByteArray() << QStringLiteral("it is no JSON: illegal value at byte 0");
     QTest::newRow("a list") << QByteArray("[1]") << QStringLiteral("it is no report of a test");
     QTest::newRow("another document") << QByteArray(R"({"devices":[]})") << QStringLiteral("it is no report of a test");
-    QTest::newRow("a newer one") << QByteArray(R"({"formatVersion":2})")
+    QTest::newRow("a newer one") << QByteArray(R"({"formatVersion":3})")
                                  << QStringLiteral("its format is newer than this program");
 }
 
@@ -167,7 +170,7 @@ void TestReportFormats::refusesOtherFiles()
 void TestReportFormats::convertsWhateverIsMissing_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("everything") << QByteArray(R"({"formatVersion":1})");
+    QTest::newRow("everything") << QByteArray(R"({"formatVersion":2})");
     QTest::newRow("of a digit") << QByteArray(
         R"({"formatVersion":1,"digits":[{},7,{"measured":{"lowest":[],"highest":[1]}}]})");
     QTest::newRow("wrong types") << QByteArray(
@@ -214,7 +217,8 @@ void TestReportFormats::mapsCodesToJUnit()
         QCOMPARE(named(elements, name).size(), element == QLatin1String(name) ? 1 : 0);
     if (!element.isEmpty())
         QCOMPARE(named(elements, element.toLatin1().constData())[0].attribute("message"),
-                 QStringLiteral("USER_DID_NOT_REPORT_SOUND"));
+                 QStringLiteral("The user reported that no sound was heard. \u2013 \u300CUSER_DID_NOT_REPORT_SOUND\u300D "
+                                "(USER_DID_NOT_REPORT_SOUND)"));
 }
 
 void TestReportFormats::tellsJUnitWhen()
@@ -380,7 +384,7 @@ void TestReportFormats::writesText()
 void TestReportFormats::tellsOfTheRecordingInEachFormat()
 {
     const QString text = QString::fromUtf8(host::convertReport(reportOf(microphoneRecord()), ReportFormat::text));
-    QVERIFY(text.contains(QStringLiteral("\nRecording\n  Microphone          Mic <1>\n  Spoken through      Speakers\n")));
+    QVERIFY(text.contains(QStringLiteral("\nRecording\n  Recorded by         Mic <1>\n  Spoken through      Speakers\n")));
     QVERIFY(text.contains(QStringLiteral("\n  Latency (ms)        -12\n")));
     QVERIFY(text.contains(QStringLiteral("\n  Volumes             no answer in time\n")));
     const QList<Element> page = elementsOf(html(microphoneRecord()));
@@ -397,7 +401,7 @@ void TestReportFormats::tellsOfTheRecordingInEachFormat()
     QStringList properties;
     for (const Element &property : named(elementsOf(junit(microphoneRecord())), "property"))
         properties.append(property.attribute("name") + u'=' + property.attribute("value"));
-    QVERIFY(properties.contains(QStringLiteral("Microphone=Mic <1>")));
+    QVERIFY(properties.contains(QStringLiteral("Recorded by=Mic <1>")));
 }
 
 void TestReportFormats::tellsThatNoRecordingWasHeard_data()
@@ -429,6 +433,53 @@ void TestReportFormats::alignsTheTable()
     QCOMPARE(lines[2].simplified(), QStringLiteral("2 3 4321 - 7 0 0.99 0.50 61 -21.0 -21.0 -60.6 -3.1 62.3 -4.0 yes"));
     QCOMPARE(lines[1].simplified(), QStringLiteral("1 1 - - - - 0.00 0.00 - -120.0 - - - - - no"));
     QCOMPARE(host::digitTableText(reportOf(playbackRecord())), QString());
+}
+
+void TestReportFormats::tellsWhyInEachFormat_data()
+{
+    QTest::addColumn<ReportFormat>("format");
+    QTest::addColumn<bool>("isRefused");
+    const std::pair<const char *, ReportFormat> formats[] = {{"json", ReportFormat::json},
+                                                             {"junit", ReportFormat::junit},
+                                                             {"html", ReportFormat::html},
+                                                             {"text", ReportFormat::text}};
+    for (const auto &[name, format] : formats) {
+        QTest::addRow("%s, refused", name) << format << true;
+        QTest::addRow("%s, interrupted", name) << format << false;
+    }
+}
+
+// Refused or interrupted before anything was recorded: why, with which microphone, and nothing of a recording.
+void TestReportFormats::tellsWhyInEachFormat()
+{
+    QFETCH(const ReportFormat, format);
+    QFETCH(const bool, isRefused);
+    host::RunRecord record = microphoneRecord();
+    record.recording.reset();
+    record.microphone = QStringLiteral("Desk Mic");
+    record.progress.clear();
+    record.code = isRefused ? 3 : 4;
+    record.wasModuleCalled = !isRefused;
+    record.wasStopped = !isRefused;
+    record.reason = isRefused ? QStringLiteral("'S' is a virtual device: a verdict on it says nothing about this machine")
+                              : QStringLiteral("the run was stopped");
+    const QString key = isRefused ? QStringLiteral("REASON_VIRTUAL_DEVICE") : QStringLiteral("REASON_STOPPED");
+    const QString text = QString::fromUtf8(host::convertReport(reportOf(record), format));
+    for (const QString &part : {key, QStringLiteral("\u300C%1\u300D").arg(key), QStringLiteral("Desk Mic")})
+        QVERIFY2(text.contains(part), qPrintable(text));
+    QVERIFY(text.contains(isRefused ? QStringLiteral("is a virtual device") : QStringLiteral("the run was stopped")));
+    QVERIFY(text.contains(QStringLiteral("this run says nothing about the device")));
+    for (const char *claim : {"recorded were", "A person", "Only the first five", "\"percent\": 100"})
+        QVERIFY2(!text.contains(QLatin1String(claim)), claim);
+}
+
+void TestReportFormats::readsReportsOfTheFirstVersion()
+{
+    const QByteArray old(R"({"formatVersion":1,"reason":"listener lost","restoredVolumes":["Dock"]})");
+    const QString text =
+        QString::fromUtf8(host::convertReport(std::get<QJsonObject>(host::readReport(old)), ReportFormat::text));
+    QVERIFY2(text.contains(QStringLiteral("Reason              listener lost\n")), qPrintable(text));
+    QVERIFY2(text.contains(QStringLiteral("Guardian put back   Dock\n")), qPrintable(text));
 }
 
 QTEST_GUILESS_MAIN(TestReportFormats)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/host/reports/json_schema.h"
 #include "autotests/host/reports/sample_record.h"
+#include "host/reports/report_formats.h"
 #include "host/reports/run_limits.h"
 #include "host/reports/run_report.h"
 
@@ -60,9 +61,13 @@ private slots:
     void namesTheFileThatItCannotWrite();
     void keepsToItsSchema_data();
     void keepsToItsSchema();
+    void bringsTheFirstVersionToItsSchema();
     void schemaRefusesWhatIsWrong_data();
     void schemaRefusesWhatIsWrong();
     void bringsKeysAndTranslations();
+    void tellsWhyInThreeForms_data();
+    void tellsWhyInThreeForms();
+    void tellsTheMicrophoneWithoutARecording();
     void knowsWhatWasPlayedWhenItWasAccepted();
     void refusesAnUnknownSuffix();
 };
@@ -70,7 +75,7 @@ private slots:
 void TestRunReport::tellsTheRun()
 {
     const QJsonObject report = parsed(playbackRecord());
-    QCOMPARE(report.value(QLatin1String("formatVersion")).toInt(), 1);
+    QCOMPARE(report.value(QLatin1String("formatVersion")).toInt(), 2);
     QCOMPARE(report.value(QLatin1String("startedUtc")).toString(), QStringLiteral("2026-03-01T09:00:00.250Z"));
     QCOMPARE(report.value(QLatin1String("endedUtc")).toString(), QStringLiteral("2026-03-01T09:00:09.750Z"));
     const QJsonObject device = report.value(QLatin1String("device")).toObject();
@@ -85,7 +90,7 @@ void TestRunReport::tellsTheRun()
     const QJsonObject message = report.value(QLatin1String("messages")).toArray().at(0).toObject();
     QCOMPARE(message.value(QLatin1String("text")).toString(), QStringLiteral("USER_DID_NOT_REPORT_SOUND"));
     QCOMPARE(message.value(QLatin1String("level")).toInt(), 2);
-    QCOMPARE(report.value(QLatin1String("restoredVolumes")).toArray(), QJsonArray{QStringLiteral("Speakers")});
+    QCOMPARE(report.value(QLatin1String("volumesPutBackByGuardian")).toArray(), QJsonArray{QStringLiteral("Speakers")});
     QCOMPARE(report.value(QLatin1String("screenshots")).toArray(), QJsonArray{QStringLiteral("01-prompt.png")});
     QCOMPARE(report.value(QLatin1String("listenedTo")).toString(), QStringLiteral("Monitor of Speakers"));
     QVERIFY(report.value(QLatin1String("unattended")).toBool());
@@ -209,7 +214,7 @@ void TestRunReport::namesEachVerdict()
     QCOMPARE(verdict.value(QLatin1String("name")).toString(), name);
     QCOMPARE(report.value(QLatin1String("moduleCode")).toInt(), 1);
     QVERIFY(!report.value(QLatin1String("stopped")).toBool());
-    QCOMPARE(report.value(QLatin1String("reason")).toString(), QStringLiteral("listener lost"));
+    QCOMPARE(report.value(QLatin1String("reason")).toString(), code == 0 ? QString() : QStringLiteral("listener lost"));
 }
 
 void TestRunReport::isNeverAPassThatTheExitCodeDenies()
@@ -282,6 +287,8 @@ void TestRunReport::claimsNothingOfARunThatHeardNothing()
     ended.digits.clear();
     RunRecord refused = playbackRecord();
     refused.wasModuleCalled = false;
+    refused.reason = QStringLiteral("listener lost");
+    refused.microphone = QStringLiteral("Mic");
     for (const RunRecord &record : {ended, refused}) {
         QCOMPARE(host::runLimits(record).size(), 1);
         QVERIFY(host::runLimits(record).constFirst().contains(QStringLiteral("says nothing about the device")));
@@ -380,11 +387,26 @@ void TestRunReport::keepsToItsSchema()
     QVERIFY2(errors.isEmpty(), qPrintable(errors.join(u'\n')));
 }
 
+void TestRunReport::bringsTheFirstVersionToItsSchema()
+{
+    QJsonObject old = parsed(microphoneRecord());
+    old.insert(QStringLiteral("restoredVolumes"), old.take(QStringLiteral("volumesPutBackByGuardian")));
+    old.insert(QStringLiteral("formatVersion"), 1);
+    for (const char *key : {"microphone", "reasonKeys", "reasonTranslated"})
+        old.remove(QLatin1String(key));
+    const auto read = host::readReport(QJsonDocument(old).toJson());
+    QVERIFY(std::holds_alternative<QJsonObject>(read));
+    const auto &report = std::get<QJsonObject>(read);
+    QCOMPARE(schemaErrors(report, schema()), QStringList());
+    QCOMPARE(report.value(QLatin1String("microphone")).toString(), QStringLiteral("Mic <1>"));
+    QCOMPARE(report.value(QLatin1String("volumesPutBackByGuardian")).toArray(), QJsonArray{QStringLiteral("Speakers")});
+}
+
 void TestRunReport::schemaRefusesWhatIsWrong_data()
 {
     QTest::addColumn<QString>("member");
     QTest::addColumn<QJsonValue>("value");
-    QTest::newRow("another version") << QStringLiteral("formatVersion") << QJsonValue(2);
+    QTest::newRow("another version") << QStringLiteral("formatVersion") << QJsonValue(1);
     QTest::newRow("local time") << QStringLiteral("startedUtc") << QJsonValue(QStringLiteral("2026-03-01T10:00:00.250+01:00"));
     QTest::newRow("missing") << QStringLiteral("limits") << QJsonValue(QJsonValue::Undefined);
     QTest::newRow("unknown member") << QStringLiteral("host") << QJsonValue(1);
@@ -422,6 +444,52 @@ void TestRunReport::bringsKeysAndTranslations()
     QCOMPARE(report.value(QLatin1String("progress"))[0][QLatin1String("translated")].toString(), QString());
     QCOMPARE(parsed(playbackRecord()).value(QLatin1String("messages"))[0][QLatin1String("translated")].toString(),
              QStringLiteral("USER_DID_NOT_REPORT_SOUND"));
+}
+
+void TestRunReport::tellsWhyInThreeForms_data()
+{
+    QTest::addColumn<RunRecord>("record");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("english");
+    QTest::addColumn<QString>("translated");
+    RunRecord told = playbackRecord();
+    told.messages.append({QStringLiteral("POSSIBLE_DEFECTIVE_COMPONENTS: SPEAKERS"), 0});
+    QTest::newRow("the module's") << told << QStringLiteral("USER_DID_NOT_REPORT_SOUND POSSIBLE_DEFECTIVE_COMPONENTS: SPEAKERS")
+                                  << QStringLiteral("The user reported that no sound was heard.; "
+                                                    "Possibly defective components: Speakers")
+                                  << QStringLiteral("<USER_DID_NOT_REPORT_SOUND> "
+                                                    "<POSSIBLE_DEFECTIVE_COMPONENTS: SPEAKERS>");
+    RunRecord own = told;
+    own.code = 4;
+    own.reason = QStringLiteral("listener lost");
+    QTest::newRow("the host's") << own << QStringLiteral("REASON_LISTENER_LOST") << QStringLiteral("listener lost")
+                                << QStringLiteral("<REASON_LISTENER_LOST>");
+    RunRecord passed = playbackRecord();
+    passed.code = 0;
+    passed.messages.clear();
+    QTest::newRow("none") << passed << QString() << QString() << QString();
+}
+
+void TestRunReport::tellsWhyInThreeForms()
+{
+    QFETCH(const RunRecord, record);
+    const auto lookUp = [](const QString &key) { return QStringLiteral("<%1>").arg(key); };
+    const QJsonObject report = QJsonDocument::fromJson(host::runReport(record, lookUp)).object();
+    QStringList keys;
+    const QJsonArray list = report.value(QLatin1String("reasonKeys")).toArray();
+    for (const QJsonValue key : list)
+        keys.append(key.toString());
+    QTEST(keys.join(u' '), "keys");
+    QTEST(report.value(QLatin1String("reason")).toString(), "english");
+    QTEST(report.value(QLatin1String("reasonTranslated")).toString(), "translated");
+}
+
+void TestRunReport::tellsTheMicrophoneWithoutARecording()
+{
+    RunRecord interrupted = microphoneRecord();
+    interrupted.recording.reset();
+    interrupted.microphone = QStringLiteral("Mic <1>");
+    QCOMPARE(parsed(interrupted).value(QLatin1String("microphone")).toString(), QStringLiteral("Mic <1>"));
 }
 
 void TestRunReport::knowsWhatWasPlayedWhenItWasAccepted()

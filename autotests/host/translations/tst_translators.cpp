@@ -45,6 +45,8 @@ private slots:
     void switchesWhileTheProgramRuns();
     void takesEnglishForAnUnknownCode_data();
     void takesEnglishForAnUnknownCode();
+    void bringsTheToolkitsOwnTexts_data();
+    void bringsTheToolkitsOwnTexts();
     void doesNotPileUp();
     void reportsAMissingFile_data();
     void reportsAMissingFile();
@@ -116,11 +118,34 @@ void TestTranslators::takesEnglishForAnUnknownCode()
     QCOMPARE(cancelText(), QStringLiteral("Cancel"));
 }
 
+void TestTranslators::bringsTheToolkitsOwnTexts_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("cancel");
+    QTest::newRow("by language") << "de_DE"
+                                 << "Abbrechen";
+    QTest::newRow("by language and country") << "pt_BR"
+                                             << "Cancelar";
+    QTest::newRow("English") << "en_US"
+                             << "Cancel";
+}
+
+void TestTranslators::bringsTheToolkitsOwnTexts()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, cancel);
+    if (!host::hasToolkitTexts(code)) // as on Windows, where they lie beside the programs
+        QSKIP("Qt's own texts are not installed");
+    QVERIFY(host::installTranslators(QStringLiteral("fr_FR")));
+    QVERIFY(host::installTranslators(code));
+    QCOMPARE(translated("QPlatformTheme", "Cancel"), cancel);
+}
+
 void TestTranslators::doesNotPileUp()
 {
     for (const QLatin1StringView code : host::translationCodes)
         QVERIFY(host::installTranslators(code));
-    QCOMPARE(QCoreApplication::instance()->findChildren<QTranslator *>().size(), 2);
+    QCOMPARE(QCoreApplication::instance()->findChildren<QTranslator *>().size(), 3); // the module's, the host's, the toolkit's
 }
 
 void TestTranslators::reportsAMissingFile_data()

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "host/core/run_reason.h"
+
+#include "contract/result_codes.h"
+#include "host/core/verdict.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace host {
+
+namespace {
+
+struct KnownReason {
+    const char *key;
+    const char *words;
+};
+
+// In the words that the operator and the programs of a run say them with. The first that fits is meant.
+constexpr std::array<KnownReason, 32> knownReasons{{
+    {"REASON_STOPPED", "the run was stopped"},
+    {"REASON_TOOK_TOO_LONG", "the run took longer than five minutes"},
+    {"REASON_VIRTUAL_DEVICE", "'%1' is a virtual device: a verdict on it says nothing about this machine"},
+    {"PRECHECK_CLIPS_MISSING", "clips: those of the language %1 are missing"},
+    {"PRECHECK_CLIP_DAMAGED", "clips: %1 is missing or is not the one that was supplied"},
+    {"REASON_VOLUMES_HELD", "Another run is holding the volumes."},
+    {"REASON_VOLUMES_HELD", "Another run is holding the volumes (guardian process %1)."},
+    {"REASON_LISTENER_LOST", "listener lost"},
+    {"REASON_NOT_RECOGNISED", "not recognised"},
+    {"REASON_SOURCE_DEAD", "the capture source delivers nothing"},
+    {"REASON_VOLUME_NOT_RAISED", "the volume could not be raised"},
+    {"REASON_NO_SUCH_SOURCE", "audio_listener: no capture source is named '%1' (there are: %2)"},
+    {"REASON_NO_SUCH_MICROPHONE", "no microphone is named '%1' (there are: '%2')"},
+    {"REASON_QUESTION_OPEN", "a question was left open"},
+    {"REASON_SPEECH_DID_NOT_BEGIN", "the speech could not begin"},
+    {"REASON_NO_SPEAKER", "audio_speaker did not speak: %1"},
+    {"REASON_DIALOG", "the dialog did not take the microphone"},
+    {"REASON_DIALOG", "the dialog did not record"},
+    {"REASON_DIALOG", "the dialog did not end its recording"},
+    {"REASON_DIALOG", "the dialog did not end its playback"},
+    {"REASON_DIALOG", "the dialog did not play again"},
+    {"REASON_DIALOG", "the dialog did not go on"},
+    {"REASON_DIALOG", "the dialog did not take the answer"},
+    {"REASON_DIALOG", "the dialog did not play its sequence"},
+    {"REASON_DIALOG", "the dialog could not be answered"},
+    {"REASON_DIALOG", "the keypad does not answer"},
+    {"REASON_ANSWERED_NO", "the question whether the same sound was heard was answered with no"},
+    {"VERDICT_INVALID_CALL", "the test was not called properly"},
+    {"REASON_ENDED_EARLY", "the test ended before it had a verdict"},
+    {"REASON_NONE_GIVEN", "the test did not tell why"},
+    {"REASON_SERVER_SILENT", "audio_listener: no sound server: %1"},
+    {"REASON_TOLD", "%1"},
+}};
+
+// At most two; the pattern names them in their order.
+std::optional<QStringList> argumentsIn(const QString &words, const QString &pattern)
+{
+    QString expression = QRegularExpression::escape(pattern);
+    expression.replace(QRegularExpression(QStringLiteral("\\\\%[12]")), QStringLiteral("(.*)"));
+    const QRegularExpression whole(QRegularExpression::anchoredPattern(expression),
+                                   QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch match = whole.match(words);
+    return match.hasMatch() ? std::optional(match.capturedTexts().mid(1)) : std::nullopt;
+}
+
+RunReason known(const char *key) { return {QLatin1String(key), {}, reasonWords(key)}; }
+
+// What the verdict alone tells.
+RunReason impliedReason(const RunRecord &record)
+{
+    switch (verdictOf(record)) {
+    case Verdict::failed:
+        return known(record.testLetter == QLatin1String("m") ? "REASON_ANSWERED_NO" : "REASON_NONE_GIVEN");
+    case Verdict::stopped:
+        return known("REASON_STOPPED");
+    case Verdict::invalidCall:
+        return known("VERDICT_INVALID_CALL");
+    case Verdict::notCompleted:
+        return known("REASON_ENDED_EARLY");
+    default:
+        return known("REASON_NONE_GIVEN");
+    }
+}
+
+// A note explains what was not completed, but after a failure it is a hint only.
+bool isUnexplained(const RunRecord &record)
+{
+    const bool hasError = std::any_of(record.messages.begin(), record.messages.end(),
+                                      [](const RunMessage &message) { return message.level == ostra::message_level::error; });
+    return record.messages.isEmpty() || (verdictOf(record) == Verdict::failed && !hasError);
+}
+
+} // namespace
+
+QString reasonWords(const char *key, const QStringList &arguments)
+{
+    const auto row = std::find_if(knownReasons.begin(), knownReasons.end(),
+                                  [key](const KnownReason &reason) { return QLatin1String(reason.key) == QLatin1String(key); });
+    if (row == knownReasons.end())
+        return QLatin1String(key);
+    return withArguments(QLatin1String(row->words), arguments);
+}
+
+// Both at once: an argument may hold a "%1" of its own.
+QString withArguments(const QString &text, const QStringList &arguments)
+{
+    if (text.contains(QStringLiteral("%2")))
+        return text.arg(arguments.value(0), arguments.value(1));
+    return text.contains(QStringLiteral("%1")) ? text.arg(arguments.value(0)) : text;
+}
+
+RunReason reasonOf(const QString &words)
+{
+    for (const KnownReason &reason : knownReasons) {
+        if (const auto arguments = argumentsIn(words, QLatin1String(reason.words)))
+            return {QLatin1String(reason.key), *arguments, words};
+    }
+    return {};
+}
+
+QList<RunReason> reasonsOf(const RunRecord &record)
+{
+    if (verdictOf(record) == Verdict::passed)
+        return {};
+    if (!record.reason.isEmpty())
+        return {reasonOf(record.reason)};
+    QList<RunReason> reasons;
+    if (isUnexplained(record))
+        reasons.append(impliedReason(record));
+    for (const RunMessage &message : record.messages)
+        reasons.append({message.text, {}, {}});
+    return reasons;
+}
+
+} // namespace host
