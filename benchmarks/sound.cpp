@@ -2,12 +2,11 @@
 #include "benchmarks/sound_figures.h"
 
 #include "audio/sound_driver.h"
+#include "benchmarks/turn_watch.h"
 #include "resources/icons.h"
 #include "views/register_types.h"
 
 #include <SDL.h>
-
-#include <QApplication>
 
 #include <array>
 #include <cstdio>
@@ -30,7 +29,7 @@ bool startSound()
 /// bench_sound FIGURE [ARGUMENT…]
 int main(int argumentCount, char **arguments)
 {
-    const QApplication application(argumentCount, arguments);
+    const bench::WatchedApplication application(argumentCount, arguments);
     const QStringList words = QApplication::arguments();
     ostra::initIcons();
     ostra::registerViewTypes();
