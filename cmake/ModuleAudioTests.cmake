@@ -45,7 +45,7 @@ function(ma_wait_for_display name)
         math(EXPR number "3 - ${number}")
         set_property(GLOBAL PROPERTY managed_display ${number})
     endif()
-    set_tests_properties(${name} PROPERTIES RESOURCE_LOCK wine-${prefix})
+    set_property(TEST ${name} APPEND PROPERTY RESOURCE_LOCK wine-${prefix})
 endfunction()
 
 # ma_add_test_command(<name> COMMAND ... [LABELS ...] [SOUND "<arguments of tools/virtual-sound-card run>"] [ENVIRONMENT ...]
@@ -76,7 +76,8 @@ function(ma_add_test_command name)
         ma_wait_for_display(${name} ${command})
     endif()
     if(A_FOLDER)
-        set_tests_properties(${name} PROPERTIES WORKING_DIRECTORY "${A_FOLDER}")
+        # Two tests of one program share the files beside it.
+        set_tests_properties(${name} PROPERTIES WORKING_DIRECTORY "${A_FOLDER}" RESOURCE_LOCK "${A_FOLDER}")
     endif()
     if(A_SERIAL)
         set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)
