@@ -21,6 +21,7 @@ using Clock = std::chrono::steady_clock;
 struct Trace {
     Clock::duration spent{};
     int closedCount = 0;
+    Clock::time_point lastOpening;
     std::function<void(int)> onClosed;
 };
 
@@ -49,6 +50,7 @@ auto timed(Call call)
 
 SDL_AudioDeviceID SDLCALL openTimed(const char *name, int capture, const SDL_AudioSpec *wish, SDL_AudioSpec *got, int changes)
 {
+    trace().lastOpening = Clock::now();
     return timed([&] { return SDL_OpenAudioDevice(name, capture, wish, got, changes); });
 }
 
@@ -95,6 +97,7 @@ PlaybackStage::~PlaybackStage()
 }
 
 std::chrono::steady_clock::duration PlaybackStage::timeInSoundLibrary() { return trace().spent; }
+std::chrono::steady_clock::time_point PlaybackStage::lastOpening() { return trace().lastOpening; }
 int PlaybackStage::closedCount() { return trace().closedCount; }
 void PlaybackStage::onClosed(std::function<void(int)> action) { trace().onClosed = std::move(action); }
 

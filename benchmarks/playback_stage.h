@@ -29,6 +29,8 @@ public:
     static constexpr int digits[3] = {1, 2, 3};
 
     static std::chrono::steady_clock::duration timeInSoundLibrary();
+    /// When the module began to open a device, the last time.
+    static std::chrono::steady_clock::time_point lastOpening();
     static int closedCount();
     static void onClosed(std::function<void(int closedCount)> action);
 };
