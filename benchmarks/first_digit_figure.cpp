@@ -96,10 +96,10 @@ std::vector<std::optional<double>> delaysOf(const std::vector<double> &starts, c
     return best;
 }
 
-// What the module does before the sound library; the rest of the difference is the library's and the server's.
-void printTimeToOpening(const std::vector<double> &milliseconds)
+// What the module itself takes; the rest of the difference is the sound library's and the server's.
+void printOwnTime(const char *what, const std::vector<double> &milliseconds)
 {
-    print({"first digit: from PlayAudio to the opening of the device", "-", "-", shown(median(milliseconds)) + " ms",
+    print({what, "-", "-", shown(median(milliseconds)) + " ms",
            shown(quantile(milliseconds, 0.25)) + "–" + shown(quantile(milliseconds, 0.75)) + " ms, " +
                std::to_string(milliseconds.size()) + " times"});
 }
@@ -123,12 +123,16 @@ void firstDigitFigure(const QStringList &arguments)
     std::vector<double> starts;
     std::vector<bool> isOurs;
     std::vector<double> toOpening;
+    std::vector<double> toStart;
     for (std::size_t turn = 0; turn < 2 * pairCount; ++turn) {
         isOurs.push_back((turn % 2 == 0) != (turn / 2 % 2 == 0));
         // The digits go round: each view takes three, the first of them is the one that is heard.
         starts.push_back(isOurs.back() ? playByView(component) : playBare(player));
-        if (isOurs.back())
-            toOpening.push_back(1e3 * (secondsAt(PlaybackStage::lastOpening()) - starts.back()));
+        if (!isOurs.back())
+            continue;
+        const PlaybackStage::Start start = PlaybackStage::lastStart();
+        toOpening.push_back(1e3 * (secondsAt(start.opening) - starts.back()));
+        toStart.push_back(1e3 * (secondsAt(start.started) - secondsAt(start.opened)));
     }
     const std::vector<std::optional<double>> delays = delaysOf(starts, onsets(recorded(arguments.value(0))));
     std::vector<double> differences;
@@ -140,7 +144,8 @@ void firstDigitFigure(const QStringList &arguments)
         else
             std::fprintf(stderr, "pair %zu: a digit was not recorded\n", pair);
     }
-    printTimeToOpening(toOpening);
+    printOwnTime("first digit: from PlayAudio to the opening of the device", toOpening);
+    printOwnTime("first digit: from the opened device to its start", toStart);
     Row row{"first digit: from PlayAudio to the first frame at the monitor",
             "bare SDL: open, queue, unpause",
             "+ ≤ 5 ms",
