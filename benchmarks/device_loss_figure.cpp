@@ -33,15 +33,18 @@ SDL_AudioDeviceID SDLCALL openNoted(const char *name, int capture, const SDL_Aud
     return openedDevice;
 }
 
+// So long that the playback is never over before the device is lost.
+constexpr int playedSeconds = 4;
+
 std::shared_ptr<ostra::audio::AudioRecording> silence()
 {
     auto recording = std::make_shared<ostra::audio::AudioRecording>();
-    recording->seconds = 1;
+    recording->seconds = playedSeconds;
     recording->frequency = 48000;
     recording->format = AUDIO_F32LSB;
     recording->channels = 2;
     recording->framesPerCallback = 1024;
-    recording->byteCount = 2 * 48000 * 8;
+    recording->byteCount = (playedSeconds + 1) * 48000 * 8;
     recording->samples = std::make_unique<std::uint8_t[]>(recording->byteCount);
     return recording;
 }
@@ -109,12 +112,13 @@ void deviceLossFigure(const QStringList &arguments)
     }
     if (delays.empty())
         return;
+    const bool areAllReported = static_cast<qsizetype>(delays.size()) == arguments.size() - 1;
     const double longest = *std::max_element(delays.begin(), delays.end());
     print({"device lost → status signal, the longest", "SDL's own flag + the prescribed poll of 500 ms", "≤ 520 ms",
            shown(longest) + " ms",
            shown(quantile(delays, 0.25)) + "–" + shown(quantile(delays, 0.75)) + " ms, median " + shown(median(delays)) +
-               ", in " + std::to_string(delays.size()) + " losses",
-           longest <= pollMilliseconds + allowedMilliseconds});
+               ", in " + std::to_string(delays.size()) + " of " + std::to_string(arguments.size() - 1) + " losses",
+           areAllReported && longest <= pollMilliseconds + allowedMilliseconds});
 }
 
 } // namespace bench

@@ -21,6 +21,7 @@ using Clock = std::chrono::steady_clock;
 struct Trace {
     Clock::duration spent{};
     int closedCount = 0;
+    PlaybackStage::Start lastStart;
     std::function<void(int)> onClosed;
 };
 
@@ -49,7 +50,16 @@ auto timed(Call call)
 
 SDL_AudioDeviceID SDLCALL openTimed(const char *name, int capture, const SDL_AudioSpec *wish, SDL_AudioSpec *got, int changes)
 {
-    return timed([&] { return SDL_OpenAudioDevice(name, capture, wish, got, changes); });
+    trace().lastStart.opening = Clock::now();
+    const SDL_AudioDeviceID id = timed([&] { return SDL_OpenAudioDevice(name, capture, wish, got, changes); });
+    trace().lastStart.opened = Clock::now();
+    return id;
+}
+
+void SDLCALL startNoted(SDL_AudioDeviceID device, int isPaused)
+{
+    trace().lastStart.started = Clock::now();
+    SDL_PauseAudioDevice(device, isPaused);
 }
 
 void SDLCALL holdTimed(Uint32 milliseconds)
@@ -84,6 +94,7 @@ PlaybackStage::PlaybackStage()
     trace() = {};
     ostra::playbackSources().digit = &nextDigit;
     ostra::audio::sdl().openDevice = &openTimed;
+    ostra::audio::sdl().pauseDevice = &startNoted;
     ostra::audio::sdl().closeDevice = &closeTimed;
     ostra::audio::sdl().delay = &holdTimed;
 }
@@ -95,6 +106,7 @@ PlaybackStage::~PlaybackStage()
 }
 
 std::chrono::steady_clock::duration PlaybackStage::timeInSoundLibrary() { return trace().spent; }
+PlaybackStage::Start PlaybackStage::lastStart() { return trace().lastStart; }
 int PlaybackStage::closedCount() { return trace().closedCount; }
 void PlaybackStage::onClosed(std::function<void(int)> action) { trace().onClosed = std::move(action); }
 

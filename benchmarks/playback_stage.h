@@ -29,6 +29,13 @@ public:
     static constexpr int digits[3] = {1, 2, 3};
 
     static std::chrono::steady_clock::duration timeInSoundLibrary();
+    /// How the module began to play, the last time.
+    struct Start {
+        std::chrono::steady_clock::time_point opening;
+        std::chrono::steady_clock::time_point opened;
+        std::chrono::steady_clock::time_point started;
+    };
+    static Start lastStart();
     static int closedCount();
     static void onClosed(std::function<void(int closedCount)> action);
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/operator/listener_link.h"
 
+#include "host/operator/child_end.h"
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 
@@ -10,7 +12,6 @@ namespace {
 
 // The sound library waits 30 s for a server that does not answer.
 constexpr int startLimitMs = 35'000;
-constexpr int endLimitMs = 3'000;
 constexpr int pollMs = 100;
 
 } // namespace
@@ -25,13 +26,7 @@ ListenerLink::ListenerLink(QObject *parent) : QObject(parent)
 ListenerLink::~ListenerLink()
 {
     process_.disconnect(this);
-    if (process_.state() == QProcess::NotRunning)
-        return;
-    process_.closeWriteChannel();
-    if (!process_.waitForFinished(endLimitMs)) {
-        process_.kill();
-        process_.waitForFinished(endLimitMs);
-    }
+    endByClosedInput(process_);
 }
 
 void ListenerLink::launch(const QStringList &arguments)

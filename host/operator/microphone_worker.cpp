@@ -31,10 +31,6 @@ constexpr qint64 pageLimitMs = 20'000;
 constexpr qint64 jobLimitMs = 60'000;
 /// Opening a device of a sound server that does not answer takes 30 s.
 constexpr qint64 speakerLimitMs = 35'000;
-/// A dialog ends some two seconds after it lost its device.
-constexpr qint64 ownEndLimitMs = 5'000;
-/// A press is repeated when it had no effect for that long.
-constexpr qint64 pressAgainMs = 2'000;
 /// The microphone is open by then: what is spoken before it is open is lost.
 constexpr qint64 speakAfterMs = 600;
 /// Channels hold the same when what is left of one without the other is that much quieter.
@@ -58,7 +54,8 @@ void bringIntoView(QWidget *widget)
 } // namespace
 
 MicrophoneWorker::MicrophoneWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, Speech speech)
-    : dialog_(dialog), log_(log), photographer_(photographer), speech_(std::move(speech)), stepStartMs_(steadyNowMs())
+    : dialog_(dialog), exit_(dialog, closeButton), log_(log), photographer_(photographer), speech_(std::move(speech)),
+      stepStartMs_(steadyNowMs())
 {
     dialog->installEventFilter(this);
     watchPage(recordButton);
@@ -78,8 +75,18 @@ void MicrophoneWorker::advance(bool isListenerLost)
 {
     if (!dialog_ || !dialog_->isVisible())
         return;
-    if (isListenerLost && step_ != Step::lost && step_ != Step::closing)
-        return awaitItsOwnEnd(QStringLiteral("listener lost"));
+    if (isListenerLost && !exit_.hasBegun())
+        exit_.awaitItsOwnEnd(QStringLiteral("listener lost"));
+    else if (exit_.hasBegun())
+        exit_.advance();
+    else
+        work();
+    if (exit_.isClosing())
+        heard_.reset();
+}
+
+void MicrophoneWorker::work()
+{
     switch (step_) {
     case Step::choosing:
         return choose();
@@ -92,23 +99,15 @@ void MicrophoneWorker::advance(bool isListenerLost)
     case Step::playing:
         return play();
     case Step::repeating:
-        if (const QWidget *next = findShown(nextButton); next != nullptr && !next->isEnabled())
+        if (const QWidget *next = findShown(*dialog_, nextButton); next != nullptr && !next->isEnabled())
             enter(Step::playing);
         else if (inStepMs() > pageLimitMs)
-            close(QStringLiteral("the dialog did not play again"));
+            exit_.close(QStringLiteral("the dialog did not play again"));
         return;
     case Step::judging:
         return judge();
     case Step::leaving:
         return leave();
-    case Step::lost:
-        if (inStepMs() > ownEndLimitMs)
-            close(reason_);
-        return;
-    case Step::closing:
-        if (inStepMs() > pressAgainMs)
-            pressClose();
-        return;
     }
 }
 
@@ -119,19 +118,11 @@ void MicrophoneWorker::enter(Step step)
     pressedMs_ = 0;
 }
 
-// The pages share names: only one of them is shown.
-QWidget *MicrophoneWorker::findShown(const char *name) const
-{
-    const QList<QWidget *> widgets = dialog_->findChildren<QWidget *>(QLatin1String(name));
-    const auto shown = std::find_if(widgets.begin(), widgets.end(), [](const QWidget *widget) { return widget->isVisible(); });
-    return shown == widgets.end() ? nullptr : *shown;
-}
-
 bool MicrophoneWorker::press(const char *name)
 {
     if (pressedMs_ > 0 && steadyNowMs() - pressedMs_ < pressAgainMs)
         return false;
-    if (!clickOn(findShown(name)))
+    if (!clickOn(findShown(*dialog_, name)))
         return false;
     pressedMs_ = steadyNowMs();
     return true;
@@ -152,17 +143,17 @@ bool MicrophoneWorker::chooseMicrophone()
         clickOn(choice);
         return false;
     }
-    close(QStringLiteral("no microphone is named '%1' (there are: '%2')")
-              .arg(speech_.microphone, names.join(QStringLiteral("', '"))));
+    exit_.close(QStringLiteral("no microphone is named '%1' (there are: '%2')")
+                    .arg(speech_.microphone, names.join(QStringLiteral("', '"))));
     return false;
 }
 
 void MicrophoneWorker::choose()
 {
-    if (findShown(recordButton) != nullptr)
+    if (findShown(*dialog_, recordButton) != nullptr)
         return enter(Step::preparing);
     if (inStepMs() > pageLimitMs)
-        return close(QStringLiteral("the dialog did not take the microphone"));
+        return exit_.close(QStringLiteral("the dialog did not take the microphone"));
     if (chooseMicrophone())
         press(nextButton);
 }
@@ -172,18 +163,19 @@ void MicrophoneWorker::prepare()
     if (speaker_ == nullptr)
         speaker_ = std::make_unique<SpeakerLink>(speech_.device, speech_.clip);
     if (speaker_->hasFailed() || inStepMs() > speakerLimitMs)
-        return close(speaker_->errorText().isEmpty() ? QStringLiteral("the speech could not begin") : speaker_->errorText());
+        return exit_.close(speaker_->errorText().isEmpty() ? QStringLiteral("the speech could not begin")
+                                                           : speaker_->errorText());
     if (speaker_->isReady())
         enter(Step::pressing);
 }
 
 void MicrophoneWorker::pressRecord()
 {
-    const QWidget *button = findShown(recordButton);
+    const QWidget *button = findShown(*dialog_, recordButton);
     if (pressedMs_ > 0 && button != nullptr && !button->isEnabled())
         return enter(Step::recording);
     if (inStepMs() > pageLimitMs)
-        return close(QStringLiteral("the dialog did not record"));
+        return exit_.close(QStringLiteral("the dialog did not record"));
     if (press(recordButton))
         recordPressedMs_ = pressedMs_;
 }
@@ -195,23 +187,23 @@ void MicrophoneWorker::speak()
         speaker_->speak();
     }
     if (speaker_->hasFailed())
-        return awaitItsOwnEnd(speaker_->errorText());
+        return exit_.awaitItsOwnEnd(speaker_->errorText());
     if (playBeganMs_ > 0)
         return enter(Step::playing);
     if (inStepMs() > jobLimitMs)
-        close(QStringLiteral("the dialog did not end its recording"));
+        exit_.close(QStringLiteral("the dialog did not end its recording"));
 }
 
 void MicrophoneWorker::play()
 {
-    const QWidget *next = findShown(nextButton);
+    const QWidget *next = findShown(*dialog_, nextButton);
     if (next != nullptr && next->isEnabled()) {
         playEndedMs_ = steadyNowMs();
         photographer_.take(dialog_, QStringLiteral("microphone-played"));
         return enter(Step::judging);
     }
     if (inStepMs() > jobLimitMs)
-        close(QStringLiteral("the dialog did not end its playback"));
+        exit_.close(QStringLiteral("the dialog did not end its playback"));
 }
 
 // Before the dialog ends: the question that follows must have an answer.
@@ -219,7 +211,7 @@ void MicrophoneWorker::judge()
 {
     if (log_.listenedUpToMs() < playEndedMs_ + listenerDelayMs) {
         if (inStepMs() > listenerLimitMs)
-            close(QStringLiteral("listener lost"));
+            exit_.close(QStringLiteral("listener lost"));
         return;
     }
     const HeardRecording heard = measured();
@@ -234,7 +226,7 @@ void MicrophoneWorker::listenAgain()
 {
     if (!press(playButton)) {
         if (inStepMs() > listenerLimitMs)
-            close(QStringLiteral("the dialog did not play again"));
+            exit_.close(QStringLiteral("the dialog did not play again"));
         return;
     }
     hasRepeated_ = true;
@@ -245,29 +237,8 @@ void MicrophoneWorker::listenAgain()
 void MicrophoneWorker::leave()
 {
     if (inStepMs() > pageLimitMs)
-        return close(QStringLiteral("the dialog did not go on"));
+        return exit_.close(QStringLiteral("the dialog did not go on"));
     press(nextButton);
-}
-
-// What took the listener away may have taken the dialog's device as well: only the dialog can tell.
-void MicrophoneWorker::awaitItsOwnEnd(const QString &reason)
-{
-    reason_ = reason;
-    enter(Step::lost);
-}
-
-void MicrophoneWorker::close(const QString &reason)
-{
-    reason_ = reason;
-    heard_.reset();
-    enter(Step::closing);
-    pressClose();
-}
-
-void MicrophoneWorker::pressClose()
-{
-    stepStartMs_ = steadyNowMs();
-    clickOn(findShown(closeButton));
 }
 
 HeardRecording MicrophoneWorker::measured() const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/core/run_record.h"
+#include "host/operator/dialog_exit.h"
 #include "host/operator/heard_log.h"
 #include "host/operator/speaker_link.h"
 
@@ -44,20 +45,20 @@ public:
     qint64 playBeganMs() const { return playBeganMs_; }
     qint64 playEndedMs() const { return playEndedMs_; }
     /// Why it gave up; empty when it did not.
-    const QString &reason() const { return reason_; }
+    const QString &reason() const { return exit_.reason(); }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    enum class Step { choosing, preparing, pressing, recording, playing, repeating, judging, leaving, lost, closing };
+    enum class Step { choosing, preparing, pressing, recording, playing, repeating, judging, leaving };
 
     void enter(Step step);
     qint64 inStepMs() const { return steadyNowMs() - stepStartMs_; }
-    QWidget *findShown(const char *name) const;
     bool press(const char *name);
     void watchPage(const char *name);
 
+    void work();
     void choose();
     bool chooseMicrophone();
     void prepare();
@@ -67,15 +68,13 @@ private:
     void judge();
     void listenAgain();
     void leave();
-    void awaitItsOwnEnd(const QString &reason);
-    void close(const QString &reason);
-    void pressClose();
 
     HeardRecording measured() const;
     void measureLevels(HeardRecording &heard) const;
     std::optional<double> latencyTo(qint64 startMs) const;
 
     QPointer<QWidget> dialog_;
+    DialogExit exit_;
     const HeardLog &log_;
     WindowPhotographer &photographer_;
     Speech speech_;
@@ -90,7 +89,6 @@ private:
     qint64 playBeganMs_ = 0;
     qint64 playEndedMs_ = 0;
     std::optional<HeardRecording> heard_;
-    QString reason_;
 };
 
 } // namespace host

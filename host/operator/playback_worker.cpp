@@ -33,10 +33,6 @@ constexpr qint64 waitLimitMs = 30'000;
 constexpr qint64 playLimitMs = 90'000;
 constexpr qint64 listenerLimitMs = 20'000;
 constexpr qint64 answerLimitMs = 10'000;
-/// A dialog ends some two seconds after it lost its device.
-constexpr qint64 ownEndLimitMs = 5'000;
-/// A press is repeated when it had no effect for that long.
-constexpr qint64 pressAgainMs = 2'000;
 /// The clocks of dialog and capture agree to a buffer or two.
 constexpr qint64 clockToleranceMs = 200;
 constexpr qint64 longestLatencyMs = 2'000;
@@ -60,8 +56,9 @@ std::tuple<qsizetype, qsizetype, double> clarityOf(const QList<HeardDigit> &rows
 
 PlaybackWorker::PlaybackWorker(QWidget *dialog, const HeardLog &log, WindowPhotographer &photographer, int mistypedSequences,
                                qint64 listenFromMs, const QStringList &endpoints)
-    : dialog_(dialog), log_(log), photographer_(photographer), mistypedSequences_(mistypedSequences),
-      stepStartMs_(steadyNowMs()), listenFromMs_(listenFromMs), source_(endpoints.value(1)), volumes_(endpoints)
+    : dialog_(dialog), exit_(dialog, closeButton), log_(log), photographer_(photographer),
+      mistypedSequences_(mistypedSequences), stepStartMs_(steadyNowMs()), listenFromMs_(listenFromMs),
+      source_(endpoints.value(1)), volumes_(endpoints)
 {
     dialog->installEventFilter(this);
     for (const char *name : {thirdTyped, secondMessage}) {
@@ -76,10 +73,12 @@ void PlaybackWorker::advance(bool isListenerLost)
     if (!dialog_ || !dialog_->isVisible())
         return;
     noteMovie();
-    if (isListenerLost && step_ != Step::lost && step_ != Step::closing)
-        return awaitItsOwnEnd(QStringLiteral("listener lost"));
-    if (sequence_ == 1 && step_ != Step::closing && isShown(secondMessage))
+    if (isListenerLost && !exit_.hasBegun())
+        return exit_.awaitItsOwnEnd(QStringLiteral("listener lost"));
+    if (sequence_ == 1 && !exit_.isClosing() && isShown(secondMessage))
         return beginSecondSequence();
+    if (exit_.hasBegun())
+        return exit_.advance();
     switch (step_) {
     case Step::waiting:
     case Step::playing:
@@ -90,15 +89,7 @@ void PlaybackWorker::advance(bool isListenerLost)
         return type();
     case Step::answered:
         if (inStepMs() > answerLimitMs)
-            close(QStringLiteral("the dialog did not take the answer"));
-        return;
-    case Step::lost:
-        if (inStepMs() > ownEndLimitMs)
-            close(reason_);
-        return;
-    case Step::closing:
-        if (inStepMs() > pressAgainMs)
-            pressClose();
+            exit_.close(QStringLiteral("the dialog did not take the answer"));
         return;
     }
 }
@@ -133,6 +124,7 @@ void PlaybackWorker::beginSecondSequence()
 {
     sequence_ = 2;
     hasRepeated_ = false;
+    exit_.awaitNoLonger();
     listenFromMs_ = secondShownMs_ > 0 ? secondShownMs_ : steadyNowMs();
     enter(Step::waiting);
 }
@@ -149,7 +141,7 @@ void PlaybackWorker::wait()
         plays_.append({listenFromMs_, playEndMs_});
         enter(Step::deciding);
     } else if (inStepMs() > (step_ == Step::waiting ? waitLimitMs : playLimitMs)) {
-        close(QStringLiteral("the dialog did not play its sequence"));
+        exit_.close(QStringLiteral("the dialog did not play its sequence"));
     }
 }
 
@@ -177,7 +169,7 @@ void PlaybackWorker::decide()
     if (log_.listenedUpToMs() >= playEndMs_ + listenerDelayMs)
         return hasRepeated_ ? giveUp() : listenAgain();
     if (inStepMs() > listenerLimitMs)
-        close(QStringLiteral("listener lost"));
+        exit_.close(QStringLiteral("listener lost"));
 }
 
 void PlaybackWorker::listenAgain()
@@ -185,7 +177,7 @@ void PlaybackWorker::listenAgain()
     noteBetterRows();
     if (!clickOn(find(repeatButton))) {
         if (inStepMs() > listenerLimitMs)
-            close(QStringLiteral("the dialog could not be answered"));
+            exit_.close(QStringLiteral("the dialog could not be answered"));
         return;
     }
     hasRepeated_ = true;
@@ -197,11 +189,11 @@ void PlaybackWorker::giveUp()
 {
     noteBetterRows();
     if (const QString reason = whyNotSilent(); !reason.isEmpty())
-        return close(reason);
+        return exit_.close(reason);
     if (clickOn(find(failButton)))
         enter(Step::answered);
     else if (inStepMs() > listenerLimitMs)
-        close(QStringLiteral("the dialog could not be answered"));
+        exit_.close(QStringLiteral("the dialog could not be answered"));
 }
 
 // Why the device cannot be called silent; empty where it can.
@@ -229,7 +221,7 @@ void PlaybackWorker::type()
 {
     if (typedCount_ > 0 && !isTyped(digitToType(typedCount_ - 1))) {
         if (inStepMs() > answerLimitMs)
-            close(QStringLiteral("the keypad does not answer"));
+            exit_.close(QStringLiteral("the keypad does not answer"));
         return;
     }
     typeNext();
@@ -242,7 +234,7 @@ void PlaybackWorker::typeNext()
     const QString button = QString::fromLatin1(unpressedDigit).arg(digit);
     if (!(isByMouse ? clickOn(dialog_->findChild<QWidget *>(button)) : pressDigitKey(dialog_, digit))) {
         if (inStepMs() > answerLimitMs)
-            close(QStringLiteral("the keypad does not answer"));
+            exit_.close(QStringLiteral("the keypad does not answer"));
         return;
     }
     const qsizetype row = rows_.size() - sequenceLength + typedCount_;
@@ -260,25 +252,6 @@ int PlaybackWorker::digitToType(int position) const
     while (answer_.contains(wrong))
         ++wrong;
     return wrong;
-}
-
-// What took the listener away may have taken the dialog's device as well: only the dialog can tell.
-void PlaybackWorker::awaitItsOwnEnd(const QString &reason)
-{
-    reason_ = reason;
-    enter(Step::lost);
-}
-
-void PlaybackWorker::close(const QString &reason)
-{
-    reason_ = reason;
-    pressClose();
-}
-
-void PlaybackWorker::pressClose()
-{
-    clickOn(find(closeButton));
-    enter(Step::closing);
 }
 
 // The three loudest where noises came between, in the order of their beginning; digits before other sounds.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/core/run_record.h"
+#include "host/operator/dialog_exit.h"
 #include "host/operator/heard_log.h"
 #include "host/operator/volume_watch.h"
 
@@ -35,13 +36,13 @@ public:
     /// Rows of the sequences so far; moments on the steady clock.
     const QList<HeardDigit> &digits() const { return rows_; }
     /// Why it gave up; empty when it did not.
-    const QString &reason() const { return reason_; }
+    const QString &reason() const { return exit_.reason(); }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    enum class Step { waiting, playing, deciding, typing, answered, lost, closing };
+    enum class Step { waiting, playing, deciding, typing, answered };
 
     void enter(Step step);
     qint64 inStepMs() const { return steadyNowMs() - stepStartMs_; }
@@ -58,9 +59,6 @@ private:
     QString whyNotSilent() const;
     void type();
     void typeNext();
-    void awaitItsOwnEnd(const QString &reason);
-    void close(const QString &reason);
-    void pressClose();
 
     QList<HeardEvent> digitsOfPlay() const;
     QList<HeardEvent> loudestOfPlay() const;
@@ -83,6 +81,7 @@ private:
     };
 
     QPointer<QWidget> dialog_;
+    DialogExit exit_;
     const HeardLog &log_;
     WindowPhotographer &photographer_;
     int mistypedSequences_;
@@ -102,7 +101,6 @@ private:
     QList<HeardDigit> rows_;
     Child newestChild_{};
     QList<qint64> movieStarts_; ///< moments at which the dialog said that it plays
-    QString reason_;
 };
 
 } // namespace host

@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/operator/speaker_link.h"
 
+#include "host/operator/child_end.h"
+
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 namespace host {
-
-namespace {
-
-constexpr int endLimitMs = 3'000;
-
-} // namespace
 
 SpeakerLink::SpeakerLink(const QString &device, const QString &clip, QObject *parent) : QObject(parent)
 {
@@ -25,13 +21,7 @@ SpeakerLink::SpeakerLink(const QString &device, const QString &clip, QObject *pa
 SpeakerLink::~SpeakerLink()
 {
     process_.disconnect(this);
-    if (process_.state() == QProcess::NotRunning)
-        return;
-    process_.closeWriteChannel();
-    if (!process_.waitForFinished(endLimitMs)) {
-        process_.kill();
-        process_.waitForFinished(endLimitMs);
-    }
+    endByClosedInput(process_);
 }
 
 void SpeakerLink::speak() { process_.write("speak\n"); }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/operator/test_operator.h"
 
+#include "host/operator/dialog_exit.h"
 #include "host/operator/listener_link.h"
 #include "host/operator/microphone_worker.h"
 #include "host/operator/playback_worker.h"
@@ -22,8 +23,6 @@ namespace host {
 namespace {
 
 constexpr std::chrono::milliseconds lookInterval{60};
-/// A press is repeated when the prompt is still there after that long.
-constexpr qint64 pressAgainMs = 2'000;
 /// On a slow start a dialog's first digit may hold the thread before the dialog is seen.
 constexpr qint64 unseenMs = 3'000;
 
