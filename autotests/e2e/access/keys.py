@@ -5,10 +5,11 @@ import subprocess
 from contextlib import contextmanager
 
 from reader import LISTS
-from stage import Failure, wait_until
+from stage import PATIENCE_SECONDS, Failure, wait_until
 
 LONGEST_ROUND = 40
 SECOND_LOOKS = 3
+MENU_SECONDS = 15
 
 
 def place_of(element):
@@ -44,6 +45,16 @@ class Keys:
             return now if now and now.path() != before.path() else None
 
         return wait_until(f"the keyboard does not leave {before.path()}", look)
+
+    def open_menu(self, key, first):
+        """Presses `key` until the menu is open whose first entry is `first`: one that comes while another menu closes is lost."""
+        for patience in (MENU_SECONDS, MENU_SECONDS, PATIENCE_SECONDS):
+            self.stage.press(key)
+            try:
+                return self.reader.await_focus("menu item", first, patience)
+            except Failure as failure:
+                complaint = failure
+        raise complaint
 
     def round(self, what, expected, unseen=()):
         """Tabs once through the window and back again: the elements `expected`, each seen to have the keyboard but for those

@@ -10,7 +10,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-from stage import Failure, wait_until  # noqa: E402
+from stage import PATIENCE_SECONDS, Failure, wait_until  # noqa: E402
 
 warnings.filterwarnings("ignore", category=DeprecationWarning)
 
@@ -181,7 +181,7 @@ class Reader:
             chain.pop()
         return chain[-1] if chain else None
 
-    def await_focus(self, role, name=None):
+    def await_focus(self, role, name=None, seconds=PATIENCE_SECONDS):
         def look():
             self.seen = self.focused()
             return self.seen if self.seen and self.seen.role == role and name in (None, self.seen.name) else None
@@ -189,6 +189,6 @@ class Reader:
         self.seen = None
         wanted = role if name is None else f'{role} "{name}"'
         try:
-            return wait_until("", look)
+            return wait_until("", look, seconds)
         except Failure:
             raise Failure(f"the keyboard is not on {wanted} but on {self.seen.path() if self.seen else 'nothing'}") from None
