@@ -18,7 +18,7 @@ QString entryText(int bit)
 {
     const bool cancels = (ostra::cancelingEventMask >> static_cast<unsigned>(bit) & 1U) != 0;
     const QString text = hostText(cancels ? "EVENT_CANCELS" : "EVENT_DOES_NOT_CANCEL");
-    return QStringLiteral("%1\t%2").arg(text.arg(QStringLiteral("&%1").arg(bit)), RunKeys::eventKeys(bit));
+    return text.arg(QStringLiteral("&%1").arg(bit));
 }
 
 } // namespace
@@ -28,6 +28,8 @@ void fillEventMenu(QMenu &menu, QObject *receiver, const std::function<void(int)
     for (int bit = 0; bit < RunKeys::eventCount; ++bit) {
         QAction *entry = menu.addAction(QString());
         entry->setObjectName(QStringLiteral("host_event_%1").arg(bit));
+        entry->setShortcut(RunKeys::eventKeys(bit));
+        entry->setShortcutContext(Qt::WidgetShortcut); // for the eye and the ear: RunKeys takes them for the whole program
         QObject::connect(entry, &QAction::triggered, receiver, [raise, bit] { raise(bit); });
     }
     retranslateEventMenu(menu);

@@ -23,6 +23,7 @@ HistoryTable::HistoryTable(QWidget *parent) : QTableWidget(0, historyColumnCount
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
+    setFocusPolicy(Qt::NoFocus); // where nothing is listed one would not see that the keyboard is there
     setWordWrap(false);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
@@ -36,6 +37,7 @@ void HistoryTable::add(const RunRecord &record)
     records_.prepend(record);
     insertRow(0);
     fillRow(0, record);
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void HistoryTable::fillRow(int row, const RunRecord &record)

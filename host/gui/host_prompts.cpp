@@ -128,6 +128,7 @@ QuestionPrompt::QuestionPrompt(const QString &title, const QString &text, QWidge
     QVBoxLayout *layout = makeLayout(*this);
     addTitle(*layout, shownText(title), QStringLiteral("host_question_title"));
     QLabel *question = addText(*layout, shownSentences(text).join(u'\n'), QStringLiteral("host_question_text"));
+    question->setTextInteractionFlags(Qt::TextSelectableByKeyboard); // shows where the keyboard is
     question->setFocusPolicy(Qt::StrongFocus);
     const Buttons buttons = addButtons(*layout, "QUESTION_YES", "QUESTION_NO", QStringLiteral("host_question_buttons"));
     buttons.first->setObjectName(QStringLiteral("host_question_yes"));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/gui/level_bar.h"
 
+#include "host/gui/accessible_roles.h"
 #include "host/gui/level_words.h"
 
 #include <QPainter>
@@ -11,15 +12,18 @@ namespace host {
 
 namespace {
 
-constexpr double lowestShownDbfs = -60.0;
 constexpr int widthInLetters = 40;
 constexpr int peakLineWidth = 3;
 
-double shareOf(double level) { return std::clamp(1.0 - level / lowestShownDbfs, 0.0, 1.0); }
+double shareOf(double level) { return std::clamp(1.0 - level / LevelBar::lowestShownDbfs, 0.0, 1.0); }
 
 } // namespace
 
-LevelBar::LevelBar(QWidget *parent) : QWidget(parent) { setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); }
+LevelBar::LevelBar(QWidget *parent) : QWidget(parent)
+{
+    installAccessibleRoles();
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
 
 void LevelBar::setLevels(double rmsDbfs, double peakDbfs)
 {

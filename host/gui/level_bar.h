@@ -5,11 +5,13 @@
 
 namespace host {
 
-/// A bar for the RMS level and a line for the peak, from -60 to 0 dBFS. For eyes only, like WaveView.
+/// A bar for the RMS level and a line for the peak, from -60 to 0 dBFS. A screen reader is told the RMS level.
 class LevelBar : public QWidget {
     Q_OBJECT
 
 public:
+    static constexpr double lowestShownDbfs = -60.0;
+
     explicit LevelBar(QWidget *parent = nullptr);
 
     void setLevels(double rmsDbfs, double peakDbfs);

@@ -11,6 +11,7 @@
 #include "host/gui/key_text.h"
 #include "host/gui/level_words.h"
 #include "host/gui/result_panel.h"
+#include "host/gui/run_keys.h"
 #include "host/gui/run_panel.h"
 #include "host/gui/wave_view.h"
 #include "host/reports/run_report.h"
@@ -97,6 +98,7 @@ void MainWindow::layOut()
     showWave({});
     log_->setObjectName(QStringLiteral("host_log"));
     log_->setReadOnly(true);
+    log_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard); // shows where the keyboard is
     log_->setTabChangesFocus(true);
     log_->setMaximumBlockCount(logLineLimit);
     tabs_->setObjectName(QStringLiteral("host_tabs"));
@@ -124,8 +126,9 @@ void MainWindow::makeMenus(bool hasEvents)
     quitAction_ = fileMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
     testMenu_ = menuBar()->addMenu(QString());
     runAction_ = testMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_R), this, &MainWindow::runChosen);
-    // Without a shortcut of its own: its keys are taken for the whole program.
     stopAction_ = testMenu_->addAction(QString(), this, &MainWindow::stopPressed);
+    stopAction_->setShortcut(RunKeys::stopKeys());
+    stopAction_->setShortcutContext(Qt::WidgetShortcut); // for the eye and the ear: RunKeys takes them for the whole program
     makeLanguageMenu();
     if (hasEvents) {
         eventMenu_ = menuBar()->addMenu(QString());

@@ -6,7 +6,6 @@
 #include "host/gui/main_window.h"
 #include "host/gui/mnemonics.h"
 #include "host/gui/result_panel.h"
-#include "host/gui/run_keys.h"
 #include "host/gui/run_panel.h"
 #include "host/gui/wave_view.h"
 
@@ -53,7 +52,7 @@ void MainWindow::retranslateMenus()
     quitAction_->setText(file[3]);
     const QStringList test = withMnemonics({hostText("RUN_TEST"), hostText("STOP_TEST")});
     runAction_->setText(test[0]);
-    stopAction_->setText(QStringLiteral("%1\t%2").arg(test[1], RunKeys::stopKeys()));
+    stopAction_->setText(test[1]);
     aboutAction_->setText(withMnemonics({hostText("ABOUT")}).first());
     for (QAction *entry : languages_->actions()) {
         entry->setChecked(entry->data().toString() == language_.code());
@@ -78,6 +77,8 @@ void MainWindow::assignMnemonics()
     tests_->stopButton()->setText(texts[6]);
     if (eventMenu_ != nullptr)
         eventMenu_->setTitle(texts[7]);
+    for (QMenu *menu : menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly))
+        menu->setAccessibleName(QString(menu->title()).remove(u'&'));
 }
 
 } // namespace host

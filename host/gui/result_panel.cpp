@@ -95,6 +95,8 @@ void ResultPanel::retranslate()
     else
         verdict_->setText(hostText(isRunning_ ? "TEST_IS_RUNNING" : "NO_RESULT_YET"));
     verdict_->setAccessibleName(hostText("RESULT") + QStringLiteral(": ") + verdict_->text());
+    // Where nothing is listed one would not see that the keyboard is there.
+    messages_->setFocusPolicy(messages_->count() > 0 ? Qt::StrongFocus : Qt::NoFocus);
 }
 
 void ResultPanel::showVerdict()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/gui/run_bar.h"
 
+#include "host/gui/accessible_roles.h"
 #include "host/gui/event_menu.h"
 #include "host/gui/key_text.h"
 #include "host/gui/mnemonics.h"
@@ -22,6 +23,7 @@ RunBar::RunBar(QWidget *mainWindow, bool hasEvents)
     : QWidget(mainWindow, Qt::Tool | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowStaysOnTopHint),
       title_(new QLabel(this)), stop_(new QPushButton(this))
 {
+    installAccessibleRoles();
     setObjectName(QStringLiteral("host_run_bar"));
     setAttribute(Qt::WA_ShowWithoutActivating); // the keyboard stays with the dialog
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -58,6 +60,7 @@ void RunBar::retranslate()
         return;
     events_->setText(texts[1]);
     events_->setAccessibleName(hostText("SIMULATE_EVENT"));
+    menu_->setAccessibleName(hostText("SIMULATE_EVENT"));
     retranslateEventMenu(*menu_);
 }
 

@@ -95,8 +95,16 @@ void RunPanel::setCanRun(bool canRun)
     enableButtons();
 }
 
+// The keyboard goes over from the button that is locked to the other one; left to itself it would go on to the next widget.
 void RunPanel::enableButtons()
 {
+    const QWidget *keyboard = window()->focusWidget();
+    QPushButton *other = isRunning_ ? stop_ : run_;
+    const bool goesOver = keyboard == (isRunning_ ? run_ : stop_);
+    if (goesOver) {
+        other->setEnabled(true);
+        other->setFocus();
+    }
     run_->setEnabled(canRun_ && !isRunning_);
     stop_->setEnabled(isRunning_ && !isStopping_);
     list_->setEnabled(!isRunning_);
@@ -113,7 +121,7 @@ void RunPanel::showDescription()
 {
     const int test = chosen();
     description_->setText(test >= 0 ? shownSentences(tests_[test].descriptionKey).join(u'\n') : QString());
-    description_->setAccessibleName(hostText("TEST_DESCRIPTION"));
+    description_->setAccessibleName(hostText("TEST_DESCRIPTION") + QStringLiteral(": ") + description_->text());
 }
 
 void RunPanel::retranslate()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/gui/wave_view.h"
 
+#include "host/gui/accessible_roles.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -14,7 +16,11 @@ constexpr int heightInLines = 3;
 
 } // namespace
 
-WaveView::WaveView(QWidget *parent) : QWidget(parent) { setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); }
+WaveView::WaveView(QWidget *parent) : QWidget(parent)
+{
+    installAccessibleRoles();
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
 
 void WaveView::setWave(const QList<double> &wave)
 {

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/host/gui/shown_program.h"
 #include "host/gui/host_prompts.h"
+#include "host/gui/level_bar.h"
 #include "host/gui/level_window.h"
 #include "host/gui/run_bar.h"
+#include "host/gui/wave_view.h"
 #include "host/translations/translators.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QObject>
 #include <QPushButton>
 #include <QTabWidget>
@@ -108,6 +111,8 @@ void visitAllPages(QWidget &window, Walk &walk)
     }
 }
 
+QString nameOf(QWidget *widget) { return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name); }
+
 } // namespace
 
 // Every window of the program as a screen reader meets it.
@@ -122,6 +127,8 @@ private slots:
     void namesEveryElement();
     void findsAnUnnamedElement();
     void tabsThroughEveryButton();
+    void tellsWhatIsWritten();
+    void tellsWhatItPaints();
 
 private:
     QString before_;
@@ -186,6 +193,11 @@ void TestAccessibleWindows::tabsThroughEveryButton()
 {
     QVERIFY(host::installTranslators(QStringLiteral("en_US")));
     ShownProgram program;
+    program.module.playback = [](ostra::TestContext &context) {
+        context.messages()->addMessage("AUDIO_PLAYBACK_TEST_WRONG_SEQUENCE", 2, 0);
+        return ostra::result::failed;
+    };
+    QVERIFY(program.session.run(0, 0, QStringLiteral("en_US")));
     program.window.choose(0, 0);
     program.window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&program.window));
@@ -196,6 +208,40 @@ void TestAccessibleWindows::tabsThroughEveryButton()
     }
     for (const char *name : {"host_devices", "host_refresh", "host_tests", "host_run", "host_result_messages", "host_log"})
         QVERIFY2(met.contains(QLatin1String(name)), qPrintable(QLatin1String(name) + QStringLiteral(" of ") + met.join(u' ')));
+}
+
+void TestAccessibleWindows::tellsWhatIsWritten()
+{
+    QVERIFY(host::installTranslators(QStringLiteral("en_US")));
+    ShownProgram program;
+    const auto *description = program.find<QLabel>("host_test_description");
+    QVERIFY(nameOf(program.find<QLabel>("host_test_description")).contains(description->text()));
+    for (const QAction *title : program.window.menuBar()->actions()) {
+        QMenu *menu = title->menu();
+        QVERIFY2(!nameOf(menu).isEmpty(), qPrintable(title->text()));
+        for (const QAction *action : menu->actions())
+            QVERIFY2(!action->text().contains(u'\t'), qPrintable(action->text())); // its keys are told apart from its name
+    }
+}
+
+void TestAccessibleWindows::tellsWhatItPaints()
+{
+    ShownProgram program;
+    host::RunBar bar(&program.window, false);
+    host::LevelWindow levels(&program.window, QStringLiteral("Monitor of Speakers"));
+    QCOMPARE(QAccessible::queryAccessibleInterface(&bar)->role(), QAccessible::Window);
+    QCOMPARE(QAccessible::queryAccessibleInterface(&levels)->role(), QAccessible::Window);
+    QCOMPARE(QAccessible::queryAccessibleInterface(levels.findChild<host::WaveView *>())->role(), QAccessible::Graphic);
+    auto *meter = levels.findChild<host::LevelBar *>();
+    QAccessibleInterface *told = QAccessible::queryAccessibleInterface(meter);
+    QCOMPARE(told->role(), QAccessible::ProgressBar);
+    QAccessibleValueInterface *value = told->valueInterface();
+    QVERIFY(value != nullptr);
+    QCOMPARE(value->minimumValue().toDouble(), -60.0);
+    QCOMPARE(value->maximumValue().toDouble(), 0.0);
+    QCOMPARE(value->currentValue().toDouble(), -60.0);
+    meter->setLevels(-21.5, -3);
+    QCOMPARE(value->currentValue().toDouble(), -21.5);
 }
 
 QTEST_MAIN(TestAccessibleWindows)
