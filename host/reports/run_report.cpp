@@ -164,6 +164,26 @@ QJsonValue recordingOf(const std::optional<HeardRecording> &heard)
          heard->answer ? QJsonValue(*heard->answer ? QStringLiteral("yes") : QStringLiteral("no")) : QJsonValue()}};
 }
 
+QJsonValue sideOrNull(const std::optional<HeardSide> &side) { return side ? QJsonValue(sideName(*side)) : QJsonValue(); }
+
+QJsonValue levelsOrNull(const std::optional<SideLevels> &levels)
+{
+    return levels ? QJsonValue(QJsonArray{rounded(levels->leftDbfs, 10), rounded(levels->rightDbfs, 10)}) : QJsonValue();
+}
+
+QJsonValue channelsOf(const std::optional<ChannelCheck> &check)
+{
+    if (!check)
+        return {};
+    return QJsonObject{{QStringLiteral("mapping"), mappingName(check->mapping)},
+                       {QStringLiteral("source"), check->source},
+                       {QStringLiteral("leftHeard"), sideOrNull(check->left)},
+                       {QStringLiteral("rightHeard"), sideOrNull(check->right)},
+                       {QStringLiteral("leftDbfs"), levelsOrNull(check->ofLeft)},
+                       {QStringLiteral("rightDbfs"), levelsOrNull(check->ofRight)},
+                       {QStringLiteral("reason"), check->reason}};
+}
+
 QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
 {
     const std::uint32_t code = codeOf(verdictOf(record));
@@ -188,6 +208,7 @@ QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
             {QStringLiteral("digits"), digitsOf(record)},
             {QStringLiteral("latency"), latencyOf(record.digits)},
             {QStringLiteral("recording"), recordingOf(record.recording)},
+            {QStringLiteral("channelMapping"), channelsOf(record.channels)},
             {QStringLiteral("restoredVolumes"), QJsonArray::fromStringList(record.restoredVolumes)},
             {QStringLiteral("volumeComplaint"), record.volumeComplaint},
             {QStringLiteral("keptAudio"), record.keptAudio},
