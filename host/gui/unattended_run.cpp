@@ -6,11 +6,13 @@
 #include "host/core/verdict.h"
 #include "host/gui/console_output.h"
 #include "host/gui/key_text.h"
+#include "host/operator/channel_listener.h"
 #include "host/operator/test_operator.h"
 #include "host/precheck/precheck.h"
 #include "host/reports/run_report.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QTimer>
 
@@ -82,6 +84,8 @@ std::optional<RunRecord> UnattendedRun::perform()
         if (finding.isBlocking())
             return unheard(QStringLiteral("clips: ") + precheckText(finding));
     }
+    if (options_.isChannelCheck)
+        checkChannels();
     TestOperator person(operatorSettings());
     if (meter_)
         QObject::connect(&person, &TestOperator::metered, meter_);
@@ -94,8 +98,7 @@ std::optional<RunRecord> UnattendedRun::perform()
         session_.stop();
     });
     return session_.run(test_, device_, language_, [this, &person, &isOverdue](RunRecord &record) {
-        record.isUnattended = true;
-        record.listenedTo = options_.source;
+        describe(record);
         person.endRun(record);
         if (isOverdue)
             record.reason = QStringLiteral("the run took longer than five minutes");
@@ -123,22 +126,30 @@ OperatorSettings UnattendedRun::operatorSettings() const
     return settings;
 }
 
-// Nobody is there who could take the test.
-RunRecord UnattendedRun::unheard(const QString &reason) const
+void UnattendedRun::describe(RunRecord &record) const
 {
-    RunRecord record;
-    record.testLetter = session_.tests()[test_].letter;
-    record.testNameKey = session_.tests()[test_].nameKey;
-    record.device = session_.deviceList().devices()[device_];
-    record.language = language_;
-    record.startedUtc = QDateTime::currentDateTimeUtc();
-    record.endedUtc = record.startedUtc;
-    record.wasModuleCalled = false;
-    record.code = ostra::result::cannotBePerformed;
-    record.reason = reason;
     record.isUnattended = true;
     record.listenedTo = options_.source;
-    return record;
+}
+
+// Nobody is there who could take the test.
+std::optional<RunRecord> UnattendedRun::unheard(const QString &reason)
+{
+    return session_.refuse(test_, device_, language_, reason, [this](RunRecord &record) { describe(record); });
+}
+
+// Before the run raises the volumes: a side that the user turned down shall be found.
+void UnattendedRun::checkChannels()
+{
+    const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
+    ChannelListener ear({deviceName(), options_.source, clips, language_});
+    QEventLoop loop;
+    QObject::connect(&ear, &ChannelListener::finished, &loop, [this, &loop](const ChannelCheck &check) {
+        session_.noteChannels(deviceName(), check);
+        loop.quit();
+    });
+    ear.start();
+    loop.exec();
 }
 
 bool UnattendedRun::writeReports(const RunRecord &record) const
