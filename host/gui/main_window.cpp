@@ -8,6 +8,7 @@
 #include "host/gui/host_prompts.h"
 #include "host/gui/key_text.h"
 #include "host/gui/level_words.h"
+#include "host/gui/measurements_page.h"
 #include "host/gui/result_panel.h"
 #include "host/gui/run_panel.h"
 #include "host/gui/wave_view.h"
@@ -64,7 +65,7 @@ MainWindow::MainWindow(TestSession &session, LanguageSetting &language, QString 
       devices_(new DeviceTable(this)), devicesText_(new QLabel(this)), refresh_(new QPushButton(this)),
       tests_(new RunPanel(session.tests(), this)), resultBox_(new QGroupBox(this)), result_(new ResultPanel(this)),
       waveText_(new QLabel(this)), wave_(new WaveView(this)), tabs_(new QTabWidget(this)), log_(new QPlainTextEdit(this)),
-      history_(new HistoryTable(this))
+      history_(new HistoryTable(this)), measurements_(new MeasurementsPage(this))
 {
     setObjectName(QStringLiteral("host_main"));
     makeMenus(hasEvents);
@@ -100,6 +101,7 @@ void MainWindow::layOut()
     tabs_->setObjectName(QStringLiteral("host_tabs"));
     tabs_->addTab(log_, QString());
     tabs_->addTab(history_, QString());
+    tabs_->addTab(measurements_, QString());
     auto *middle = new QHBoxLayout;
     middle->addWidget(tests_, 1);
     middle->addWidget(resultBox_, 1);
@@ -122,8 +124,15 @@ void MainWindow::makeMenus(bool hasEvents)
     quitAction_ = fileMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
     testMenu_ = menuBar()->addMenu(QString());
     runAction_ = testMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_R), this, &MainWindow::runChosen);
+    runAloneAction_ = testMenu_->addAction(QString(), this, &MainWindow::runAloneChosen);
     // Without a shortcut of its own: its keys are taken for the whole program.
     stopAction_ = testMenu_->addAction(QString(), this, &MainWindow::stopPressed);
+    testMenu_->addSeparator();
+    channelsAction_ = testMenu_->addAction(QString(), this, &MainWindow::channelCheckChosen);
+    sourceAction_ = testMenu_->addAction(QString(), this, &MainWindow::sourceChosen);
+    runAloneAction_->setObjectName(QStringLiteral("host_run_alone"));
+    channelsAction_->setObjectName(QStringLiteral("host_check_channels"));
+    sourceAction_->setObjectName(QStringLiteral("host_choose_source"));
     makeLanguageMenu();
     if (hasEvents) {
         eventMenu_ = menuBar()->addMenu(QString());
@@ -156,7 +165,10 @@ void MainWindow::connectSession()
     // Later: a run from within the click would keep the button's own event open until it ends.
     connect(tests_, &RunPanel::runPressed, this, &MainWindow::runChosen, Qt::QueuedConnection);
     connect(tests_, &RunPanel::stopPressed, this, &MainWindow::stopPressed);
-    connect(devices_, &QTableWidget::itemSelectionChanged, this, [this] { tests_->setCanRun(devices_->chosen() >= 0); });
+    connect(devices_, &QTableWidget::itemSelectionChanged, this, [this] {
+        tests_->setCanRun(devices_->chosen() >= 0);
+        enableTools();
+    });
     connect(&session_, &TestSession::devicesAboutToBeRead, this, [this] {
         devicesText_->setText(hostText("READING_DEVICES"));
         devicesText_->repaint(); // the event loop stands still until they are read
@@ -181,6 +193,16 @@ void MainWindow::choose(qsizetype test, qsizetype device)
 {
     tests_->choose(test);
     devices_->choose(device);
+}
+
+int MainWindow::chosenTest() const { return tests_->chosen(); }
+
+QString MainWindow::chosenDevice() const { return devices_->chosenName(); }
+
+void MainWindow::setListening(bool isListening)
+{
+    isListening_ = isListening;
+    enableTools();
 }
 
 void MainWindow::showWave(const QList<double> &wave)
@@ -288,6 +310,7 @@ void MainWindow::showDevices(bool isComplete)
     if (!before.isEmpty() && devices_->chosen() < 0)
         log(hostText("LOG_DEVICE_GONE").arg(before));
     tests_->setCanRun(devices_->chosen() >= 0);
+    enableTools();
 }
 
 void MainWindow::showStarted(const RunRecord &record)
@@ -300,6 +323,7 @@ void MainWindow::showEnded(const RunRecord &record)
 {
     setRunning(false);
     result_->showRun(record);
+    measurements_->showRun(record);
     history_->add(record);
     log(hostText("LOG_RUN_ENDED").arg(shownText(record.testNameKey), record.device.name, verdictText(record)));
     if (!record.restoredVolumes.isEmpty())
@@ -333,11 +357,20 @@ void MainWindow::setRunning(bool isRunning)
     refreshAction_->setEnabled(!isRunning);
     runAction_->setEnabled(!isRunning);
     stopAction_->setEnabled(isRunning);
+    enableTools();
     for (QAction *action : {saveAction_, copyAction_})
         action->setEnabled(!isRunning && !session_.history().isEmpty());
     languages_->setEnabled(!isRunning && language_.canChange());
     if (eventMenu_ != nullptr)
         eventMenu_->setEnabled(isRunning);
+}
+
+void MainWindow::enableTools()
+{
+    const bool canPlay = !session_.isRunning() && devices_->chosen() >= 0;
+    runAloneAction_->setEnabled(canPlay && isListening_);
+    channelsAction_->setEnabled(canPlay);
+    sourceAction_->setEnabled(!session_.isRunning());
 }
 
 // An interruption outranks the verdict of the run that it ended, and a verdict the window's close button.

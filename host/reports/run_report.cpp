@@ -91,19 +91,12 @@ QJsonValue measurementOf(const std::optional<DigitMeasurement> &measured)
                        {QStringLiteral("bandLevelsDbfs"), listOf(measured->bandLevelsDbfs, 10)}};
 }
 
-// The module tells nobody what it draws. A sequence that it accepted was what was typed; the last one, when the test passed.
-QJsonValue playedOrNull(const RunRecord &record, const HeardDigit &digit)
-{
-    const bool isAccepted = record.moduleCode == ostra::result::passed && digit.sequence == record.digits.last().sequence;
-    return isAccepted ? digitOrNull(digit.typed) : QJsonValue();
-}
-
 QJsonObject digitRow(const RunRecord &record, const HeardDigit &digit)
 {
     return {{QStringLiteral("sequence"), digit.sequence},
             {QStringLiteral("position"), digit.position},
             {QStringLiteral("playedAtMs"), knownOrNull(static_cast<double>(digit.playedAtMs))},
-            {QStringLiteral("played"), playedOrNull(record, digit)},
+            {QStringLiteral("played"), digitOrNull(playedDigit(record, digit))},
             {QStringLiteral("heard"), digitOrNull(digit.heard)},
             {QStringLiteral("typed"), digitOrNull(digit.typed)},
             {QStringLiteral("score"), rounded(digit.score, 10'000)},
@@ -225,6 +218,13 @@ bool refuse(QString *error, const QString &file, const QString &why)
 }
 
 } // namespace
+
+std::optional<int> playedDigit(const RunRecord &record, const HeardDigit &digit)
+{
+    // The last one, when the test passed.
+    const bool isAccepted = record.moduleCode == ostra::result::passed && digit.sequence == record.digits.last().sequence;
+    return isAccepted ? digit.typed : std::nullopt;
+}
 
 QString resultName(std::uint32_t code)
 {
