@@ -205,6 +205,8 @@ void MeasurementsPage::retranslate()
                                        hostText("DIGIT_SNR"), hostText("DIGIT_LATENCY")});
     table_->setAccessibleName(hostText("MEASUREMENTS"));
     nothing_->setText(hostText("NOTHING_MEASURED"));
+    for (const Plot &plot : {wavePlot_, spectrumPlot_})
+        plot.view->setAccessibleName(hostText("MEASUREMENTS"));
     fillTable();
     showChosen();
 }
