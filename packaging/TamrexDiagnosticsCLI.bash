@@ -24,7 +24,7 @@ _TamrexDiagnosticsCLI() {
     case $command in
         list) options='--json --config --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
         info) options='--json --self-check --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
-        run) options='--config --test --device --listen --microphone --speak-through --report --keep-audio --all-languages --reports --screenshots --allow-virtual --language --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
+        run) options='--config --test --device --listen --microphone --speak-through --report --keep-audio --all-languages --reports --channel-check --screenshots --allow-virtual --language --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
         report) options='--output --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { mapfile -t COMPREPLY < <(compgen -f -- "$current"); return; } ;;
         clips) options='--json --language --folder --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { mapfile -t COMPREPLY < <(compgen -W 'verify' -- "$current"); return; } ;;
         *) [[ $current == -* ]] || options='list info run report clips' ;;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char *languages = "pt_BR en_US es_ES fr_FR it_IT de_DE nl_NL zh_CN ja_JP";
 
-constexpr std::array<OptionRow, 22> options{{
+constexpr std::array<OptionRow, 23> options{{
     {"json", nullptr, nullptr, "list info clips", Completion::none, nullptr,
      "print exactly one JSON document; everything else goes to standard error", false},
     {"config", nullptr, "DIR", "list run", Completion::folder, nullptr,
@@ -38,6 +38,9 @@ constexpr std::array<OptionRow, 22> options{{
      "run each test in each of the nine languages; the user's own language stays", false},
     {"reports", nullptr, "DIR", "run", Completion::folder, nullptr,
      "write the reports of each run into DIR, as .json, .xml (JUnit) and .html, named by device, test and language", false},
+    {"channel-check", nullptr, nullptr, "run", Completion::none, nullptr,
+     "check left and right of the device before the run, at the present volume; it is reported, and no part of the verdict",
+     false},
     {"screenshots", nullptr, "DIR", "run", Completion::folder, nullptr, "photograph the windows into that folder", false},
     {"allow-virtual", nullptr, nullptr, "run", Completion::none, nullptr,
      "also run on a device that no hardware stands behind; it is refused without this", false},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "host/core/channel_check.h"
 #include "host/core/device_list.h"
 #include "host/core/digit_measurement.h"
 
@@ -83,6 +84,7 @@ struct RunRecord {
     QString listenedTo; ///< capture source of an unattended run
     QList<HeardDigit> digits;
     std::optional<HeardRecording> recording; ///< of an unattended microphone run
+    std::optional<ChannelCheck> channels;    ///< the device's last check before the run
     QString keptAudio;                       ///< file with all that was heard; empty: no sound was kept
     QStringList screenshots;                 ///< files, absolute paths
     QStringList restoredVolumes;             ///< endpoints whose level the guardian had to put back

@@ -49,7 +49,7 @@ QAccessibleInterface *interfaceOf(const QString &className, QObject *object)
         return nullptr;
     if (className == QLatin1String("host::LevelBar"))
         return new AccessibleLevelBar(qobject_cast<LevelBar *>(widget));
-    if (className == QLatin1String("host::WaveView"))
+    if (className == QLatin1String("host::PlotView"))
         return new QAccessibleWidget(widget, QAccessible::Graphic);
     if (className == QLatin1String("host::RunBar") || className == QLatin1String("host::LevelWindow"))
         return new QAccessibleWidget(widget, QAccessible::Window);

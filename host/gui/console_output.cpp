@@ -89,6 +89,12 @@ QString recordingLines(const HeardRecording &heard)
                .arg(yesOrNo(heard.isMonoInStereo), heard.answer ? yesOrNo(*heard.answer) : QStringLiteral("none"));
 }
 
+QString channelWords(const ChannelCheck &check)
+{
+    const QString name = mappingName(check.mapping);
+    return check.reason.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, readable(check.reason));
+}
+
 } // namespace
 
 void print(const QString &text) { write(stdout, text); }
@@ -105,6 +111,8 @@ QString runSummary(const RunRecord &record)
         text += QStringLiteral("reason: %1\n").arg(record.reason);
     if (!record.volumeComplaint.isEmpty())
         text += QStringLiteral("volumes: %1\n").arg(record.volumeComplaint);
+    if (record.channels)
+        text += QStringLiteral("channels: %1\n").arg(channelWords(*record.channels));
     for (const RunMessage &message : record.messages) {
         const bool isError = message.level == ostra::message_level::error;
         text += QStringLiteral("%1: %2\n").arg(isError ? QStringLiteral("error") : QStringLiteral("note"), wordsOf(message));

@@ -47,6 +47,12 @@ LevelWindow::LevelWindow(QWidget *mainWindow, QString source)
     mainWindow->installEventFilter(this);
 }
 
+void LevelWindow::setSource(const QString &source)
+{
+    source_ = source;
+    retranslate();
+}
+
 void LevelWindow::retranslate()
 {
     setWindowTitle(hostText("METER_TITLE"));

@@ -29,6 +29,7 @@ public:
     /// `mainWindow` is the one that the dialog locks. Never shows itself while `source` is empty.
     LevelWindow(QWidget *mainWindow, QString source);
 
+    void setSource(const QString &source);
     void take(const MeteredMoment &moment);
     /// What was heard during the last playback of a recording: lowest and highest sample in turn, fifty pairs a second. Empty
     /// when there was none.

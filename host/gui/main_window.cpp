@@ -10,6 +10,7 @@
 #include "host/gui/host_prompts.h"
 #include "host/gui/key_text.h"
 #include "host/gui/level_words.h"
+#include "host/gui/measurements_page.h"
 #include "host/gui/result_panel.h"
 #include "host/gui/run_keys.h"
 #include "host/gui/run_panel.h"
@@ -67,7 +68,7 @@ MainWindow::MainWindow(TestSession &session, LanguageSetting &language, QString 
       devices_(new DeviceTable(this)), devicesText_(new QLabel(this)), refresh_(new QPushButton(this)),
       tests_(new RunPanel(session.tests(), this)), resultBox_(new QGroupBox(this)), result_(new ResultPanel(this)),
       waveText_(new QLabel(this)), wave_(new WaveView(this)), tabs_(new QTabWidget(this)), log_(new QPlainTextEdit(this)),
-      history_(new HistoryTable(this))
+      history_(new HistoryTable(this)), measurements_(new MeasurementsPage(this))
 {
     setObjectName(QStringLiteral("host_main"));
     makeMenus(hasEvents);
@@ -104,6 +105,7 @@ void MainWindow::layOut()
     tabs_->setObjectName(QStringLiteral("host_tabs"));
     tabs_->addTab(log_, QString());
     tabs_->addTab(history_, QString());
+    tabs_->addTab(measurements_, QString());
     auto *middle = new QHBoxLayout;
     middle->addWidget(tests_, 1);
     middle->addWidget(resultBox_, 1);
@@ -126,9 +128,16 @@ void MainWindow::makeMenus(bool hasEvents)
     quitAction_ = fileMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
     testMenu_ = menuBar()->addMenu(QString());
     runAction_ = testMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_R), this, &MainWindow::runChosen);
+    runAloneAction_ = testMenu_->addAction(QString(), this, &MainWindow::runAloneChosen);
     stopAction_ = testMenu_->addAction(QString(), this, &MainWindow::stopPressed);
     stopAction_->setShortcut(RunKeys::stopKeys());
     stopAction_->setShortcutContext(Qt::WidgetShortcut); // for the eye and the ear: RunKeys takes them for the whole program
+    testMenu_->addSeparator();
+    channelsAction_ = testMenu_->addAction(QString(), this, &MainWindow::channelCheckChosen);
+    sourceAction_ = testMenu_->addAction(QString(), this, &MainWindow::sourceChosen);
+    runAloneAction_->setObjectName(QStringLiteral("host_run_alone"));
+    channelsAction_->setObjectName(QStringLiteral("host_check_channels"));
+    sourceAction_->setObjectName(QStringLiteral("host_choose_source"));
     makeLanguageMenu();
     if (hasEvents) {
         eventMenu_ = menuBar()->addMenu(QString());
@@ -186,6 +195,16 @@ void MainWindow::choose(qsizetype test, qsizetype device)
 {
     tests_->choose(test);
     devices_->choose(device);
+}
+
+int MainWindow::chosenTest() const { return tests_->chosen(); }
+
+QString MainWindow::chosenDevice() const { return devices_->chosenName(); }
+
+void MainWindow::setListening(bool isListening)
+{
+    isListening_ = isListening;
+    enableTools();
 }
 
 void MainWindow::showWave(const QList<double> &wave)
@@ -315,6 +334,7 @@ void MainWindow::enableRun()
     const bool canRun = devices_->chosen() >= 0;
     tests_->setCanRun(canRun);
     runAction_->setEnabled(canRun && !session_.isRunning());
+    enableTools();
 }
 
 void MainWindow::showStarted(const RunRecord &record)
@@ -327,6 +347,7 @@ void MainWindow::showEnded(const RunRecord &record)
 {
     setRunning(false);
     result_->showRun(record);
+    measurements_->showRun(record);
     history_->add(record);
     const QString ended = hostText("LOG_RUN_ENDED").arg(shownText(record.testNameKey), record.device.name, verdictText(record));
     log(record.microphone.isEmpty() ? ended : hostText("WITH_MICROPHONE").arg(ended, record.microphone));
@@ -365,11 +386,20 @@ void MainWindow::setRunning(bool isRunning)
     refreshAction_->setEnabled(!isRunning);
     runAction_->setEnabled(!isRunning && devices_->chosen() >= 0);
     stopAction_->setEnabled(isRunning);
+    enableTools();
     for (QAction *action : {saveAction_, copyAction_})
         action->setEnabled(!isRunning && !session_.history().isEmpty());
     languages_->setEnabled(!isRunning && language_.canChange());
     if (eventMenu_ != nullptr)
         eventMenu_->setEnabled(isRunning);
+}
+
+void MainWindow::enableTools()
+{
+    const bool canPlay = !session_.isRunning() && devices_->chosen() >= 0;
+    runAloneAction_->setEnabled(canPlay && isListening_);
+    channelsAction_->setEnabled(canPlay);
+    sourceAction_->setEnabled(!session_.isRunning());
 }
 
 // An interruption outranks the verdict of the run that it ended, and a verdict the window's close button.

@@ -23,6 +23,7 @@ namespace host {
 
 class DeviceTable;
 class HistoryTable;
+class MeasurementsPage;
 class ResultPanel;
 class RunPanel;
 class WaveView;
@@ -37,6 +38,12 @@ public:
 
     /// Chooses a device and a test by position.
     void choose(qsizetype test, qsizetype device);
+    /// Position of the chosen test; -1 when there is none.
+    int chosenTest() const;
+    /// Name of the chosen device; empty when none is chosen.
+    QString chosenDevice() const;
+    /// Whether there is a source to listen to, without which no run can do without a person.
+    void setListening(bool isListening);
     /// Shows the waveform of the last playback of a recording beside the result; none when empty.
     void showWave(const QList<double> &wave);
     /// What to look at before a run that a person starts; nothing is looked at without it.
@@ -56,6 +63,9 @@ public:
 signals:
     void stopPressed();
     void eventChosen(int bit);
+    void runAloneChosen();
+    void channelCheckChosen();
+    void sourceChosen();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -77,6 +87,7 @@ private:
     void logProgress(std::uint32_t percent, const QString &text);
     void logMessage(const QString &text, std::uint32_t level);
     void setRunning(bool isRunning);
+    void enableTools();
     void showAbout();
     void retranslate();
     void retranslateMenus();
@@ -97,6 +108,7 @@ private:
     QTabWidget *tabs_;
     QPlainTextEdit *log_;
     HistoryTable *history_;
+    MeasurementsPage *measurements_;
     QMenu *fileMenu_ = nullptr;
     QMenu *testMenu_ = nullptr;
     QMenu *languageMenu_ = nullptr;
@@ -107,11 +119,15 @@ private:
     QAction *copyAction_ = nullptr;
     QAction *quitAction_ = nullptr;
     QAction *runAction_ = nullptr;
+    QAction *runAloneAction_ = nullptr;
     QAction *stopAction_ = nullptr;
+    QAction *channelsAction_ = nullptr;
+    QAction *sourceAction_ = nullptr;
     QAction *aboutAction_ = nullptr;
     QActionGroup *languages_ = nullptr;
     std::optional<int> exitCode_; // asked for during a run
     bool hasDevices_ = false;
+    bool isListening_ = false;
     Precheck precheck_;
     QStringList warnedOf_; ///< devices whose loudness the person has accepted
 };

@@ -4,6 +4,7 @@
 #include "host/gui/history_table.h"
 #include "host/gui/key_text.h"
 #include "host/gui/main_window.h"
+#include "host/gui/measurements_page.h"
 #include "host/gui/mnemonics.h"
 #include "host/gui/result_panel.h"
 #include "host/gui/run_panel.h"
@@ -35,9 +36,11 @@ void MainWindow::retranslate()
     showWave(wave_->wave());
     tabs_->setTabText(0, hostText("LOG"));
     tabs_->setTabText(1, hostText("HISTORY"));
+    tabs_->setTabText(2, hostText("MEASUREMENTS"));
     tabs_->setAccessibleName(hostText("LOG"));
     log_->setAccessibleName(hostText("LOG"));
     history_->retranslate(language_.code());
+    measurements_->retranslate();
     retranslateMenus();
     assignMnemonics();
 }
@@ -50,9 +53,13 @@ void MainWindow::retranslateMenus()
     saveAction_->setText(file[1]);
     copyAction_->setText(file[2]);
     quitAction_->setText(file[3]);
-    const QStringList test = withMnemonics({hostText("RUN_TEST"), hostText("STOP_TEST")});
+    const QStringList test = withMnemonics({hostText("RUN_TEST"), hostText("STOP_TEST"), hostText("RUN_UNATTENDED"),
+                                            hostText("CHECK_CHANNELS"), hostText("LISTENING_SOURCE")});
     runAction_->setText(test[0]);
     stopAction_->setText(test[1]);
+    runAloneAction_->setText(test[2]);
+    channelsAction_->setText(test[3]);
+    sourceAction_->setText(test[4]);
     aboutAction_->setText(withMnemonics({hostText("ABOUT")}).first());
     for (QAction *entry : languages_->actions()) {
         entry->setChecked(entry->data().toString() == language_.code());

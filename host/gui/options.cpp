@@ -31,6 +31,7 @@ constexpr std::array<KnownOption, 18> knownOptions{{
     {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
     {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},
     {"keep-audio", "FILE", "keep all that is heard, voices too, in FILE (.wav); without it no sound is kept", true},
+    {"channel-check", nullptr, "check left and right before the run, at the present volume; no part of the verdict", true},
     {"screenshots", "DIR", "photograph the windows into that folder", true},
     {"mistype", "N", "for proofs: get N sequences wrong", true},
     {"language", "CODE", "language, such as de_DE; kept for later starts", false},
@@ -163,6 +164,7 @@ Options readValues(const QCommandLineParser &parser)
     for (const QString &file : reports)
         options.reportFiles.append(absolute(file));
     options.keptAudio = absolute(parser.value(QStringLiteral("keep-audio")));
+    options.isChannelCheck = parser.isSet(QStringLiteral("channel-check"));
     options.screenshotsFolder = absolute(parser.value(QStringLiteral("screenshots")));
     options.configFolder = absolute(parser.value(QStringLiteral("config")));
     return options;

@@ -25,6 +25,7 @@ struct Options {
     QStringList reportFiles;
     QString keptAudio; ///< file for what is heard; empty: no sound is kept
     QString language;
+    bool isChannelCheck = false; ///< left and right are checked before the run
     QString screenshotsFolder;
     QString configFolder;
     int mistypedSequences = 0;

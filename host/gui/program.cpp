@@ -10,7 +10,9 @@
 #include "host/gui/key_text.h"
 #include "host/gui/level_window.h"
 #include "host/gui/level_words.h"
+#include "host/gui/listening_tools.h"
 #include "host/gui/main_window.h"
+#include "host/gui/plot_view.h"
 #include "host/gui/run_bar.h"
 #include "host/gui/run_keys.h"
 #include "host/gui/unattended_run.h"
@@ -79,7 +81,8 @@ public:
     GuiProgram(const Options &options, ModuleLibrary &library, LanguageSetting &language, const InterruptWatcher &interrupts)
         : options_(options), language_(language), session_(*library.module(), prompter_, LanguageSetting::defaultFolder()),
           window_(session_, language, library.productVersion(), options.isDeveloper), bar_(&window_, options.isDeveloper),
-          levels_(&window_, options.source), keys_(options.isDeveloper)
+          tools_(window_, session_, language, LanguageSetting::defaultFolder(), options.source),
+          levels_(&window_, tools_.source()), keys_(options.isDeveloper)
     {
         session_.setSchedule(options.schedule);
         window_.setPrecheck([&language](const QString &letter, const QString &device) {
@@ -112,9 +115,12 @@ private:
         QObject::connect(&session_, &TestSession::runStarted, &levels_, [this](const RunRecord &record) {
             levels_.beginRun();
             window_.showWave({});
-            if (record.testLetter == QLatin1String("m") && !options_.source.isEmpty() && !options_.isUnattended)
+            if (record.testLetter == QLatin1String("m") && !tools_.source().isEmpty() && !options_.isUnattended &&
+                !tools_.isRunningAlone())
                 listen();
         });
+        QObject::connect(&tools_, &ListeningTools::sourceChanged, &levels_, &LevelWindow::setSource);
+        QObject::connect(&tools_, &ListeningTools::metered, &levels_, &LevelWindow::take);
         QObject::connect(&session_, &TestSession::runEnded, &levels_, [this](const RunRecord &record) {
             ear_.reset();
             window_.showWave(record.digits.isEmpty() ? levels_.playbackWave() : waveOf(record.digits));
@@ -127,7 +133,7 @@ private:
         ear_ = std::make_unique<ListenerLink>();
         QObject::connect(ear_.get(), &ListenerLink::metered, &levels_, &LevelWindow::take);
         QObject::connect(ear_.get(), &ListenerLink::lost, &window_, [this] { window_.log(ear_->errorText()); });
-        ear_->launch({QStringLiteral("--source"), options_.source, QStringLiteral("--meter")});
+        ear_->launch({QStringLiteral("--source"), tools_.source(), QStringLiteral("--meter")});
     }
 
     void begin()
@@ -153,6 +159,7 @@ private:
     TestSession session_;
     MainWindow window_;
     RunBar bar_;
+    ListeningTools tools_;
     LevelWindow levels_;
     std::unique_ptr<ListenerLink> ear_;
     RunKeys keys_;

@@ -84,7 +84,8 @@ std::optional<RunRecord> TestSession::run(qsizetype test, qsizetype device, cons
     return record;
 }
 
-std::optional<RunRecord> TestSession::refuse(qsizetype test, qsizetype device, const QString &language, const QString &reason)
+std::optional<RunRecord> TestSession::refuse(qsizetype test, qsizetype device, const QString &language, const QString &reason,
+                                             const std::function<void(RunRecord &)> &finish)
 {
     if (isRunning() || testAt(test) == nullptr || componentAt(device) == nullptr)
         return std::nullopt;
@@ -93,6 +94,8 @@ std::optional<RunRecord> TestSession::refuse(qsizetype test, qsizetype device, c
     record.wasModuleCalled = false;
     record.code = ostra::result::cannotBePerformed;
     record.reason = reason;
+    if (finish)
+        finish(record);
     end(record);
     return record;
 }
@@ -187,6 +190,8 @@ RunRecord TestSession::begin(qsizetype test, qsizetype device, const QString &la
     record.testNameKey = tests_[test].nameKey;
     record.device = devices_.devices().value(device);
     record.language = language;
+    if (const auto check = channels_.constFind(record.device.name); check != channels_.constEnd())
+        record.channels = *check;
     record.startedUtc = QDateTime::currentDateTimeUtc();
     return record;
 }

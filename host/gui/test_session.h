@@ -6,6 +6,7 @@
 #include "host/core/run_record.h"
 #include "host/guardian/guardian_client.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPair>
@@ -71,7 +72,10 @@ public:
                                  const std::function<void(RunRecord &)> &finish = {});
     /// Notes a run that must not take place, with the result 3 and `reason`, as if it had ended. Nothing while a run is under
     /// way or for a position that does not exist.
-    std::optional<RunRecord> refuse(qsizetype test, qsizetype device, const QString &language, const QString &reason);
+    std::optional<RunRecord> refuse(qsizetype test, qsizetype device, const QString &language, const QString &reason,
+                                    const std::function<void(RunRecord &)> &finish = {});
+    /// Notes what a check of a device's channels came to: later runs on the device of that name have it in their records.
+    void noteChannels(const QString &device, const ChannelCheck &check) { channels_.insert(device, check); }
     /// Ends the run under way as soon as the test asks.
     void stop();
     /// Raises one event bit in the run under way.
@@ -115,6 +119,7 @@ private:
     RunContext *context_ = nullptr; // of the run under way
     bool isRefreshDue_ = false;
     QList<RunRecord> history_;
+    QHash<QString, ChannelCheck> channels_;
 };
 
 } // namespace host

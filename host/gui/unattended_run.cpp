@@ -7,12 +7,14 @@
 #include "host/core/verdict.h"
 #include "host/gui/console_output.h"
 #include "host/gui/key_text.h"
+#include "host/operator/channel_listener.h"
 #include "host/operator/test_operator.h"
 #include "host/precheck/precheck.h"
 #include "host/reports/run_report.h"
 #include "host/reports/writable_folder.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QTimer>
 
 #include <chrono>
@@ -85,6 +87,8 @@ std::optional<RunRecord> UnattendedRun::perform()
         if (finding.isBlocking())
             return unheard(reasonWords(precheckKey(finding.what), {finding.subject}));
     }
+    if (options_.isChannelCheck)
+        checkChannels();
     TestOperator person(operatorSettings());
     if (meter_)
         QObject::connect(&person, &TestOperator::metered, meter_);
@@ -97,13 +101,10 @@ std::optional<RunRecord> UnattendedRun::perform()
         session_.stop();
     });
     return session_.run(test_, device_, language_, [this, &person, &isOverdue](RunRecord &record) {
-        record.isUnattended = true;
-        record.listenedTo = options_.source;
+        describe(record);
         person.endRun(record);
         if (isOverdue)
             record.reason = reasonWords("REASON_TOOK_TOO_LONG");
-        if (record.microphone.isEmpty())
-            record.microphone = options_.microphone;
     });
 }
 
@@ -128,23 +129,32 @@ OperatorSettings UnattendedRun::operatorSettings() const
     return settings;
 }
 
-// Nobody is there who could take the test.
-RunRecord UnattendedRun::unheard(const QString &reason) const
+void UnattendedRun::describe(RunRecord &record) const
 {
-    RunRecord record;
-    record.testLetter = session_.tests()[test_].letter;
-    record.testNameKey = session_.tests()[test_].nameKey;
-    record.device = session_.deviceList().devices()[device_];
-    record.microphone = options_.microphone;
-    record.language = language_;
-    record.startedUtc = QDateTime::currentDateTimeUtc();
-    record.endedUtc = record.startedUtc;
-    record.wasModuleCalled = false;
-    record.code = ostra::result::cannotBePerformed;
-    record.reason = reason;
     record.isUnattended = true;
     record.listenedTo = options_.source;
-    return record;
+    if (record.microphone.isEmpty())
+        record.microphone = options_.microphone;
+}
+
+// Nobody is there who could take the test.
+std::optional<RunRecord> UnattendedRun::unheard(const QString &reason)
+{
+    return session_.refuse(test_, device_, language_, reason, [this](RunRecord &record) { describe(record); });
+}
+
+// Before the run raises the volumes: a side that the user turned down shall be found.
+void UnattendedRun::checkChannels()
+{
+    const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
+    ChannelListener ear({deviceName(), options_.source, clips, language_});
+    QEventLoop loop;
+    QObject::connect(&ear, &ChannelListener::finished, &loop, [this, &loop](const ChannelCheck &check) {
+        session_.noteChannels(deviceName(), check);
+        loop.quit();
+    });
+    ear.start();
+    loop.exec();
 }
 
 bool UnattendedRun::writeReports(const RunRecord &record) const

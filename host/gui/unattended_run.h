@@ -29,14 +29,17 @@ public:
 
     /// Runs it, writes the reports, prints verdict and digits on standard output, and returns the program's exit code.
     int run();
+    /// Runs it without a word on standard output, and without reports.
+    std::optional<RunRecord> perform();
 
 private:
-    std::optional<RunRecord> perform();
     QString deviceName() const; ///< once it is known
     QString deviceOfMonitor(const QString &source) const;
     bool isRecording() const;
     OperatorSettings operatorSettings() const;
-    RunRecord unheard(const QString &reason) const;
+    std::optional<RunRecord> unheard(const QString &reason);
+    void checkChannels();
+    void describe(RunRecord &record) const;
     bool writeReports(const RunRecord &record) const;
 
     TestSession &session_;

@@ -17,6 +17,18 @@ std::span<const float> samplesOf(const std::uint8_t *bytes, int byteCount)
     return {static_cast<const float *>(static_cast<const void *>(bytes)), static_cast<std::size_t>(byteCount) / sizeof(float)};
 }
 
+int channelCountOf(const QString &source)
+{
+    const int count = SDL_GetNumAudioDevices(SDL_TRUE);
+    for (int index = 0; index < count; ++index) {
+        const char *name = SDL_GetAudioDeviceName(index, SDL_TRUE);
+        SDL_AudioSpec own{};
+        if (name != nullptr && source == QString::fromUtf8(name) && SDL_GetAudioDeviceSpec(index, SDL_TRUE, &own) == 0)
+            return own.channels;
+    }
+    return 0;
+}
+
 } // namespace
 
 void Capture::receive(void *ring, std::uint8_t *bytes, int byteCount) noexcept
@@ -60,6 +72,7 @@ bool Capture::open(const QString &source)
         errorText_ = QString::fromUtf8(SDL_GetError());
         return false;
     }
+    sourceChannelCount_ = channelCountOf(source);
     SDL_PauseAudioDevice(device_, SDL_FALSE);
     return true;
 }

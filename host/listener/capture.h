@@ -21,6 +21,8 @@ public:
     /// Captures from the source of that exact name. False with `errorText()`.
     bool open(const QString &source);
     const QString &errorText() const { return errorText_; }
+    /// Channels that the source itself has, however many are captured; 0 when that is not known.
+    int sourceChannelCount() const { return sourceChannelCount_; }
 
     /// What has arrived.
     BlockRing &ring() { return ring_; }
@@ -32,6 +34,7 @@ private:
 
     BlockRing ring_;
     std::uint32_t device_ = 0;
+    int sourceChannelCount_ = 0;
     QString errorText_;
 };
 

@@ -55,12 +55,13 @@ QByteArray line(const char *event, QJsonObject object)
 
 QByteArray sourceLine(const QString &name) { return line("source", {{QStringLiteral("name"), name}}); }
 
-QByteArray readyLine(const QString &source, const QString &language)
+QByteArray readyLine(const QString &source, const QString &language, int sourceChannelCount)
 {
     return line("ready", {{QStringLiteral("source"), source},
                           {QStringLiteral("language"), language},
                           {QStringLiteral("sampleRate"), static_cast<int>(captureRate)},
                           {QStringLiteral("channels"), static_cast<int>(captureChannelCount)},
+                          {QStringLiteral("sourceChannels"), sourceChannelCount},
                           {QStringLiteral("steadyMs"), milliseconds(std::chrono::steady_clock::now())},
                           {QStringLiteral("utcMs"), milliseconds(std::chrono::system_clock::now())}});
 }

@@ -16,7 +16,8 @@ namespace host {
 /// clock (std::chrono::steady_clock), which every process of the machine shares.
 QByteArray sourceLine(const QString &name);
 /// Also tells the steady clock's and the calendar's milliseconds (since 1970, UTC) of one moment.
-QByteArray readyLine(const QString &source, const QString &language);
+/// \param sourceChannelCount of the source itself; 0 when not known
+QByteArray readyLine(const QString &source, const QString &language, int sourceChannelCount);
 /// "digit" for one of the ten, "sound" for anything else.
 QByteArray soundLine(const HeardSound &sound);
 /// A place that is like the clip that is sought.

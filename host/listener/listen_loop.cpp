@@ -84,7 +84,7 @@ private:
         if (isReady_ || !(hasSound_ || steady_clock::now() - start_ > firstSoundLimit))
             return;
         isReady_ = true;
-        write(readyLine(options_.source, options_.language));
+        write(readyLine(options_.source, options_.language, capture_.sourceChannelCount()));
     }
 
     void tellLevel()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/listener/capture.h"
 #include "host/listener/listen_loop.h"
+#include "host/measure/wav_file.h"
 
 #include <SDL.h>
 
@@ -13,18 +14,20 @@
 #include <cstdlib>
 #include <iostream>
 #include <string>
+#include <vector>
 
 namespace {
 
 enum class SpeakerExit { told = 0, usage = 2, noDevice = 3, lost = 4 };
 
-constexpr auto help = R"(Usage: audio_speaker --device NAME --play FILE
+constexpr auto help = R"(Usage: audio_speaker --device NAME --play FILE [--channel left|right]
 
 Opens an output device and plays a WAVE file to it once, as soon as a line arrives on standard input. Writes one JSON object a
 line: "ready" when the device is open, "started", "finished". Ends then, or at the end of its standard input.
 
   --device NAME    the output device: its exact name
   --play FILE      the WAVE file
+  --channel SIDE   on the front left or the front right channel alone; the file has to be 16-bit PCM
   --help           this text
 
 Exit codes: 0 it played or was told to end, 2 wrong usage or an unreadable file, 3 no such device, 4 the device was lost.
@@ -78,7 +81,7 @@ SpeakerExit play(SDL_AudioDeviceID device)
     return SpeakerExit::told;
 }
 
-SpeakerExit openAndPlay(const QString &name, const SDL_AudioSpec &given, std::uint8_t *samples, std::uint32_t byteCount)
+SpeakerExit openAndPlay(const QString &name, const SDL_AudioSpec &given, const void *samples, std::uint32_t byteCount)
 {
     SDL_AudioSpec wanted = given;
     wanted.samples = deviceBufferFrameCount;
@@ -91,10 +94,23 @@ SpeakerExit openAndPlay(const QString &name, const SDL_AudioSpec &given, std::ui
     return isAskedToPlay() ? play(device) : SpeakerExit::told;
 }
 
-SpeakerExit speak(const QString &device, const QString &file)
+SpeakerExit speakOnOneSide(const QString &device, const QString &file, bool isLeft)
 {
-    if (!startLibrary())
-        return refuse(SpeakerExit::noDevice, QStringLiteral("no sound server: %1").arg(soundError()));
+    const auto clip = measure::readWavFile(file.toStdU16String());
+    if (!clip || clip->samples.empty())
+        return refuse(SpeakerExit::usage, QStringLiteral("'%1' cannot be read").arg(file));
+    SDL_AudioSpec spec{};
+    spec.freq = static_cast<int>(clip->sampleRate);
+    spec.format = AUDIO_F32SYS;
+    spec.channels = 2;
+    std::vector<float> frames;
+    for (const float sample : clip->samples)
+        frames.insert(frames.end(), {isLeft ? sample : 0.0F, isLeft ? 0.0F : sample});
+    return openAndPlay(device, spec, frames.data(), static_cast<std::uint32_t>(frames.size() * sizeof(float)));
+}
+
+SpeakerExit speakAsItIs(const QString &device, const QString &file)
+{
     SDL_AudioSpec spec{};
     std::uint8_t *samples = nullptr;
     std::uint32_t byteCount = 0;
@@ -105,11 +121,18 @@ SpeakerExit speak(const QString &device, const QString &file)
     return code;
 }
 
+SpeakerExit speak(const QString &device, const QString &file, const QString &channel)
+{
+    if (!startLibrary())
+        return refuse(SpeakerExit::noDevice, QStringLiteral("no sound server: %1").arg(soundError()));
+    return channel.isEmpty() ? speakAsItIs(device, file) : speakOnOneSide(device, file, channel == QLatin1String("left"));
+}
+
 SpeakerExit run()
 {
     QCommandLineParser parser;
     parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")}));
-    for (const char *name : {"device", "play"})
+    for (const char *name : {"device", "play", "channel"})
         parser.addOption(QCommandLineOption(QLatin1String(name), {}, QStringLiteral("VALUE")));
     if (!parser.parse(QCoreApplication::arguments()))
         return refuse(SpeakerExit::usage, QStringLiteral("%1 (try --help)").arg(parser.errorText()));
@@ -121,7 +144,10 @@ SpeakerExit run()
     const QString file = parser.value(QStringLiteral("play"));
     if (device.isEmpty() || file.isEmpty() || !parser.positionalArguments().isEmpty())
         return refuse(SpeakerExit::usage, QStringLiteral("--device and --play are needed, nothing else (try --help)"));
-    return speak(device, file);
+    const QString channel = parser.value(QStringLiteral("channel"));
+    if (parser.isSet(QStringLiteral("channel")) && channel != QLatin1String("left") && channel != QLatin1String("right"))
+        return refuse(SpeakerExit::usage, QStringLiteral("'%1' is no channel: left or right (try --help)").arg(channel));
+    return speak(device, file, channel);
 }
 
 } // namespace

@@ -131,8 +131,10 @@ ListenerLine readListenerLine(const QByteArray &line)
     const Kind kind = kindOf(object.value(QLatin1String("event")).toString());
     ListenerLine read;
     read.kind = kind;
-    if (kind == Kind::ready)
+    if (kind == Kind::ready) {
         read.sound.startMs = object.value(QLatin1String("steadyMs")).toInteger();
+        read.sourceChannelCount = object.value(QLatin1String("sourceChannels")).toInt();
+    }
     if (kind == Kind::clip || kind == Kind::meter)
         return readPlaceOrMoment(kind, object);
     if (kind != Kind::sound && kind != Kind::level)

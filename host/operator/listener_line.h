@@ -22,6 +22,7 @@ struct ListenerLine {
     HeardEvent sound;
     HeardPlace place;
     MeteredMoment moment;
+    int sourceChannelCount = 0;   ///< of ready: channels that the source itself has; 0 when not known
     double frameCount = 0;        ///< of a level: frames that arrived since the one before
     double droppedFrameCount = 0; ///< of a level: frames lost since the beginning
 };

@@ -84,6 +84,7 @@ void ListenerLink::take(const ListenerLine &line)
         break;
     case ListenerLine::Kind::ready:
         log_.addArrival(line.sound.startMs, 0, 0);
+        sourceChannelCount_ = line.sourceChannelCount;
         isReady_ = true;
         break;
     case ListenerLine::Kind::lost:

@@ -25,6 +25,9 @@ public:
     bool start(const QStringList &arguments);
     const QString &errorText() const { return errorText_; }
 
+    bool isReady() const { return isReady_; }
+    /// Channels that the source itself has, once it is ready; 0 when not known.
+    int sourceChannelCount() const { return sourceChannelCount_; }
     /// The process has ended, or its source has vanished.
     bool isLost() const { return isLost_; }
     const HeardLog &log() const { return log_; }
@@ -44,6 +47,7 @@ private:
     QProcess process_;
     HeardLog log_;
     bool isReady_ = false;
+    int sourceChannelCount_ = 0;
     bool isLost_ = true;
     QString errorText_;
 };

@@ -9,13 +9,15 @@
 
 namespace host {
 
-SpeakerLink::SpeakerLink(const QString &device, const QString &clip, QObject *parent) : QObject(parent)
+SpeakerLink::SpeakerLink(const QString &device, const QString &clip, const QString &channel, QObject *parent) : QObject(parent)
 {
     connect(&process_, &QProcess::readyReadStandardOutput, this, &SpeakerLink::readLines);
     connect(&process_, &QProcess::finished, this, &SpeakerLink::noteEnd);
     connect(&process_, &QProcess::errorOccurred, this, &SpeakerLink::noteEnd);
-    process_.start(QCoreApplication::applicationDirPath() + QStringLiteral("/audio_speaker"),
-                   {QStringLiteral("--device"), device, QStringLiteral("--play"), clip});
+    QStringList arguments{QStringLiteral("--device"), device, QStringLiteral("--play"), clip};
+    if (!channel.isEmpty())
+        arguments.append({QStringLiteral("--channel"), channel});
+    process_.start(QCoreApplication::applicationDirPath() + QStringLiteral("/audio_speaker"), arguments);
 }
 
 SpeakerLink::~SpeakerLink()
@@ -37,6 +39,7 @@ void SpeakerLink::readLines()
             startedMs_ = static_cast<qint64>(object.value(QLatin1String("atMs")).toDouble());
         else if (event == QLatin1String("finished"))
             hasFinished_ = true;
+        emit changed();
     }
 }
 
@@ -49,6 +52,7 @@ void SpeakerLink::noteEnd()
     errorText_ = QString::fromUtf8(process_.readAllStandardError()).trimmed();
     if (errorText_.isEmpty() && hasFailed_)
         errorText_ = QStringLiteral("audio_speaker did not speak: %1").arg(process_.errorString());
+    emit changed();
 }
 
 } // namespace host

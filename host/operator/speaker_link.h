@@ -16,17 +16,24 @@ class SpeakerLink : public QObject {
     Q_OBJECT
 
 public:
-    SpeakerLink(const QString &device, const QString &clip, QObject *parent = nullptr);
+    /// \param channel "left" or "right": the clip on that front channel alone; empty: as it is
+    SpeakerLink(const QString &device, const QString &clip, const QString &channel = {}, QObject *parent = nullptr);
     ~SpeakerLink() override; ///< ends it
 
     bool isReady() const { return isReady_; }
     /// It ended without having spoken; then `errorText()` says why.
     bool hasFailed() const { return hasFailed_; }
+    /// All of it was spoken.
+    bool hasFinished() const { return hasFinished_; }
     const QString &errorText() const { return errorText_; }
 
     void speak();
     /// When it began, on the steady clock.
     std::optional<qint64> startedMs() const { return startedMs_; }
+
+signals:
+    /// One of the above is another.
+    void changed();
 
 private:
     void readLines();

@@ -78,17 +78,6 @@ void writeWave(QXmlStreamWriter &xml, const QString &id, const QString &title, c
         writeFigure(xml, plot);
 }
 
-// Nominal centre of a third-octave band (IEC 61260-1).
-QString frequencyText(double hz)
-{
-    constexpr std::array<double, 10> nominal{100, 125, 160, 200, 250, 315, 400, 500, 630, 800};
-    constexpr double kilo = 1000.0;
-    const auto band = static_cast<int>(std::lround(10 * std::log10(hz / nominal[0])));
-    const int decade = band < 0 ? 0 : band / 10;
-    const double centre = band < 0 ? hz : nominal[static_cast<std::size_t>(band % 10)] * std::pow(10.0, decade);
-    return centre < kilo ? QString::number(centre, 'f', 0) : QString::number(centre / kilo, 'g', 3) + u'k';
-}
-
 void writeSpectrum(QXmlStreamWriter &xml, const QString &id, const QString &name, const QJsonObject &measured)
 {
     const QList<double> levels = numbersOf(measured.value(QLatin1String("bandLevelsDbfs")), mostBands);
@@ -100,7 +89,7 @@ void writeSpectrum(QXmlStreamWriter &xml, const QString &id, const QString &name
                  {}};
     const double lowest = measured.value(QLatin1String("lowestBandHz")).toDouble(100.0);
     for (qsizetype band = 0; band < levels.size(); ++band) {
-        plot.labels.append(frequencyText(lowest * std::pow(10.0, static_cast<double>(band) / 10.0)));
+        plot.labels.append(bandName(lowest * std::pow(10.0, static_cast<double>(band) / 10.0)));
         plot.values.append(levels.at(band));
     }
     writeFigure(xml, plot);
@@ -122,6 +111,16 @@ void writeMeasured(QXmlStreamWriter &xml, const QJsonObject &digit, qsizetype nu
 }
 
 } // namespace
+
+QString bandName(double hz)
+{
+    constexpr std::array<double, 10> nominal{100, 125, 160, 200, 250, 315, 400, 500, 630, 800};
+    constexpr double kilo = 1000.0;
+    const auto band = static_cast<int>(std::lround(10 * std::log10(hz / nominal[0])));
+    const int decade = band < 0 ? 0 : band / 10;
+    const double centre = band < 0 ? hz : nominal[static_cast<std::size_t>(band % 10)] * std::pow(10.0, decade);
+    return centre < kilo ? QString::number(centre, 'f', 0) : QString::number(centre / kilo, 'g', 3) + u'k';
+}
 
 void writeRecordingPlot(QXmlStreamWriter &xml, const QJsonObject &report)
 {

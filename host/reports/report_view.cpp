@@ -33,6 +33,17 @@ QString latencyText(const QJsonObject &latency)
                                    .arg(number("medianMs"), number("lowestMs"), number("highestMs"), number("digitCount"));
 }
 
+QString channelText(const QJsonObject &check)
+{
+    const QString mapping = plainText(check.value(QLatin1String("mapping")).toString());
+    const QString reason = plainText(check.value(QLatin1String("reason")).toString());
+    if (mapping.isEmpty() || !reason.isEmpty())
+        return reason.isEmpty() ? mapping : QStringLiteral("%1: %2").arg(mapping, reason);
+    const QString source = plainText(check.value(QLatin1String("source")).toString());
+    return source.isEmpty() ? QStringLiteral("%1, as a person heard them").arg(mapping)
+                            : QStringLiteral("%1, measured at '%2'").arg(mapping, source);
+}
+
 QStringList digitHeader()
 {
     return {QStringLiteral("Sequence"),     QStringLiteral("Digit"),       QStringLiteral("Played at (ms)"),
@@ -163,6 +174,7 @@ QList<std::pair<QString, QString>> ReportView::facts() const
         {QStringLiteral("Listened to"), text("listenedTo")},
         {QStringLiteral("Reason"), reason()},
         {QStringLiteral("Latency (ms)"), latencyText(report_.value(QLatin1String("latency")).toObject())},
+        {QStringLiteral("Channels before the run"), channelText(report_.value(QLatin1String("channelMapping")).toObject())},
         {QStringLiteral("Sound kept in"), text("keptAudio")},
         {QStringLiteral("Guardian put back"), lines("volumesPutBackByGuardian").join(QStringLiteral(", "))},
         {QStringLiteral("Volumes"), text("volumeComplaint")},

@@ -58,6 +58,19 @@ QStringList limitsOfListening(const RunRecord &record)
     return limits;
 }
 
+QString limitOfChannels(const RunRecord &record)
+{
+    if (!record.channels || record.channels->mapping == ChannelMapping::notMeasurable)
+        return QStringLiteral("All channels play the same speech: a silent or swapped channel can go unnoticed.");
+    return record.channels->source.isEmpty() || isMonitor(record.channels->source)
+               ? QStringLiteral(
+                     "Front left and front right were checked before the run, at the user's volume; the verdict does "
+                     "not count it.")
+               : QStringLiteral("Front left and front right were checked before the run, at the user's volume, by the "
+                                "microphone's own left and right, which swap when it is turned round; the verdict does not "
+                                "count it.");
+}
+
 QStringList limitsOfPlayback(const RunRecord &record)
 {
     QStringList limits = record.isUnattended
@@ -66,7 +79,7 @@ QStringList limitsOfPlayback(const RunRecord &record)
     limits.append(QStringLiteral("One device was tested: the machine's other outputs were not."));
     limits.append(QStringLiteral("Only the first second of each clip was played."));
     limits.append(QStringLiteral("The device was tested at full volume only."));
-    limits.append(QStringLiteral("All channels play the same speech: a silent or swapped channel can go unnoticed."));
+    limits.append(limitOfChannels(record));
     return limits;
 }
 

@@ -93,19 +93,12 @@ QJsonValue measurementOf(const std::optional<DigitMeasurement> &measured)
                        {QStringLiteral("bandLevelsDbfs"), listOf(measured->bandLevelsDbfs, 10)}};
 }
 
-// The module tells nobody what it draws. A sequence that it accepted was what was typed; the last one, when the test passed.
-QJsonValue playedOrNull(const RunRecord &record, const HeardDigit &digit)
-{
-    const bool isAccepted = record.moduleCode == ostra::result::passed && digit.sequence == record.digits.last().sequence;
-    return isAccepted ? digitOrNull(digit.typed) : QJsonValue();
-}
-
 QJsonObject digitRow(const RunRecord &record, const HeardDigit &digit)
 {
     return {{QStringLiteral("sequence"), digit.sequence},
             {QStringLiteral("position"), digit.position},
             {QStringLiteral("playedAtMs"), knownOrNull(static_cast<double>(digit.playedAtMs))},
-            {QStringLiteral("played"), playedOrNull(record, digit)},
+            {QStringLiteral("played"), digitOrNull(playedDigit(record, digit))},
             {QStringLiteral("heard"), digitOrNull(digit.heard)},
             {QStringLiteral("typed"), digitOrNull(digit.typed)},
             {QStringLiteral("score"), rounded(digit.score, 10'000)},
@@ -166,6 +159,26 @@ QJsonValue recordingOf(const std::optional<HeardRecording> &heard)
          heard->answer ? QJsonValue(*heard->answer ? QStringLiteral("yes") : QStringLiteral("no")) : QJsonValue()}};
 }
 
+QJsonValue sideOrNull(const std::optional<HeardSide> &side) { return side ? QJsonValue(sideName(*side)) : QJsonValue(); }
+
+QJsonValue levelsOrNull(const std::optional<SideLevels> &levels)
+{
+    return levels ? QJsonValue(QJsonArray{rounded(levels->leftDbfs, 10), rounded(levels->rightDbfs, 10)}) : QJsonValue();
+}
+
+QJsonValue channelsOf(const std::optional<ChannelCheck> &check)
+{
+    if (!check)
+        return {};
+    return QJsonObject{{QStringLiteral("mapping"), mappingName(check->mapping)},
+                       {QStringLiteral("source"), check->source},
+                       {QStringLiteral("leftHeard"), sideOrNull(check->left)},
+                       {QStringLiteral("rightHeard"), sideOrNull(check->right)},
+                       {QStringLiteral("leftDbfs"), levelsOrNull(check->ofLeft)},
+                       {QStringLiteral("rightDbfs"), levelsOrNull(check->ofRight)},
+                       {QStringLiteral("reason"), check->reason}};
+}
+
 QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
 {
     const std::uint32_t code = codeOf(verdictOf(record));
@@ -190,6 +203,7 @@ QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
             {QStringLiteral("digits"), digitsOf(record)},
             {QStringLiteral("latency"), latencyOf(record.digits)},
             {QStringLiteral("recording"), recordingOf(record.recording)},
+            {QStringLiteral("channelMapping"), channelsOf(record.channels)},
             {QStringLiteral("volumesPutBackByGuardian"), QJsonArray::fromStringList(record.restoredVolumes)},
             {QStringLiteral("volumeComplaint"), record.volumeComplaint},
             {QStringLiteral("keptAudio"), record.keptAudio},
@@ -228,6 +242,13 @@ bool refuse(QString *error, const QString &file, const QString &why)
 }
 
 } // namespace
+
+std::optional<int> playedDigit(const RunRecord &record, const HeardDigit &digit)
+{
+    // The last one, when the test passed.
+    const bool isAccepted = record.moduleCode == ostra::result::passed && digit.sequence == record.digits.last().sequence;
+    return isAccepted ? digit.typed : std::nullopt;
+}
 
 QString resultName(std::uint32_t code)
 {

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace host {
 
@@ -26,6 +27,9 @@ bool writeRunReport(const RunRecord &record, const QString &file, QString *error
 
 /// Writes a finished report in the same way.
 bool writeReportFile(const QByteArray &report, const QString &file, QString *error);
+
+/// The module tells nobody what it draws. A sequence that it accepted was what was typed; nothing for any other.
+std::optional<int> playedDigit(const RunRecord &record, const HeardDigit &digit);
 
 /// Name of a result code, such as "passed".
 QString resultName(std::uint32_t code);

@@ -448,5 +448,205 @@ Version dieses Programms: %2</translation>
         <source>LOG_REPORT_COPIED</source>
         <translation>Der Bericht wurde als Text kopiert.</translation>
     </message>
+    <message>
+        <source>CHECK_CHANNELS</source>
+        <translation>Kanäle prüfen…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TITLE</source>
+        <translation>Links und rechts</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TEXT</source>
+        <translation>Über „%1“ werden zwei Ziffern gesprochen, jede nur auf einer Seite und in der jetzigen Lautstärke. Spielen Sie beide ab und geben Sie an, wo Sie sie hören.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_FIRST</source>
+        <translation>Erste Ziffer</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SECOND</source>
+        <translation>Zweite Ziffer</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_FIRST</source>
+        <translation>Erste Ziffer abspielen</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_SECOND</source>
+        <translation>Zweite Ziffer abspielen</translation>
+    </message>
+    <message>
+        <source>SIDE_LEFT</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>SIDE_RIGHT</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>SIDE_BOTH</source>
+        <translation>Auf beiden Seiten</translation>
+    </message>
+    <message>
+        <source>SIDE_NOTHING</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>CHANNELS_OPEN</source>
+        <translation>Das Ergebnis folgt, sobald beide Ziffern beantwortet sind.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STRAIGHT</source>
+        <translation>Links und rechts sind richtig zugeordnet.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SWAPPED</source>
+        <translation>Links und rechts sind vertauscht.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MIXED</source>
+        <translation>Links und rechts sind vermischt und nicht zu unterscheiden.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_LEFT_SILENT</source>
+        <translation>Der linke Kanal ist stumm.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_RIGHT_SILENT</source>
+        <translation>Der rechte Kanal ist stumm.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_UNHEARD</source>
+        <translation>Es wurde nichts gehört. Stellen Sie lauter und spielen Sie die Ziffern noch einmal ab.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_KNOWN</source>
+        <translation>Links und rechts konnten nicht gemessen werden: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURE</source>
+        <translation>Mit „%1“ messen</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURING</source>
+        <translation>„%1“ wird abgehört…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_PLAYED</source>
+        <translation>Die Ziffer konnte nicht abgespielt werden: %1</translation>
+    </message>
+    <message>
+        <source>LOG_CHANNELS</source>
+        <translation>Kanäle von „%1“: %2</translation>
+    </message>
+    <message>
+        <source>LISTENING_SOURCE</source>
+        <translation>Hörquelle…</translation>
+    </message>
+    <message>
+        <source>SOURCE_TITLE</source>
+        <translation>Hörquelle</translation>
+    </message>
+    <message>
+        <source>SOURCE_TEXT</source>
+        <translation>Was diese Quelle hört, wird neben dem Mikrofontest angezeigt und bei der Kanalprüfung und bei Läufen ohne Bediener gemessen. Sonst wird nichts abgehört.</translation>
+    </message>
+    <message>
+        <source>SOURCE_NONE</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>SOURCE_READING</source>
+        <translation>Quellen werden eingelesen…</translation>
+    </message>
+    <message>
+        <source>SOURCE_ABSENT</source>
+        <translation>%1 (nicht angeschlossen)</translation>
+    </message>
+    <message>
+        <source>SOURCE_USE</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>LOG_SOURCE</source>
+        <translation>Hörquelle: %1</translation>
+    </message>
+    <message>
+        <source>LOG_SETTINGS_NOT_SAVED</source>
+        <translation>Die Einstellung konnte nicht im Ordner „%1“ gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED</source>
+        <translation>Ohne Bediener ausführen</translation>
+    </message>
+    <message>
+        <source>MEASUREMENTS</source>
+        <translation>Messwerte</translation>
+    </message>
+    <message>
+        <source>NOTHING_MEASURED</source>
+        <translation>Beim letzten Lauf wurde nichts gemessen.</translation>
+    </message>
+    <message>
+        <source>DIGIT</source>
+        <translation>Ziffer</translation>
+    </message>
+    <message>
+        <source>DIGIT_PLAYED</source>
+        <translation>Gespielt</translation>
+    </message>
+    <message>
+        <source>DIGIT_HEARD</source>
+        <translation>Gehört</translation>
+    </message>
+    <message>
+        <source>DIGIT_TYPED</source>
+        <translation>Getippt</translation>
+    </message>
+    <message>
+        <source>DIGIT_SCORE</source>
+        <translation>Ähnlichkeit</translation>
+    </message>
+    <message>
+        <source>DIGIT_LEVEL</source>
+        <translation>Pegel (dBFS)</translation>
+    </message>
+    <message>
+        <source>DIGIT_SNR</source>
+        <translation>SNR (dB)</translation>
+    </message>
+    <message>
+        <source>DIGIT_LATENCY</source>
+        <translation>Latenz (ms)</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE</source>
+        <translation>Wellenform der Ziffer %1</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_WORDS</source>
+        <translation>%1 s, Spitze %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_AT</source>
+        <translation>Bei %1 s: von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM</source>
+        <translation>Spektrum der Ziffer %1</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_WORDS</source>
+        <translation>Am lautesten bei %1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_AT</source>
+        <translation>%1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_KEYS</source>
+        <translation>Die Pfeiltasten lesen einzelne Werte vor.</translation>
+    </message>
 </context>
 </TS>

@@ -448,5 +448,205 @@ Version of this program: %2</translation>
         <source>LOG_REPORT_COPIED</source>
         <translation>The report was copied as text.</translation>
     </message>
+    <message>
+        <source>CHECK_CHANNELS</source>
+        <translation>Check channels…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TITLE</source>
+        <translation>Left and right</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TEXT</source>
+        <translation>Two digits are spoken on “%1”, each on one side only, at the present volume. Play both and say where you hear them.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_FIRST</source>
+        <translation>First digit</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SECOND</source>
+        <translation>Second digit</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_FIRST</source>
+        <translation>Play the first digit</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_SECOND</source>
+        <translation>Play the second digit</translation>
+    </message>
+    <message>
+        <source>SIDE_LEFT</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>SIDE_RIGHT</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>SIDE_BOTH</source>
+        <translation>Both sides</translation>
+    </message>
+    <message>
+        <source>SIDE_NOTHING</source>
+        <translation>Nothing</translation>
+    </message>
+    <message>
+        <source>CHANNELS_OPEN</source>
+        <translation>The result follows once both digits are answered.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STRAIGHT</source>
+        <translation>Left and right are where they belong.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SWAPPED</source>
+        <translation>Left and right are swapped.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MIXED</source>
+        <translation>Left and right are mixed and cannot be told apart.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_LEFT_SILENT</source>
+        <translation>The left channel is silent.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_RIGHT_SILENT</source>
+        <translation>The right channel is silent.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_UNHEARD</source>
+        <translation>Nothing was heard. Turn up the volume and play the digits again.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_KNOWN</source>
+        <translation>Left and right could not be measured: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURE</source>
+        <translation>Measure with “%1”</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURING</source>
+        <translation>Listening to “%1”…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_PLAYED</source>
+        <translation>The digit could not be played: %1</translation>
+    </message>
+    <message>
+        <source>LOG_CHANNELS</source>
+        <translation>Channels of “%1”: %2</translation>
+    </message>
+    <message>
+        <source>LISTENING_SOURCE</source>
+        <translation>Listening source…</translation>
+    </message>
+    <message>
+        <source>SOURCE_TITLE</source>
+        <translation>Listening source</translation>
+    </message>
+    <message>
+        <source>SOURCE_TEXT</source>
+        <translation>What this source hears is shown beside the microphone test, and measured by the channel check and by runs with nobody there. Otherwise nothing is listened to.</translation>
+    </message>
+    <message>
+        <source>SOURCE_NONE</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>SOURCE_READING</source>
+        <translation>Reading the sources…</translation>
+    </message>
+    <message>
+        <source>SOURCE_ABSENT</source>
+        <translation>%1 (not connected)</translation>
+    </message>
+    <message>
+        <source>SOURCE_USE</source>
+        <translation>Use</translation>
+    </message>
+    <message>
+        <source>LOG_SOURCE</source>
+        <translation>Listening source: %1</translation>
+    </message>
+    <message>
+        <source>LOG_SETTINGS_NOT_SAVED</source>
+        <translation>The setting could not be saved in the folder “%1”.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED</source>
+        <translation>Run with nobody there</translation>
+    </message>
+    <message>
+        <source>MEASUREMENTS</source>
+        <translation>Measurements</translation>
+    </message>
+    <message>
+        <source>NOTHING_MEASURED</source>
+        <translation>Nothing was measured in the last run.</translation>
+    </message>
+    <message>
+        <source>DIGIT</source>
+        <translation>Digit</translation>
+    </message>
+    <message>
+        <source>DIGIT_PLAYED</source>
+        <translation>Played</translation>
+    </message>
+    <message>
+        <source>DIGIT_HEARD</source>
+        <translation>Heard</translation>
+    </message>
+    <message>
+        <source>DIGIT_TYPED</source>
+        <translation>Typed</translation>
+    </message>
+    <message>
+        <source>DIGIT_SCORE</source>
+        <translation>Likeness</translation>
+    </message>
+    <message>
+        <source>DIGIT_LEVEL</source>
+        <translation>Level (dBFS)</translation>
+    </message>
+    <message>
+        <source>DIGIT_SNR</source>
+        <translation>SNR (dB)</translation>
+    </message>
+    <message>
+        <source>DIGIT_LATENCY</source>
+        <translation>Latency (ms)</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE</source>
+        <translation>Waveform of digit %1</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_WORDS</source>
+        <translation>%1 s, peak %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_AT</source>
+        <translation>At %1 s: from %2 to %3</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM</source>
+        <translation>Spectrum of digit %1</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_WORDS</source>
+        <translation>Loudest at %1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_AT</source>
+        <translation>%1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_KEYS</source>
+        <translation>The arrow keys read single values.</translation>
+    </message>
 </context>
 </TS>

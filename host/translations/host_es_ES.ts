@@ -448,5 +448,205 @@ Versión de este programa: %2</translation>
         <source>LOG_REPORT_COPIED</source>
         <translation>Se ha copiado el informe como texto.</translation>
     </message>
+    <message>
+        <source>CHECK_CHANNELS</source>
+        <translation>Comprobar canales…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TITLE</source>
+        <translation>Izquierda y derecha</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TEXT</source>
+        <translation>Se dicen dos cifras por «%1», cada una por un solo lado y con el volumen actual. Reproduzca las dos e indique dónde las oye.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_FIRST</source>
+        <translation>Primera cifra</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SECOND</source>
+        <translation>Segunda cifra</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_FIRST</source>
+        <translation>Reproducir la primera cifra</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_SECOND</source>
+        <translation>Reproducir la segunda cifra</translation>
+    </message>
+    <message>
+        <source>SIDE_LEFT</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>SIDE_RIGHT</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>SIDE_BOTH</source>
+        <translation>Ambos lados</translation>
+    </message>
+    <message>
+        <source>SIDE_NOTHING</source>
+        <translation>Nada</translation>
+    </message>
+    <message>
+        <source>CHANNELS_OPEN</source>
+        <translation>El resultado aparece cuando se ha respondido a las dos cifras.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STRAIGHT</source>
+        <translation>La izquierda y la derecha están donde deben.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SWAPPED</source>
+        <translation>La izquierda y la derecha están intercambiadas.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MIXED</source>
+        <translation>La izquierda y la derecha están mezcladas y no se distinguen.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_LEFT_SILENT</source>
+        <translation>El canal izquierdo no suena.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_RIGHT_SILENT</source>
+        <translation>El canal derecho no suena.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_UNHEARD</source>
+        <translation>No se ha oído nada. Suba el volumen y vuelva a reproducir las cifras.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_KNOWN</source>
+        <translation>No se han podido medir la izquierda y la derecha: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURE</source>
+        <translation>Medir con «%1»</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURING</source>
+        <translation>Escuchando «%1»…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_PLAYED</source>
+        <translation>No se ha podido reproducir la cifra: %1</translation>
+    </message>
+    <message>
+        <source>LOG_CHANNELS</source>
+        <translation>Canales de «%1»: %2</translation>
+    </message>
+    <message>
+        <source>LISTENING_SOURCE</source>
+        <translation>Fuente de escucha…</translation>
+    </message>
+    <message>
+        <source>SOURCE_TITLE</source>
+        <translation>Fuente de escucha</translation>
+    </message>
+    <message>
+        <source>SOURCE_TEXT</source>
+        <translation>Lo que oye esta fuente se muestra junto a la prueba del micrófono y se mide en la comprobación de canales y en las ejecuciones sin nadie presente. Aparte de eso no se escucha nada.</translation>
+    </message>
+    <message>
+        <source>SOURCE_NONE</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>SOURCE_READING</source>
+        <translation>Leyendo las fuentes…</translation>
+    </message>
+    <message>
+        <source>SOURCE_ABSENT</source>
+        <translation>%1 (no conectada)</translation>
+    </message>
+    <message>
+        <source>SOURCE_USE</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>LOG_SOURCE</source>
+        <translation>Fuente de escucha: %1</translation>
+    </message>
+    <message>
+        <source>LOG_SETTINGS_NOT_SAVED</source>
+        <translation>No se ha podido guardar el ajuste en la carpeta «%1».</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED</source>
+        <translation>Ejecutar sin nadie presente</translation>
+    </message>
+    <message>
+        <source>MEASUREMENTS</source>
+        <translation>Mediciones</translation>
+    </message>
+    <message>
+        <source>NOTHING_MEASURED</source>
+        <translation>No se ha medido nada en la última ejecución.</translation>
+    </message>
+    <message>
+        <source>DIGIT</source>
+        <translation>Cifra</translation>
+    </message>
+    <message>
+        <source>DIGIT_PLAYED</source>
+        <translation>Emitida</translation>
+    </message>
+    <message>
+        <source>DIGIT_HEARD</source>
+        <translation>Oída</translation>
+    </message>
+    <message>
+        <source>DIGIT_TYPED</source>
+        <translation>Tecleada</translation>
+    </message>
+    <message>
+        <source>DIGIT_SCORE</source>
+        <translation>Parecido</translation>
+    </message>
+    <message>
+        <source>DIGIT_LEVEL</source>
+        <translation>Nivel (dBFS)</translation>
+    </message>
+    <message>
+        <source>DIGIT_SNR</source>
+        <translation>SNR (dB)</translation>
+    </message>
+    <message>
+        <source>DIGIT_LATENCY</source>
+        <translation>Latencia (ms)</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE</source>
+        <translation>Forma de onda de la cifra %1</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_WORDS</source>
+        <translation>%1 s, pico %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_AT</source>
+        <translation>A los %1 s: de %2 a %3</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM</source>
+        <translation>Espectro de la cifra %1</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_WORDS</source>
+        <translation>Máximo a %1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_AT</source>
+        <translation>%1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_KEYS</source>
+        <translation>Las teclas de flecha leen valores sueltos.</translation>
+    </message>
 </context>
 </TS>

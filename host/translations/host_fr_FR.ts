@@ -448,5 +448,205 @@ Version de ce programme : %2</translation>
         <source>LOG_REPORT_COPIED</source>
         <translation>Le rapport a été copié sous forme de texte.</translation>
     </message>
+    <message>
+        <source>CHECK_CHANNELS</source>
+        <translation>Vérifier les canaux…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TITLE</source>
+        <translation>Gauche et droite</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TEXT</source>
+        <translation>Deux chiffres sont prononcés sur « %1 », chacun d’un seul côté, au volume actuel. Écoutez les deux et indiquez où vous les entendez.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_FIRST</source>
+        <translation>Premier chiffre</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SECOND</source>
+        <translation>Second chiffre</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_FIRST</source>
+        <translation>Lire le premier chiffre</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_SECOND</source>
+        <translation>Lire le second chiffre</translation>
+    </message>
+    <message>
+        <source>SIDE_LEFT</source>
+        <translation>À gauche</translation>
+    </message>
+    <message>
+        <source>SIDE_RIGHT</source>
+        <translation>À droite</translation>
+    </message>
+    <message>
+        <source>SIDE_BOTH</source>
+        <translation>Des deux côtés</translation>
+    </message>
+    <message>
+        <source>SIDE_NOTHING</source>
+        <translation>Nulle part</translation>
+    </message>
+    <message>
+        <source>CHANNELS_OPEN</source>
+        <translation>Le résultat s’affiche une fois les deux réponses données.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STRAIGHT</source>
+        <translation>La gauche et la droite sont à leur place.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SWAPPED</source>
+        <translation>La gauche et la droite sont inversées.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MIXED</source>
+        <translation>La gauche et la droite sont mélangées et ne se distinguent pas.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_LEFT_SILENT</source>
+        <translation>Le canal gauche est muet.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_RIGHT_SILENT</source>
+        <translation>Le canal droit est muet.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_UNHEARD</source>
+        <translation>Rien n’a été entendu. Augmentez le volume et relancez les chiffres.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_KNOWN</source>
+        <translation>La gauche et la droite n’ont pas pu être mesurées : %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURE</source>
+        <translation>Mesurer avec « %1 »</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURING</source>
+        <translation>Écoute de « %1 »…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_PLAYED</source>
+        <translation>Le chiffre n’a pas pu être lu : %1</translation>
+    </message>
+    <message>
+        <source>LOG_CHANNELS</source>
+        <translation>Canaux de « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>LISTENING_SOURCE</source>
+        <translation>Source d’écoute…</translation>
+    </message>
+    <message>
+        <source>SOURCE_TITLE</source>
+        <translation>Source d’écoute</translation>
+    </message>
+    <message>
+        <source>SOURCE_TEXT</source>
+        <translation>Ce que cette source entend est affiché à côté du test du microphone, et mesuré lors de la vérification des canaux et des exécutions sans personne. Rien d’autre n’est écouté.</translation>
+    </message>
+    <message>
+        <source>SOURCE_NONE</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>SOURCE_READING</source>
+        <translation>Lecture des sources…</translation>
+    </message>
+    <message>
+        <source>SOURCE_ABSENT</source>
+        <translation>%1 (non connectée)</translation>
+    </message>
+    <message>
+        <source>SOURCE_USE</source>
+        <translation>Utiliser</translation>
+    </message>
+    <message>
+        <source>LOG_SOURCE</source>
+        <translation>Source d’écoute : %1</translation>
+    </message>
+    <message>
+        <source>LOG_SETTINGS_NOT_SAVED</source>
+        <translation>Impossible d’enregistrer le réglage dans le dossier « %1 ».</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED</source>
+        <translation>Exécuter sans personne</translation>
+    </message>
+    <message>
+        <source>MEASUREMENTS</source>
+        <translation>Mesures</translation>
+    </message>
+    <message>
+        <source>NOTHING_MEASURED</source>
+        <translation>Rien n’a été mesuré lors de la dernière exécution.</translation>
+    </message>
+    <message>
+        <source>DIGIT</source>
+        <translation>Chiffre</translation>
+    </message>
+    <message>
+        <source>DIGIT_PLAYED</source>
+        <translation>Joué</translation>
+    </message>
+    <message>
+        <source>DIGIT_HEARD</source>
+        <translation>Entendu</translation>
+    </message>
+    <message>
+        <source>DIGIT_TYPED</source>
+        <translation>Saisi</translation>
+    </message>
+    <message>
+        <source>DIGIT_SCORE</source>
+        <translation>Ressemblance</translation>
+    </message>
+    <message>
+        <source>DIGIT_LEVEL</source>
+        <translation>Niveau (dBFS)</translation>
+    </message>
+    <message>
+        <source>DIGIT_SNR</source>
+        <translation>SNR (dB)</translation>
+    </message>
+    <message>
+        <source>DIGIT_LATENCY</source>
+        <translation>Latence (ms)</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE</source>
+        <translation>Forme d’onde du chiffre %1</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_WORDS</source>
+        <translation>%1 s, crête %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_AT</source>
+        <translation>À %1 s : de %2 à %3</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM</source>
+        <translation>Spectre du chiffre %1</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_WORDS</source>
+        <translation>Maximum à %1 Hz : %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_AT</source>
+        <translation>%1 Hz : %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_KEYS</source>
+        <translation>Les touches fléchées lisent les valeurs une à une.</translation>
+    </message>
 </context>
 </TS>

@@ -448,5 +448,205 @@ Versione di questo programma: %2</translation>
         <source>LOG_REPORT_COPIED</source>
         <translation>Il rapporto è stato copiato come testo.</translation>
     </message>
+    <message>
+        <source>CHECK_CHANNELS</source>
+        <translation>Controlla i canali…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TITLE</source>
+        <translation>Sinistra e destra</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TEXT</source>
+        <translation>Su «%1» vengono pronunciate due cifre, ciascuna da un solo lato, al volume attuale. Riproducile entrambe e indica dove le senti.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_FIRST</source>
+        <translation>Prima cifra</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SECOND</source>
+        <translation>Seconda cifra</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_FIRST</source>
+        <translation>Riproduci la prima cifra</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_SECOND</source>
+        <translation>Riproduci la seconda cifra</translation>
+    </message>
+    <message>
+        <source>SIDE_LEFT</source>
+        <translation>A sinistra</translation>
+    </message>
+    <message>
+        <source>SIDE_RIGHT</source>
+        <translation>A destra</translation>
+    </message>
+    <message>
+        <source>SIDE_BOTH</source>
+        <translation>Da entrambi i lati</translation>
+    </message>
+    <message>
+        <source>SIDE_NOTHING</source>
+        <translation>Da nessuna parte</translation>
+    </message>
+    <message>
+        <source>CHANNELS_OPEN</source>
+        <translation>Il risultato appare quando hai risposto per entrambe le cifre.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STRAIGHT</source>
+        <translation>Sinistra e destra sono al posto giusto.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SWAPPED</source>
+        <translation>Sinistra e destra sono scambiate.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MIXED</source>
+        <translation>Sinistra e destra sono mescolate e non si distinguono.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_LEFT_SILENT</source>
+        <translation>Il canale sinistro è muto.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_RIGHT_SILENT</source>
+        <translation>Il canale destro è muto.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_UNHEARD</source>
+        <translation>Non si è sentito nulla. Alza il volume e riproduci di nuovo le cifre.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_KNOWN</source>
+        <translation>Non è stato possibile misurare sinistra e destra: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURE</source>
+        <translation>Misura con «%1»</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURING</source>
+        <translation>Ascolto di «%1»…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_PLAYED</source>
+        <translation>Non è stato possibile riprodurre la cifra: %1</translation>
+    </message>
+    <message>
+        <source>LOG_CHANNELS</source>
+        <translation>Canali di «%1»: %2</translation>
+    </message>
+    <message>
+        <source>LISTENING_SOURCE</source>
+        <translation>Sorgente di ascolto…</translation>
+    </message>
+    <message>
+        <source>SOURCE_TITLE</source>
+        <translation>Sorgente di ascolto</translation>
+    </message>
+    <message>
+        <source>SOURCE_TEXT</source>
+        <translation>Ciò che questa sorgente sente è mostrato accanto al test del microfono e misurato nel controllo dei canali e nelle esecuzioni senza nessuno presente. Per il resto non si ascolta nulla.</translation>
+    </message>
+    <message>
+        <source>SOURCE_NONE</source>
+        <translation>Nessuna</translation>
+    </message>
+    <message>
+        <source>SOURCE_READING</source>
+        <translation>Lettura delle sorgenti…</translation>
+    </message>
+    <message>
+        <source>SOURCE_ABSENT</source>
+        <translation>%1 (non collegata)</translation>
+    </message>
+    <message>
+        <source>SOURCE_USE</source>
+        <translation>Usa</translation>
+    </message>
+    <message>
+        <source>LOG_SOURCE</source>
+        <translation>Sorgente di ascolto: %1</translation>
+    </message>
+    <message>
+        <source>LOG_SETTINGS_NOT_SAVED</source>
+        <translation>Impossibile salvare l’impostazione nella cartella «%1».</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED</source>
+        <translation>Esegui senza nessuno presente</translation>
+    </message>
+    <message>
+        <source>MEASUREMENTS</source>
+        <translation>Misure</translation>
+    </message>
+    <message>
+        <source>NOTHING_MEASURED</source>
+        <translation>Nell’ultima esecuzione non è stato misurato nulla.</translation>
+    </message>
+    <message>
+        <source>DIGIT</source>
+        <translation>Cifra</translation>
+    </message>
+    <message>
+        <source>DIGIT_PLAYED</source>
+        <translation>Emessa</translation>
+    </message>
+    <message>
+        <source>DIGIT_HEARD</source>
+        <translation>Sentita</translation>
+    </message>
+    <message>
+        <source>DIGIT_TYPED</source>
+        <translation>Digitata</translation>
+    </message>
+    <message>
+        <source>DIGIT_SCORE</source>
+        <translation>Somiglianza</translation>
+    </message>
+    <message>
+        <source>DIGIT_LEVEL</source>
+        <translation>Livello (dBFS)</translation>
+    </message>
+    <message>
+        <source>DIGIT_SNR</source>
+        <translation>SNR (dB)</translation>
+    </message>
+    <message>
+        <source>DIGIT_LATENCY</source>
+        <translation>Latenza (ms)</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE</source>
+        <translation>Forma d’onda della cifra %1</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_WORDS</source>
+        <translation>%1 s, picco %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_AT</source>
+        <translation>A %1 s: da %2 a %3</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM</source>
+        <translation>Spettro della cifra %1</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_WORDS</source>
+        <translation>Massimo a %1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_AT</source>
+        <translation>%1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_KEYS</source>
+        <translation>I tasti freccia leggono i singoli valori.</translation>
+    </message>
 </context>
 </TS>

@@ -448,5 +448,205 @@ Versie van dit programma: %2</translation>
         <source>LOG_REPORT_COPIED</source>
         <translation>Het rapport is als tekst gekopieerd.</translation>
     </message>
+    <message>
+        <source>CHECK_CHANNELS</source>
+        <translation>Kanalen controleren…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TITLE</source>
+        <translation>Links en rechts</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TEXT</source>
+        <translation>Via ‘%1’ worden twee cijfers uitgesproken, elk aan één kant en met het huidige volume. Speel beide af en geef aan waar u ze hoort.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_FIRST</source>
+        <translation>Eerste cijfer</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SECOND</source>
+        <translation>Tweede cijfer</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_FIRST</source>
+        <translation>Eerste cijfer afspelen</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_SECOND</source>
+        <translation>Tweede cijfer afspelen</translation>
+    </message>
+    <message>
+        <source>SIDE_LEFT</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>SIDE_RIGHT</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>SIDE_BOTH</source>
+        <translation>Beide kanten</translation>
+    </message>
+    <message>
+        <source>SIDE_NOTHING</source>
+        <translation>Niets</translation>
+    </message>
+    <message>
+        <source>CHANNELS_OPEN</source>
+        <translation>Het resultaat volgt zodra beide cijfers zijn beantwoord.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STRAIGHT</source>
+        <translation>Links en rechts zitten op de juiste plaats.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SWAPPED</source>
+        <translation>Links en rechts zijn verwisseld.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MIXED</source>
+        <translation>Links en rechts zijn gemengd en niet te onderscheiden.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_LEFT_SILENT</source>
+        <translation>Het linkerkanaal is stil.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_RIGHT_SILENT</source>
+        <translation>Het rechterkanaal is stil.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_UNHEARD</source>
+        <translation>Er is niets gehoord. Zet het volume hoger en speel de cijfers opnieuw af.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_KNOWN</source>
+        <translation>Links en rechts konden niet worden gemeten: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURE</source>
+        <translation>Meten met ‘%1’</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURING</source>
+        <translation>Er wordt geluisterd naar ‘%1’…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_PLAYED</source>
+        <translation>Het cijfer kon niet worden afgespeeld: %1</translation>
+    </message>
+    <message>
+        <source>LOG_CHANNELS</source>
+        <translation>Kanalen van ‘%1’: %2</translation>
+    </message>
+    <message>
+        <source>LISTENING_SOURCE</source>
+        <translation>Luisterbron…</translation>
+    </message>
+    <message>
+        <source>SOURCE_TITLE</source>
+        <translation>Luisterbron</translation>
+    </message>
+    <message>
+        <source>SOURCE_TEXT</source>
+        <translation>Wat deze bron hoort, wordt naast de microfoontest getoond en gemeten bij de kanaalcontrole en bij tests zonder bediener. Verder wordt er niets afgeluisterd.</translation>
+    </message>
+    <message>
+        <source>SOURCE_NONE</source>
+        <translation>Geen</translation>
+    </message>
+    <message>
+        <source>SOURCE_READING</source>
+        <translation>Bronnen worden gelezen…</translation>
+    </message>
+    <message>
+        <source>SOURCE_ABSENT</source>
+        <translation>%1 (niet aangesloten)</translation>
+    </message>
+    <message>
+        <source>SOURCE_USE</source>
+        <translation>Gebruiken</translation>
+    </message>
+    <message>
+        <source>LOG_SOURCE</source>
+        <translation>Luisterbron: %1</translation>
+    </message>
+    <message>
+        <source>LOG_SETTINGS_NOT_SAVED</source>
+        <translation>De instelling kan niet worden opgeslagen in de map ‘%1’.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED</source>
+        <translation>Uitvoeren zonder bediener</translation>
+    </message>
+    <message>
+        <source>MEASUREMENTS</source>
+        <translation>Metingen</translation>
+    </message>
+    <message>
+        <source>NOTHING_MEASURED</source>
+        <translation>Bij de laatste test is niets gemeten.</translation>
+    </message>
+    <message>
+        <source>DIGIT</source>
+        <translation>Cijfer</translation>
+    </message>
+    <message>
+        <source>DIGIT_PLAYED</source>
+        <translation>Afgespeeld</translation>
+    </message>
+    <message>
+        <source>DIGIT_HEARD</source>
+        <translation>Gehoord</translation>
+    </message>
+    <message>
+        <source>DIGIT_TYPED</source>
+        <translation>Ingetypt</translation>
+    </message>
+    <message>
+        <source>DIGIT_SCORE</source>
+        <translation>Gelijkenis</translation>
+    </message>
+    <message>
+        <source>DIGIT_LEVEL</source>
+        <translation>Niveau (dBFS)</translation>
+    </message>
+    <message>
+        <source>DIGIT_SNR</source>
+        <translation>SNR (dB)</translation>
+    </message>
+    <message>
+        <source>DIGIT_LATENCY</source>
+        <translation>Vertraging (ms)</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE</source>
+        <translation>Golfvorm van cijfer %1</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_WORDS</source>
+        <translation>%1 s, piek %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_AT</source>
+        <translation>Op %1 s: van %2 tot %3</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM</source>
+        <translation>Spectrum van cijfer %1</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_WORDS</source>
+        <translation>Het luidst bij %1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_AT</source>
+        <translation>%1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_KEYS</source>
+        <translation>Met de pijltoetsen leest u afzonderlijke waarden.</translation>
+    </message>
 </context>
 </TS>

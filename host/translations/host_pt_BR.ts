@@ -448,5 +448,205 @@ Versão deste programa: %2</translation>
         <source>LOG_REPORT_COPIED</source>
         <translation>O relatório foi copiado como texto.</translation>
     </message>
+    <message>
+        <source>CHECK_CHANNELS</source>
+        <translation>Verificar canais…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TITLE</source>
+        <translation>Esquerda e direita</translation>
+    </message>
+    <message>
+        <source>CHANNELS_TEXT</source>
+        <translation>Dois algarismos são falados em “%1”, cada um de um lado só, no volume atual. Reproduza os dois e diga onde os ouve.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_FIRST</source>
+        <translation>Primeiro algarismo</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SECOND</source>
+        <translation>Segundo algarismo</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_FIRST</source>
+        <translation>Reproduzir o primeiro algarismo</translation>
+    </message>
+    <message>
+        <source>CHANNELS_PLAY_SECOND</source>
+        <translation>Reproduzir o segundo algarismo</translation>
+    </message>
+    <message>
+        <source>SIDE_LEFT</source>
+        <translation>Esquerda</translation>
+    </message>
+    <message>
+        <source>SIDE_RIGHT</source>
+        <translation>Direita</translation>
+    </message>
+    <message>
+        <source>SIDE_BOTH</source>
+        <translation>Os dois lados</translation>
+    </message>
+    <message>
+        <source>SIDE_NOTHING</source>
+        <translation>Nada</translation>
+    </message>
+    <message>
+        <source>CHANNELS_OPEN</source>
+        <translation>O resultado aparece quando os dois algarismos forem respondidos.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STRAIGHT</source>
+        <translation>A esquerda e a direita estão no lugar certo.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_SWAPPED</source>
+        <translation>A esquerda e a direita estão trocadas.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MIXED</source>
+        <translation>A esquerda e a direita estão misturadas e não se distinguem.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_LEFT_SILENT</source>
+        <translation>O canal esquerdo está mudo.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_RIGHT_SILENT</source>
+        <translation>O canal direito está mudo.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_UNHEARD</source>
+        <translation>Nada foi ouvido. Aumente o volume e reproduza os algarismos de novo.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_KNOWN</source>
+        <translation>Não foi possível medir a esquerda e a direita: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURE</source>
+        <translation>Medir com “%1”</translation>
+    </message>
+    <message>
+        <source>CHANNELS_MEASURING</source>
+        <translation>Ouvindo “%1”…</translation>
+    </message>
+    <message>
+        <source>CHANNELS_NOT_PLAYED</source>
+        <translation>Não foi possível reproduzir o algarismo: %1</translation>
+    </message>
+    <message>
+        <source>LOG_CHANNELS</source>
+        <translation>Canais de “%1”: %2</translation>
+    </message>
+    <message>
+        <source>LISTENING_SOURCE</source>
+        <translation>Fonte de escuta…</translation>
+    </message>
+    <message>
+        <source>SOURCE_TITLE</source>
+        <translation>Fonte de escuta</translation>
+    </message>
+    <message>
+        <source>SOURCE_TEXT</source>
+        <translation>O que esta fonte ouve é mostrado ao lado do teste do microfone e medido na verificação dos canais e nas execuções sem ninguém presente. Fora isso, nada é escutado.</translation>
+    </message>
+    <message>
+        <source>SOURCE_NONE</source>
+        <translation>Nenhuma</translation>
+    </message>
+    <message>
+        <source>SOURCE_READING</source>
+        <translation>Lendo as fontes…</translation>
+    </message>
+    <message>
+        <source>SOURCE_ABSENT</source>
+        <translation>%1 (não conectada)</translation>
+    </message>
+    <message>
+        <source>SOURCE_USE</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>LOG_SOURCE</source>
+        <translation>Fonte de escuta: %1</translation>
+    </message>
+    <message>
+        <source>LOG_SETTINGS_NOT_SAVED</source>
+        <translation>Não foi possível salvar a configuração na pasta “%1”.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED</source>
+        <translation>Executar sem ninguém presente</translation>
+    </message>
+    <message>
+        <source>MEASUREMENTS</source>
+        <translation>Medições</translation>
+    </message>
+    <message>
+        <source>NOTHING_MEASURED</source>
+        <translation>Nada foi medido na última execução.</translation>
+    </message>
+    <message>
+        <source>DIGIT</source>
+        <translation>Algarismo</translation>
+    </message>
+    <message>
+        <source>DIGIT_PLAYED</source>
+        <translation>Tocado</translation>
+    </message>
+    <message>
+        <source>DIGIT_HEARD</source>
+        <translation>Ouvido</translation>
+    </message>
+    <message>
+        <source>DIGIT_TYPED</source>
+        <translation>Digitado</translation>
+    </message>
+    <message>
+        <source>DIGIT_SCORE</source>
+        <translation>Semelhança</translation>
+    </message>
+    <message>
+        <source>DIGIT_LEVEL</source>
+        <translation>Nível (dBFS)</translation>
+    </message>
+    <message>
+        <source>DIGIT_SNR</source>
+        <translation>SNR (dB)</translation>
+    </message>
+    <message>
+        <source>DIGIT_LATENCY</source>
+        <translation>Latência (ms)</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE</source>
+        <translation>Forma de onda do algarismo %1</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_WORDS</source>
+        <translation>%1 s, pico %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_WAVE_AT</source>
+        <translation>Em %1 s: de %2 a %3</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM</source>
+        <translation>Espectro do algarismo %1</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_WORDS</source>
+        <translation>Mais forte em %1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_SPECTRUM_AT</source>
+        <translation>%1 Hz: %2 dBFS</translation>
+    </message>
+    <message>
+        <source>PLOT_KEYS</source>
+        <translation>As teclas de seta leem valores individuais.</translation>
+    </message>
 </context>
 </TS>

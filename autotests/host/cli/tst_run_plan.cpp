@@ -113,8 +113,11 @@ void TestRunPlan::passesOnWhatTheRunNeeds()
             microphone.contains(QStringLiteral("--speak-through=Out")));
     QVERIFY(microphone.contains(QStringLiteral("--report=./1-A-m.html")));
     const CommandLine plain = lineOf(QStringLiteral("--device 0"));
-    QVERIFY(host::argumentsOf(plain, host::planRuns(plain, {QStringLiteral("A")})[0], {})
-                .contains(QStringLiteral("--listen=Monitor of A")));
+    const PlannedRun run = host::planRuns(plain, {QStringLiteral("A")})[0];
+    QVERIFY(host::argumentsOf(plain, run, {}).contains(QStringLiteral("--listen=Monitor of A")));
+    const QString check = QStringLiteral("--channel-check");
+    QVERIFY(!host::argumentsOf(plain, run, {}).contains(check));
+    QVERIFY(host::argumentsOf(lineOf(QStringLiteral("--device 0 --channel-check")), run, {}).contains(check));
 }
 
 void TestRunPlan::keepsSoundOnlyWhenAsked()

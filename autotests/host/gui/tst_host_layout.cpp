@@ -2,10 +2,12 @@
 #include "autotests/host/gui/fake_module.h"
 #include "autotests/host/gui/pseudo_translator.h"
 #include "host/core/language_setting.h"
+#include "host/gui/channel_dialog.h"
 #include "host/gui/dialog_prompter.h"
 #include "host/gui/host_prompts.h"
 #include "host/gui/key_text.h"
 #include "host/gui/main_window.h"
+#include "host/gui/source_dialog.h"
 #include "host/translations/translators.h"
 
 #include <QAbstractButton>
@@ -14,8 +16,11 @@
 #include <QLabel>
 #include <QObject>
 #include <QScreen>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <cmath>
 
 namespace {
 
@@ -58,6 +63,30 @@ void expose(QWidget &window)
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCoreApplication::processEvents();
+}
+
+// A run whose digits were measured, as a listener would.
+void addDigits(host::RunRecord &record)
+{
+    record.isUnattended = true;
+    for (int position = 1; position <= 3; ++position) {
+        host::HeardDigit digit;
+        digit.position = position;
+        digit.heard = digit.typed = position + 3;
+        digit.score = 0.98;
+        digit.latencyMs = 21;
+        digit.levelDbfs = -21.4;
+        digit.measured.emplace();
+        digit.measured->snrDb = 61.2;
+        for (int step = 0; step < 190; ++step) {
+            const double height = 0.3 * std::sin(step * 0.1 * position) * std::sin(step / 60.5);
+            digit.measured->lowest.append(-std::abs(height));
+            digit.measured->highest.append(std::abs(height) * 0.9);
+        }
+        for (int band = 0; band < 24; ++band)
+            digit.measured->bandLevelsDbfs.append(-30.0 - 2.5 * std::abs(band - 6.0 * position));
+        record.digits.append(digit);
+    }
 }
 
 // For a look at it: the folder that this variable names gets the pictures.
@@ -126,10 +155,25 @@ void TestHostLayout::fits()
     session.refresh();
     expose(window);
     verifyFits(window);
-    session.run(0, 1, code);
+    session.run(0, 1, code, addDigits);
     QCoreApplication::processEvents();
     verifyFits(window);
     photograph(window, code);
+    auto *tabs = window.findChild<QTabWidget *>(QStringLiteral("host_tabs"));
+    tabs->setCurrentIndex(2);
+    QCoreApplication::processEvents();
+    verifyFits(window);
+    photograph(window, code + QStringLiteral("_measurements"));
+    host::ChannelDialog channels({QStringLiteral("Speakers"), QStringLiteral("Monitor of Speakers"), {}, code}, &window);
+    expose(channels);
+    verifyFits(channels);
+    photograph(channels, code);
+    channels.hide();
+    host::SourceDialog source(QStringLiteral("Monitor of Speakers"), &window);
+    expose(source);
+    verifyFits(source);
+    photograph(source, code);
+    source.hide();
     host::InstructionsPrompt instructions(
         QStringLiteral("AUDIO_PLAYBACK_TEST"), QStringLiteral("AUDIO_PLAYBACK_TEST_INSTRUCTIONS"),
         {QStringLiteral("Speakers"), QStringLiteral("Headphones"), QStringLiteral("Microphone")}, &window);

@@ -50,6 +50,7 @@ void TestHostOptions::readsAnUnattendedRun()
     QCOMPARE(options->device, QStringLiteral("Speakers"));
     QCOMPARE(options->source, QStringLiteral("mic1"));
     QCOMPARE(options->mistypedSequences, 2);
+    QVERIFY(!options->isChannelCheck);
     QCOMPARE(options->language, QStringLiteral("de_DE"));
     QCOMPARE(options->schedule.stopAfter, std::chrono::milliseconds(1500));
 }
@@ -57,11 +58,13 @@ void TestHostOptions::readsAnUnattendedRun()
 void TestHostOptions::readsAMicrophoneRun()
 {
     const auto result =
-        read(QStringLiteral("--unattended --test m --device Speakers --listen x --microphone Mic --speak-through Headphones"));
+        read(QStringLiteral("--unattended --test m --device Speakers --listen x --microphone Mic --speak-through Headphones "
+                            "--channel-check"));
     const auto *options = std::get_if<host::Options>(&result);
     QVERIFY(options != nullptr);
     QCOMPARE(options->microphone, QStringLiteral("Mic"));
     QCOMPARE(options->speakThrough, QStringLiteral("Headphones"));
+    QVERIFY(options->isChannelCheck);
 }
 
 // For the level beside the dialog of a person.
@@ -132,6 +135,7 @@ void TestHostOptions::refusesWhatItCannotDo_data()
         "'--microphone' goes with '--test m' only");
     row("speech in the playback test", "--unattended --test p --device 0 --listen x --speak-through y",
         "'--speak-through' goes with '--test m' only");
+    row("channel check without unattended", "--channel-check", "'--channel-check' goes with '--unattended' only");
     row("mistype without unattended", "--mistype 1", "'--mistype' goes with");
     row("mistype no number", "--unattended --test p --device 0 --listen x --mistype -1", "not '-1'");
     row("unknown language", "--language de", "unknown language 'de' (known: pt_BR, en_US");

@@ -149,7 +149,7 @@ void TestListenerWords::relatesItsClockToTheCalendar()
     using namespace std::chrono;
     const auto before = floor<milliseconds>(steady_clock::now().time_since_epoch()).count();
     const QJsonObject ready =
-        QJsonDocument::fromJson(host::readyLine(QStringLiteral("Mic \u8033"), QStringLiteral("en_US"))).object();
+        QJsonDocument::fromJson(host::readyLine(QStringLiteral("Mic \u8033"), QStringLiteral("en_US"), 1)).object();
     const auto after = floor<milliseconds>(steady_clock::now().time_since_epoch()).count();
     const auto steady = static_cast<qint64>(ready.value(QLatin1String("steadyMs")).toDouble());
     QVERIFY(steady >= before && steady <= after);

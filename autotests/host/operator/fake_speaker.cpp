@@ -1,24 +1,38 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Stands in for the speaker: "ready", and "started" and "finished" when it is told to speak. Its arguments go to the file
-// "speaker_arguments". The device "Broken" cannot be opened.
+// "speaker_arguments". On one channel alone it takes half a second, and notes the channel and the moment at which it began in
+// the file "speaker_spoke". The device "Broken" cannot be opened.
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QSaveFile>
 
 #include <chrono>
 #include <cstdio>
 #include <iostream>
 #include <string>
+#include <thread>
 
 namespace {
 
-void tell(const char *event)
+qint64 nowMs()
 {
     using namespace std::chrono;
-    const auto now = floor<milliseconds>(steady_clock::now().time_since_epoch()).count();
-    std::printf("{\"event\":\"%s\",\"atMs\":%lld}\n", event, static_cast<long long>(now));
+    return floor<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+void tell(const char *event)
+{
+    std::printf("{\"event\":\"%s\",\"atMs\":%lld}\n", event, static_cast<long long>(nowMs()));
     std::fflush(stdout);
+}
+
+void note(const char *name, const QByteArray &text)
+{
+    const QString path = QCoreApplication::applicationDirPath() + u'/' + QLatin1String(name);
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size())
+        file.commit();
 }
 
 } // namespace
@@ -31,15 +45,16 @@ int main(int argc, char *argv[])
         std::fputs("audio_speaker: 'Broken' cannot be opened\n", stderr);
         return 3;
     }
-    QFile file(QCoreApplication::applicationDirPath() + QStringLiteral("/speaker_arguments"));
-    if (file.open(QIODevice::WriteOnly))
-        file.write(arguments.join(u'\n').toUtf8());
-    file.close();
+    note("speaker_arguments", arguments.join(u'\n').toUtf8());
     tell("ready");
     std::string line;
     if (!std::getline(std::cin, line))
         return 0;
     tell("started");
+    if (const qsizetype channel = arguments.indexOf(QStringLiteral("--channel")); channel >= 0) {
+        note("speaker_spoke", arguments.value(channel + 1).toUtf8() + ' ' + QByteArray::number(nowMs()));
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    }
     tell("finished");
     return 0;
 }

@@ -1,0 +1,328 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "autotests/host/gui/shown_program.h"
+#include "autotests/host/operator/listener_script.h"
+#include "host/gui/channel_dialog.h"
+#include "host/gui/key_text.h"
+#include "host/gui/listening_tools.h"
+#include "host/gui/source_dialog.h"
+#include "host/gui/source_setting.h"
+#include "host/translations/translators.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QObject>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+using host::ChannelDialog;
+using host::ChannelMapping;
+using host::SourceDialog;
+using host::SourceSetting;
+
+namespace {
+
+constexpr int limitMs = 30'000;
+
+host::ChannelListening listening(const QString &device = QStringLiteral("Speakers"), const QString &source = {})
+{
+    return {device, source, QStringLiteral("/clips"), QStringLiteral("en_US")};
+}
+
+struct Channels : ChannelDialog {
+    explicit Channels(const host::ChannelListening &what = listening()) : ChannelDialog(what) { show(); }
+
+    template <typename Widget>
+    Widget *find(const QString &name)
+    {
+        return findChild<Widget *>(QStringLiteral("host_channels_") + name);
+    }
+    QString result() { return find<QLabel>(QStringLiteral("result"))->text(); }
+    void play(const QString &which)
+    {
+        auto *button = find<QPushButton>(which + QStringLiteral("_play"));
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(!button->isEnabled()); // one at a time
+        QTRY_VERIFY_WITH_TIMEOUT(button->isEnabled(), limitMs);
+    }
+    void answer(const QString &which, const QString &side) { find<QRadioButton>(which + u'_' + side)->click(); }
+};
+
+QString spoken()
+{
+    QFile file(QCoreApplication::applicationDirPath() + QStringLiteral("/speaker_arguments"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void sayTwoSources()
+{
+    ListenerScript script(false);
+    script.say(R"({"event":"source","name":"Mic"})");
+    script.say("{\"event\":\"source\",\"name\":\"Kopfh\xC3\xB6rer <b>\"}");
+    script.end(0);
+}
+
+} // namespace
+
+// What the window asks a person around listening. The listener and the speaker are stand-ins beside this program.
+class TestListeningDialogs : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(host::installTranslators(QStringLiteral("en_US"))); }
+    void asksOnlyForWhatWasPlayed();
+    void playsEachDigitOnItsSideAlone();
+    void saysPlainlyWhatThePersonHeard_data();
+    void saysPlainlyWhatThePersonHeard();
+    void changesItsMindWithThePerson();
+    void tellsWhyADigitCouldNotBePlayed();
+    void measuresOnlyWithASource();
+    void saysWhyItCouldNotMeasure();
+    void isWorkedByTheKeyboard();
+    void keepsTheSource();
+    void doesNotKeepASourceThatIsForOnce();
+    void offersTheSources();
+    void keepsASourceThatIsGone();
+    void offersRunsAloneOnlyWithASource();
+    void notesTheCheckForLaterRuns();
+};
+
+void TestListeningDialogs::asksOnlyForWhatWasPlayed()
+{
+    Channels dialog;
+    const QList<QRadioButton *> answers = dialog.findChildren<QRadioButton *>();
+    QCOMPARE(answers.size(), 8);
+    for (const QRadioButton *answer : answers)
+        QVERIFY(!answer->isEnabled());
+    dialog.play(QStringLiteral("first"));
+    for (const QRadioButton *answer : answers)
+        QCOMPARE(answer->isEnabled(), answer->objectName().contains(QStringLiteral("first")));
+    QCOMPARE(dialog.result(), host::hostText("CHANNELS_OPEN"));
+    QVERIFY(!dialog.check());
+}
+
+void TestListeningDialogs::playsEachDigitOnItsSideAlone()
+{
+    Channels dialog;
+    dialog.play(QStringLiteral("first"));
+    const QString first = spoken();
+    QVERIFY2(first.startsWith(QStringLiteral("--device\nSpeakers\n--play\n/clips/en_US/")), qPrintable(first));
+    QVERIFY(first.endsWith(QStringLiteral("_en_US.wav\n--channel\nleft")));
+    dialog.play(QStringLiteral("second"));
+    QVERIFY(spoken().endsWith(QStringLiteral("\n--channel\nright")));
+    QVERIFY(spoken().section(u'\n', 3, 3) != first.section(u'\n', 3, 3));
+    dialog.play(QStringLiteral("first")); // once more
+    QCOMPARE(spoken(), first);
+}
+
+void TestListeningDialogs::saysPlainlyWhatThePersonHeard_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    QTest::addColumn<QByteArray>("key");
+    const auto row = [](const char *first, const char *second, const char *key) {
+        QTest::newRow(key) << QString::fromLatin1(first) << QString::fromLatin1(second) << QByteArray(key);
+    };
+    row("left", "right", "CHANNELS_STRAIGHT");
+    row("right", "left", "CHANNELS_SWAPPED");
+    row("both", "both", "CHANNELS_MIXED");
+    row("nothing", "right", "CHANNELS_LEFT_SILENT");
+    row("left", "nothing", "CHANNELS_RIGHT_SILENT");
+    row("nothing", "nothing", "CHANNELS_UNHEARD");
+}
+
+void TestListeningDialogs::saysPlainlyWhatThePersonHeard()
+{
+    QFETCH(const QString, first);
+    QFETCH(const QString, second);
+    QFETCH(const QByteArray, key);
+    Channels dialog;
+    dialog.play(QStringLiteral("first"));
+    dialog.answer(QStringLiteral("first"), first);
+    dialog.play(QStringLiteral("second"));
+    dialog.answer(QStringLiteral("second"), second);
+    QCOMPARE(dialog.result(), host::hostText(key.constData()));
+    QVERIFY(dialog.check() && dialog.check()->source.isEmpty());
+}
+
+void TestListeningDialogs::changesItsMindWithThePerson()
+{
+    Channels dialog;
+    for (const char *which : {"first", "second"}) {
+        dialog.play(QLatin1String(which));
+        dialog.answer(QLatin1String(which), QStringLiteral("left"));
+    }
+    QCOMPARE(dialog.check()->mapping, ChannelMapping::mixed);
+    dialog.answer(QStringLiteral("second"), QStringLiteral("right"));
+    QCOMPARE(dialog.check()->mapping, ChannelMapping::straight);
+}
+
+void TestListeningDialogs::tellsWhyADigitCouldNotBePlayed()
+{
+    Channels dialog(listening(QStringLiteral("Broken")));
+    dialog.play(QStringLiteral("first"));
+    QVERIFY2(dialog.result().contains(QStringLiteral("'Broken' cannot be opened")), qPrintable(dialog.result()));
+    for (const QRadioButton *answer : dialog.findChildren<QRadioButton *>())
+        QVERIFY(!answer->isEnabled());
+}
+
+void TestListeningDialogs::measuresOnlyWithASource()
+{
+    Channels without;
+    QVERIFY(!without.find<QPushButton>(QStringLiteral("measure"))->isVisible());
+    Channels with(listening(QStringLiteral("Speakers"), QStringLiteral("Mic & co")));
+    QVERIFY(with.find<QPushButton>(QStringLiteral("measure"))->isVisible());
+    QVERIFY(with.find<QPushButton>(QStringLiteral("measure"))->text().contains(QStringLiteral("&& ")));
+}
+
+void TestListeningDialogs::saysWhyItCouldNotMeasure()
+{
+    ListenerScript script(false);
+    script.end(3);
+    Channels dialog(listening(QStringLiteral("Speakers"), QStringLiteral("Mic")));
+    QTest::mouseClick(dialog.find<QPushButton>(QStringLiteral("measure")), Qt::LeftButton);
+    QCOMPARE(dialog.result(), host::hostText("CHANNELS_MEASURING").arg(QStringLiteral("Mic")));
+    QTRY_VERIFY_WITH_TIMEOUT(dialog.check().has_value(), limitMs);
+    QCOMPARE(dialog.check()->mapping, ChannelMapping::notMeasurable);
+    QCOMPARE(dialog.result(), host::hostText("CHANNELS_NOT_KNOWN").arg(dialog.check()->reason));
+    QVERIFY(dialog.find<QPushButton>(QStringLiteral("measure"))->isEnabled());
+}
+
+void TestListeningDialogs::isWorkedByTheKeyboard()
+{
+    Channels dialog;
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    for (const char *which : {"first", "second"}) {
+        auto *play = dialog.find<QPushButton>(QLatin1String(which) + QStringLiteral("_play"));
+        for (int press = 0; press < 8 && dialog.focusWidget() != play; ++press)
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        QCOMPARE(dialog.focusWidget(), play);
+        QTest::keyClick(play, Qt::Key_Space);
+        QTRY_VERIFY_WITH_TIMEOUT(play->isEnabled(), limitMs);
+        QCOMPARE(dialog.focusWidget(), dialog.find<QRadioButton>(QLatin1String(which) + QStringLiteral("_left")));
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
+    }
+    QCOMPARE(dialog.check()->mapping, ChannelMapping::mixed); // both on the left
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Right);
+    QCOMPARE(dialog.check()->mapping, ChannelMapping::straight);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    QVERIFY(!dialog.isVisible());
+}
+
+void TestListeningDialogs::keepsTheSource()
+{
+    const QTemporaryDir folder;
+    const QString inside = folder.filePath(QStringLiteral("new/state"));
+    const QString name = QStringLiteral("Monitor of Kopfh\u00F6rer, \u8033 = \"1\"; #[x]");
+    SourceSetting setting(inside);
+    QVERIFY(setting.source().isEmpty());
+    QVERIFY(setting.change(name));
+    QCOMPARE(SourceSetting(inside).source(), name);
+    QVERIFY(setting.change({}));
+    QVERIFY(SourceSetting(inside).source().isEmpty());
+    QVERIFY(!QFile::exists(inside + QStringLiteral("/config.ini"))); // the module's
+    QFile obstacle(folder.filePath(QStringLiteral("file")));
+    QVERIFY(obstacle.open(QIODevice::WriteOnly));
+    SourceSetting lost(obstacle.fileName() + QStringLiteral("/state"));
+    QVERIFY(!lost.change(name));
+    QCOMPARE(lost.source(), name); // in force all the same
+}
+
+void TestListeningDialogs::doesNotKeepASourceThatIsForOnce()
+{
+    const QTemporaryDir folder;
+    SourceSetting setting(folder.path());
+    QVERIFY(setting.change(QStringLiteral("Mic")));
+    setting.useOnce(QStringLiteral("Other"));
+    QCOMPARE(setting.source(), QStringLiteral("Other"));
+    QCOMPARE(SourceSetting(folder.path()).source(), QStringLiteral("Mic"));
+}
+
+void TestListeningDialogs::offersTheSources()
+{
+    sayTwoSources();
+    SourceDialog dialog({});
+    dialog.show();
+    auto *choice = dialog.findChild<QComboBox *>(QStringLiteral("host_source_choice"));
+    QCOMPARE(dialog.chosen(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(choice->count(), 3, limitMs);
+    QCOMPARE(choice->itemText(0), host::hostText("SOURCE_NONE"));
+    choice->setCurrentIndex(2);
+    QCOMPARE(dialog.chosen(), QStringLiteral("Kopfh\u00F6rer <b>"));
+    QVERIFY(dialog.findChild<QLabel *>(QStringLiteral("host_source_state"))->text().isEmpty());
+}
+
+void TestListeningDialogs::keepsASourceThatIsGone()
+{
+    sayTwoSources();
+    SourceDialog dialog(QStringLiteral("USB"));
+    auto *choice = dialog.findChild<QComboBox *>(QStringLiteral("host_source_choice"));
+    QCOMPARE(dialog.chosen(), QStringLiteral("USB"));
+    QTRY_COMPARE_WITH_TIMEOUT(choice->count(), 4, limitMs);
+    QCOMPARE(choice->currentText(), host::hostText("SOURCE_ABSENT").arg(QStringLiteral("USB")));
+    QCOMPARE(dialog.chosen(), QStringLiteral("USB"));
+}
+
+void TestListeningDialogs::offersRunsAloneOnlyWithASource()
+{
+    sayTwoSources();
+    ShownProgram program;
+    host::ListeningTools tools(program.window, program.session, program.language, program.folder.path(), {});
+    auto *alone = program.find<QAction>("host_run_alone");
+    QVERIFY(!alone->isEnabled());
+    const QSignalSpy changed(&tools, &host::ListeningTools::sourceChanged);
+    QTimer::singleShot(0, &tools, [] {
+        auto *dialog = qobject_cast<SourceDialog *>(QApplication::activeModalWidget());
+        auto *choice = dialog->findChild<QComboBox *>(QStringLiteral("host_source_choice"));
+        QTRY_COMPARE_WITH_TIMEOUT(choice->count(), 3, limitMs);
+        choice->setCurrentIndex(1);
+        dialog->findChild<QPushButton *>(QStringLiteral("host_source_use"))->click();
+    });
+    program.find<QAction>("host_choose_source")->trigger();
+    QCOMPARE(tools.source(), QStringLiteral("Mic"));
+    QVERIFY(alone->isEnabled());
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(SourceSetting(program.folder.path()).source(), QStringLiteral("Mic"));
+    program.module.names.clear();
+    program.session.refresh();
+    QVERIFY(!alone->isEnabled() && !program.find<QAction>("host_check_channels")->isEnabled());
+}
+
+void TestListeningDialogs::notesTheCheckForLaterRuns()
+{
+    ShownProgram program;
+    const host::ListeningTools tools(program.window, program.session, program.language, program.folder.path(),
+                                     QStringLiteral("Mic"));
+    program.window.choose(0, 1);
+    QTimer::singleShot(0, &program.window, [] {
+        auto *dialog = qobject_cast<ChannelDialog *>(QApplication::activeModalWidget());
+        for (const char *which : {"first", "second"}) {
+            const QString name = QStringLiteral("host_channels_") + QLatin1String(which);
+            auto *play = dialog->findChild<QPushButton *>(name + QStringLiteral("_play"));
+            play->click();
+            QTRY_VERIFY_WITH_TIMEOUT(play->isEnabled(), limitMs);
+            dialog->findChild<QRadioButton *>(name + QStringLiteral("_both"))->click();
+        }
+        dialog->findChild<QPushButton *>(QStringLiteral("host_channels_close"))->click();
+    });
+    program.find<QAction>("host_check_channels")->trigger();
+    const auto checked = program.session.run(0, 1, QStringLiteral("en_US"));
+    QVERIFY(checked->channels);
+    QCOMPARE(checked->channels->mapping, ChannelMapping::mixed);
+    QCOMPARE(checked->code, 0U);                                            // no verdict counts it
+    QVERIFY(!program.session.run(0, 0, QStringLiteral("en_US"))->channels); // another device
+    QVERIFY(program.find<QPlainTextEdit>("host_log")
+                ->toPlainText()
+                .contains(host::hostText("LOG_CHANNELS").arg(QStringLiteral("Headphones"), host::hostText("CHANNELS_MIXED"))));
+}
+
+QTEST_MAIN(TestListeningDialogs)
+#include "tst_listening_dialogs.moc"
