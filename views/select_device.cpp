@@ -42,8 +42,12 @@ void SelectDevice::listMicrophones()
         ui_->radio_group->addWidget(choice);
         choices_.addButton(choice);
     }
-    if (!choices_.buttons().isEmpty())
-        choices_.buttons().constFirst()->setChecked(true);
+    if (choices_.buttons().isEmpty())
+        return;
+    choices_.buttons().constFirst()->setChecked(true);
+    // They were made after the buttons that stand below them.
+    QWidget::setTabOrder(choices_.buttons().constLast(), ui_->microphone_test_cancel_button);
+    QWidget::setTabOrder(ui_->microphone_test_cancel_button, ui_->microphone_test_next_button);
 }
 
 void SelectDevice::takeFocus()

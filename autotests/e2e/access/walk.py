@@ -9,11 +9,6 @@ INTERACTIVE = {
     "tree table", "window"}
 WITH_VALUE = {"progress bar", "slider", "spin button"}
 
-# Windows in which Tab goes another way than one reads, and why.
-EXPLAINED_ORDER = {
-    "microphones": "the choices are made after the buttons below them, which Tab leads to first; arrows lead from one to the other",
-}
-
 # Role, name and rule of what is let pass, and why.
 EXPLAINED = {
     ("label", "", "name"): "an icon beside words that say the same",
@@ -63,10 +58,8 @@ def comes_before(first, second):
     return left <= other_left if are_side_by_side else top <= other_top
 
 
-def order_faults(window, round_of_keys):
+def order_faults(round_of_keys):
     """`round_of_keys`: the elements that Tab leads to, one after the other, from wherever."""
-    if window in EXPLAINED_ORDER:
-        return []
     steps = list(zip(round_of_keys, round_of_keys[1:] + round_of_keys[:1]))
     back = [(here, there) for here, there in steps if not comes_before(here, there)]
     return [f"Tab goes back from {here.path()} to {there.path()}" for here, there in back] if len(back) > 1 else []
