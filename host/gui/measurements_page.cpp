@@ -97,7 +97,7 @@ MeasurementsPage::MeasurementsPage(QWidget *parent)
     table_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     auto *row = new QHBoxLayout(this);
     row->addWidget(nothing_, 1);
-    row->addWidget(table_, 3);
+    row->addWidget(table_, 4);
     row->addWidget(wavePlot_.column, 2);
     row->addWidget(spectrumPlot_.column, 2);
     connect(table_, &QTableWidget::currentCellChanged, this, &MeasurementsPage::showChosen);
