@@ -45,8 +45,10 @@ RunRecord run(StandInDialog &dialog, const OperatorSettings &given)
     QSignalSpy finished(&dialog, &QDialog::finished);
     person.beginRun();
     dialog.show();
-    if (finished.isEmpty() && !finished.wait(limitMs))
+    if (finished.isEmpty() && !finished.wait(limitMs)) {
+        QTest::qFail("the dialog was never left", __FILE__, __LINE__);
         dialog.hide();
+    }
     person.endRun(record);
     return record;
 }
