@@ -29,6 +29,8 @@ constexpr qint64 listenerLimitMs = 20'000;
 constexpr qint64 pageLimitMs = 20'000;
 /// The recording ends by itself after seven seconds, the playback of it after as many.
 constexpr qint64 jobLimitMs = 60'000;
+/// Noise and other speech score below it; half a sentence scores above.
+constexpr double doubtfulScore = 0.25;
 /// Opening a device of a sound server that does not answer takes 30 s.
 constexpr qint64 speakerLimitMs = 35'000;
 /// The microphone is open by then: what is spoken before it is open is lost.
@@ -218,6 +220,9 @@ void MicrophoneWorker::judge()
     if (!heard.isFound && !heard.isSilent && !hasRepeated_)
         return listenAgain();
     heard_ = heard;
+    // Neither the sentence nor surely another sound: whether the device or this machine's haste tore it nobody can tell.
+    if (!heard.isFound && !heard.isSilent && heard.score > doubtfulScore)
+        return exit_.close(QStringLiteral("not recognised"));
     enter(Step::leaving);
 }
 

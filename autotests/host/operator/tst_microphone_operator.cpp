@@ -110,6 +110,7 @@ private slots:
     void saysYesWhereTheSentenceIsPlayedBack();
     void saysNoWhereNothingIsPlayedBack();
     void saysNoWhereSomethingElseIsPlayedBack();
+    void closesWhereOnlyPartOfItIsPlayedBack();
     void listensOnceMoreToATornPlayback();
     void takesTheDialogsOwnChoice();
     void closesWhereThereIsNoSuchMicrophone();
@@ -177,14 +178,33 @@ void TestMicrophoneOperator::saysNoWhereSomethingElseIsPlayedBack()
     Question question;
     StandInMicrophone dialog(microphones, [&script](Moment moment) {
         if (moment == Moment::playing)
-            clip(script, 0.31, false);
+            clip(script, 0.12, false);
         else if (moment == Moment::played)
             script.level(-20);
     });
     const RunRecord record = run(dialog, question, settings());
     QCOMPARE(question.answer(), QStringLiteral("no"));
     QVERIFY(record.recording && !record.recording->isFound && !record.recording->isSilent);
-    QCOMPARE(record.recording->score, 0.31);
+    QCOMPARE(record.recording->score, 0.12);
+    QCOMPARE(dialog.playCount(), 2);
+}
+
+void TestMicrophoneOperator::closesWhereOnlyPartOfItIsPlayedBack()
+{
+    ListenerScript script;
+    Question question;
+    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+        if (moment == Moment::playing)
+            clip(script, 0.58, false);
+        else if (moment == Moment::played)
+            script.level(-20);
+    });
+    const RunRecord record = run(dialog, question, settings());
+    QCOMPARE(dialog.outcome(), Outcome::closed);
+    QCOMPARE(question.answer(), QString());
+    QCOMPARE(record.reason, QStringLiteral("not recognised"));
+    QVERIFY(record.recording && !record.recording->isFound && !record.recording->isSilent);
+    QCOMPARE(record.recording->score, 0.58);
     QCOMPARE(dialog.playCount(), 2);
 }
 
