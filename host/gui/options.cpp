@@ -22,7 +22,7 @@ struct KnownOption {
     bool isUnattendedOnly;
 };
 
-constexpr std::array<KnownOption, 18> knownOptions{{
+constexpr std::array<KnownOption, 19> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
