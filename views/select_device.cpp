@@ -45,13 +45,15 @@ void SelectDevice::listMicrophones()
     if (choices_.buttons().isEmpty())
         return;
     choices_.buttons().constFirst()->setChecked(true);
-    // They were made after the buttons that stand below them.
-    QWidget::setTabOrder(choices_.buttons().constLast(), ui_->microphone_test_cancel_button);
-    QWidget::setTabOrder(ui_->microphone_test_cancel_button, ui_->microphone_test_next_button);
 }
 
 void SelectDevice::takeFocus()
 {
+    // The choices were made after the buttons that stand below them; before the page is in its place this has no effect.
+    if (!choices_.buttons().isEmpty()) {
+        QWidget::setTabOrder(choices_.buttons().constLast(), ui_->microphone_test_cancel_button);
+        QWidget::setTabOrder(ui_->microphone_test_cancel_button, ui_->microphone_test_next_button);
+    }
     QWidget *checked = choices_.checkedButton();
     (checked != nullptr ? checked : ui_->microphone_test_cancel_button)->setFocus();
 }

@@ -49,6 +49,7 @@ private slots:
     void goesThroughThePagesToTheEnd();
     void goesForwardOnly();
     void handsOnTheChosenMicrophone();
+    void tabsAsOneReads();
     void withoutAMicrophoneItStaysUsable();
     void aMicrophoneThatIsGoneEndsIt();
     void anOutputThatIsGoneEndsItBeforeThePlayback();
@@ -316,6 +317,24 @@ void TestInteractionDialog::handsOnTheChosenMicrophone()
     stage.goToRecordPage();
     QCOMPARE(stage.record().deviceName(), QStringLiteral("Mic B"));
     QCOMPARE(&stage.page(), &stage.record());
+}
+
+void TestInteractionDialog::tabsAsOneReads()
+{
+    FakeSound sound;
+    InteractionDialog dialog(QStringLiteral("Speakers"), nullptr, nullptr, nullptr);
+    QStringList stops;
+    QTimer::singleShot(0, &dialog, [&] {
+        for (int stop = 0; stop < 4; ++stop) {
+            stops << dialog.focusWidget()->objectName();
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        }
+        dialog.Close();
+    });
+    dialog.exec();
+    QCOMPARE(stops,
+             QStringList({QStringLiteral("microphone_test_radio_button"), QStringLiteral("microphone_test_cancel_button"),
+                          QStringLiteral("microphone_test_next_button"), QStringLiteral("microphone_test_header_close")}));
 }
 
 void TestInteractionDialog::withoutAMicrophoneItStaysUsable()

@@ -35,7 +35,6 @@ private slots:
     void shortensANameThatIsTooLong();
     void showsAnyNameLiterally_data();
     void showsAnyNameLiterally();
-    void tabsFromTheChoicesToTheButtonsBelow();
     void noButtonIsADefaultOne();
     void screenReadersGetNamesAndRoles();
 };
@@ -208,24 +207,6 @@ void TestSelectDevice::showsAnyNameLiterally()
     QVERIFY(choice->shortcut().isEmpty());
     named<QPushButton>(page, "microphone_test_next_button")->click();
     QCOMPARE(chosen.constFirst().constFirst().toString(), name); // to the letter: the device is opened by it
-}
-
-void TestSelectDevice::tabsFromTheChoicesToTheButtonsBelow()
-{
-    FakeSound sound;
-    sound.microphones = {"Zulu", "Alpha"};
-    SelectDevice page;
-    page.show();
-    QVERIFY(QTest::qWaitForWindowActive(&page));
-    page.takeFocus();
-    QStringList stops;
-    for (int stop = 0; stop < 4; ++stop) {
-        const auto *button = qobject_cast<const QAbstractButton *>(page.focusWidget());
-        QVERIFY(button != nullptr);
-        stops << button->text();
-        QTest::keyClick(page.focusWidget(), Qt::Key_Tab);
-    }
-    QCOMPARE(stops, QStringList({QStringLiteral("Zulu"), QStringLiteral("CANCEL"), QStringLiteral("NEXT"), QStringLiteral("Zulu")}));
 }
 
 void TestSelectDevice::noButtonIsADefaultOne()

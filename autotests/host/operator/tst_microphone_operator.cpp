@@ -203,8 +203,7 @@ void TestMicrophoneOperator::closesWhereOnlyPartOfItIsPlayedBack()
     QCOMPARE(dialog.outcome(), Outcome::closed);
     QCOMPARE(question.answer(), QString());
     QCOMPARE(record.reason, QStringLiteral("not recognised"));
-    QVERIFY(record.recording && !record.recording->isFound && !record.recording->isSilent);
-    QCOMPARE(record.recording->score, 0.58);
+    QVERIFY(!record.recording);
     QCOMPARE(dialog.playCount(), 2);
 }
 

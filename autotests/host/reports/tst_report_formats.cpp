@@ -421,6 +421,10 @@ void TestReportFormats::tellsThatNoRecordingWasHeard()
     record.isUnattended = isUnattended;
     QVERIFY(html(record).contains(sentence));
     QVERIFY(!html(record).contains("digit was heard"));
+    record.code = 4;
+    QCOMPARE(html(record).contains("Nobody judged what was played."), !isUnattended);
+    record.wasModuleCalled = false;
+    QVERIFY(html(record).contains("The test was not run.") && !html(record).contains(sentence));
 }
 
 void TestReportFormats::alignsTheTable()
