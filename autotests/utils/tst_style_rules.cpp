@@ -201,11 +201,17 @@ void TestStyleRules::takesLinearTime()
     QFETCH(QByteArray, piece);
     constexpr qsizetype megabyte = 1 << 20;
     const auto sheet = [&](qsizetype size) { return QString::fromLatin1(head + piece.repeated(size / piece.size())); };
-    const qint64 quarter = nanosecondsToRewrite(sheet(megabyte / 4));
-    const qint64 whole = nanosecondsToRewrite(sheet(megabyte));
-    QVERIFY(whole < std::numeric_limits<qint64>::max());
-    // Four times the text: 4 when linear, 16 when quadratic. Below a few milliseconds the clock decides.
-    QVERIFY2(whole < 9 * quarter || whole < 5'000'000, qPrintable(QStringLiteral("%1 / %2 ns").arg(whole).arg(quarter)));
+    qint64 quarter = 0;
+    qint64 whole = 0;
+    // Four times the text: 4 when linear, 16 when quadratic. Below a few milliseconds the clock decides, and beside other
+    // work the system does: what takes quadratic time takes it whenever one looks.
+    const auto isLinear = [&] { return whole < 9 * quarter || whole < 5'000'000; };
+    for (int look = 0; look < 5 && !(look > 0 && isLinear()); ++look) {
+        quarter = nanosecondsToRewrite(sheet(megabyte / 4));
+        whole = nanosecondsToRewrite(sheet(megabyte));
+        QVERIFY(whole < std::numeric_limits<qint64>::max());
+    }
+    QVERIFY2(isLinear(), qPrintable(QStringLiteral("%1 / %2 ns").arg(whole).arg(quarter)));
 }
 
 void TestStyleRules::readsTheSubjectOfASelector()
