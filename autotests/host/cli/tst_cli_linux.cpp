@@ -93,7 +93,7 @@ void TestCliLinux::stylesTheHeaderOnATerminalOnly()
     const QByteArray text = listOnATerminal(terminal.constData(), noColor.constData());
     QVERIFY2(text.startsWith("Reading devices\xE2\x80\xA6\r\n"), text.constData()); // somebody watches
     QVERIFY2(text.contains("Speakers"), text.constData());
-    QCOMPARE(text.contains("\x1b[1mNo  Device"), isStyled);
+    QCOMPARE(text.contains("\x1b[1mNo  Direction"), isStyled);
     QCOMPARE(text.contains('\x1b'), isStyled);
 }
 
