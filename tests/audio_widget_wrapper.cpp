@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <thread>
 #include <utility>
 
 namespace ostra {
@@ -17,6 +18,7 @@ namespace ostra {
 namespace {
 
 constexpr std::chrono::milliseconds releaseInterval{100};
+constexpr std::chrono::milliseconds lookInterval{10};
 
 // Runs `action` on the thread of `object` before it returns.
 template <typename Action>
@@ -28,12 +30,15 @@ void runInThreadOf(QObject &object, Action action)
         QMetaObject::invokeMethod(&object, action, Qt::BlockingQueuedConnection);
 }
 
-// Without memory for a call to the dialog's thread: its timer deletes both. A dialog that goes by itself leaves the wrapper.
+// Without memory for a call to the dialog's thread: its timer deletes both. A dialog that goes by itself leaves the wrapper. An
+// application that ends first runs no timer any more, and both are left behind: here is the wrong thread for a dialog.
 void waitForTimer(AudioWidgetWrapper *wrapper, DialogLink &link)
 {
     link.released = wrapper;
-    link.hasDialog.wait(true);
-    delete link.released.exchange(nullptr);
+    while (link.hasDialog && QCoreApplication::instance() != nullptr)
+        std::this_thread::sleep_for(lookInterval);
+    if (!link.hasDialog)
+        delete link.released.exchange(nullptr);
 }
 
 // The dialog belongs to the application's thread and asks the host's objects until it is destroyed: so it is not left to
@@ -82,10 +87,7 @@ void AudioWidgetWrapper::makeDialog(QWidget *parent, QObject *argument)
 void AudioWidgetWrapper::linkDialog()
 {
     InteractionDialog *dialog = dialog_;
-    connect(dialog, &QObject::destroyed, dialog, [link = link_] {
-        link->hasDialog = false;
-        link->hasDialog.notify_all();
-    });
+    connect(dialog, &QObject::destroyed, dialog, [link = link_] { link->hasDialog = false; });
     auto *timer = new QTimer(dialog);
     connect(timer, &QTimer::timeout, dialog, [link = link_] { delete link->released.exchange(nullptr); });
     timer->start(releaseInterval);

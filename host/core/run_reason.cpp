@@ -20,7 +20,7 @@ struct KnownReason {
 };
 
 // In the words that the operator and the programs of a run say them with. The first that fits is meant.
-constexpr std::array<KnownReason, 32> knownReasons{{
+constexpr std::array<KnownReason, 33> knownReasons{{
     {"REASON_STOPPED", "the run was stopped"},
     {"REASON_TOOK_TOO_LONG", "the run took longer than five minutes"},
     {"REASON_VIRTUAL_DEVICE", "'%1' is a virtual device: a verdict on it says nothing about this machine"},
@@ -36,6 +36,7 @@ constexpr std::array<KnownReason, 32> knownReasons{{
     {"REASON_NO_SUCH_MICROPHONE", "no microphone is named '%1' (there are: '%2')"},
     {"REASON_QUESTION_OPEN", "a question was left open"},
     {"REASON_SPEECH_DID_NOT_BEGIN", "the speech could not begin"},
+    {"REASON_SPEECH_DID_NOT_BEGIN", "the sentence was not spoken in time"},
     {"REASON_NO_SPEAKER", "audio_speaker did not speak: %1"},
     {"REASON_DIALOG", "the dialog did not take the microphone"},
     {"REASON_DIALOG", "the dialog did not record"},

@@ -127,7 +127,10 @@ void ChannelDialog::play(std::size_t side)
     // Later: what tells of its end must not be deleted by that.
     connect(
         speaker_.get(), &SpeakerLink::changed, this, [this, side] { followSpeaker(side); }, Qt::QueuedConnection);
-    speaker_->speak(); // as soon as it is ready
+    speaker_->speak();         // as soon as it is ready
+    if (speaker_->hasFailed()) // told before anybody was connected
+        QMetaObject::invokeMethod(
+            this, [this, side] { followSpeaker(side); }, Qt::QueuedConnection);
 }
 
 void ChannelDialog::followSpeaker(std::size_t side)

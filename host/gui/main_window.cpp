@@ -176,6 +176,7 @@ void MainWindow::connectSession()
         devicesText_->repaint(); // the event loop stands still until they are read
     });
     connect(&session_, &TestSession::devicesRead, this, &MainWindow::showDevices);
+    connect(&session_, &TestSession::preparing, this, &MainWindow::setRunning);
     connect(&session_, &TestSession::runStarted, this, &MainWindow::showStarted);
     connect(&session_, &TestSession::progressed, tests_, &RunPanel::showProgress);
     connect(&session_, &TestSession::progressed, this, &MainWindow::logProgress);

@@ -72,6 +72,7 @@ void connectRun(TestSession &session, MainWindow &window, RunBar &bar, RunKeys &
     };
     QObject::connect(&session, &TestSession::runStarted, &bar, [setRunning] { setRunning(true); });
     QObject::connect(&session, &TestSession::runEnded, &bar, [setRunning] { setRunning(false); });
+    QObject::connect(&session, &TestSession::preparing, &keys, [&keys](bool isPreparing) { keys.setRunning(isPreparing); });
     QObject::connect(&session, &TestSession::stopRequested, &bar, &RunBar::setStopping);
 }
 
@@ -123,6 +124,8 @@ private:
         QObject::connect(&tools_, &ListeningTools::metered, &levels_, &LevelWindow::take);
         QObject::connect(&session_, &TestSession::runEnded, &levels_, [this](const RunRecord &record) {
             ear_.reset();
+            if (!record.wasModuleCalled) // what there is to show is an earlier run's
+                return window_.showWave({});
             window_.showWave(record.digits.isEmpty() ? levels_.playbackWave() : waveOf(record.digits));
         });
     }

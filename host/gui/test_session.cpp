@@ -140,8 +140,16 @@ void TestSession::end(const RunRecord &record)
         refresh();
 }
 
+void TestSession::setPreparing(bool isPreparing)
+{
+    isPreparing_ = isPreparing;
+    emit preparing(isPreparing);
+}
+
 void TestSession::stop()
 {
+    if (isPreparing_)
+        emit stopRequested();
     if (context_ == nullptr || context_->isStopped())
         return;
     emit stopRequested();

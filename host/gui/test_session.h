@@ -65,7 +65,11 @@ public:
     /// The same once nothing has called this for `quietTime`.
     void refreshWhenQuiet();
 
-    bool isRunning() const noexcept { return context_ != nullptr; }
+    /// Also while a run is prepared.
+    bool isRunning() const noexcept { return context_ != nullptr || isPreparing_; }
+    /// Something happens with a device before its run: until the run, or its refusal, no other one begins, and the list stays
+    /// as it is. `stop` ends it by `stopRequested`.
+    void setPreparing(bool isPreparing);
     /// Runs a test on a device, both by position, and returns what happened. `language` goes into the record; `finish` may add
     /// to it before anybody sees it. Nothing while a run is under way or for a position that does not exist.
     std::optional<RunRecord> run(qsizetype test, qsizetype device, const QString &language,
@@ -91,6 +95,7 @@ signals:
     void devicesAboutToBeRead();
     /// False: memory ran out, the list has the devices read before.
     void devicesRead(bool isComplete);
+    void preparing(bool isPreparing);
     void runStarted(const host::RunRecord &record);
     void progressed(std::uint32_t percent, const QString &text);
     void messageAdded(const QString &text, std::uint32_t level);
@@ -117,6 +122,7 @@ private:
     QTimer quiet_;
     RunSchedule schedule_;
     RunContext *context_ = nullptr; // of the run under way
+    bool isPreparing_ = false;
     bool isRefreshDue_ = false;
     QList<RunRecord> history_;
     QHash<QString, ChannelCheck> channels_;

@@ -15,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QScopeGuard>
 #include <QTimer>
 
 #include <chrono>
@@ -87,8 +88,8 @@ std::optional<RunRecord> UnattendedRun::perform()
         if (finding.isBlocking())
             return unheard(reasonWords(precheckKey(finding.what), {finding.subject}));
     }
-    if (options_.isChannelCheck)
-        checkChannels();
+    if (options_.isChannelCheck && !checkChannels())
+        return stopped();
     TestOperator person(operatorSettings());
     if (meter_)
         QObject::connect(&person, &TestOperator::metered, meter_);
@@ -143,18 +144,33 @@ std::optional<RunRecord> UnattendedRun::unheard(const QString &reason)
     return session_.refuse(test_, device_, language_, reason, [this](RunRecord &record) { describe(record); });
 }
 
-// Before the run raises the volumes: a side that the user turned down shall be found.
-void UnattendedRun::checkChannels()
+std::optional<RunRecord> UnattendedRun::stopped()
+{
+    return session_.refuse(test_, device_, language_, reasonWords("REASON_STOPPED"), [this](RunRecord &record) {
+        describe(record);
+        record.code = ostra::result::notCompleted;
+        record.wasStopped = true;
+    });
+}
+
+// Before the run raises the volumes: a side that the user turned down shall be found. False when it was stopped.
+bool UnattendedRun::checkChannels()
 {
     const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
+    session_.setPreparing(true);
+    const auto over = qScopeGuard([this] { session_.setPreparing(false); });
     ChannelListener ear({deviceName(), options_.source, clips, language_});
     QEventLoop loop;
-    QObject::connect(&ear, &ChannelListener::finished, &loop, [this, &loop](const ChannelCheck &check) {
+    bool isChecked = false;
+    QObject::connect(&ear, &ChannelListener::finished, &loop, [&](const ChannelCheck &check) {
         session_.noteChannels(deviceName(), check);
+        isChecked = true;
         loop.quit();
     });
+    QObject::connect(&session_, &TestSession::stopRequested, &loop, &QEventLoop::quit);
     ear.start();
     loop.exec();
+    return isChecked;
 }
 
 bool UnattendedRun::writeReports(const RunRecord &record) const

@@ -38,7 +38,8 @@ private:
     bool isRecording() const;
     OperatorSettings operatorSettings() const;
     std::optional<RunRecord> unheard(const QString &reason);
-    void checkChannels();
+    std::optional<RunRecord> stopped();
+    bool checkChannels();
     void describe(RunRecord &record) const;
     bool writeReports(const RunRecord &record) const;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/operator/microphone_worker.h"
 
+#include "host/core/capture_source.h"
 #include "host/operator/real_input.h"
 #include "host/operator/window_photographer.h"
 
@@ -29,6 +30,8 @@ constexpr qint64 listenerLimitMs = 20'000;
 constexpr qint64 pageLimitMs = 20'000;
 /// The recording ends by itself after seven seconds, the playback of it after as many.
 constexpr qint64 jobLimitMs = 60'000;
+/// What a source tells that delivers zeros only.
+constexpr double digitalSilenceDbfs = -120.0;
 /// Noise and other speech score below it; half a sentence scores above.
 constexpr double doubtfulScore = 0.25;
 /// Opening a device of a sound server that does not answer takes 30 s.
@@ -190,8 +193,12 @@ void MicrophoneWorker::speak()
     }
     if (speaker_->hasFailed())
         return exit_.awaitItsOwnEnd(speaker_->errorText());
-    if (playBeganMs_ > 0)
+    if (playBeganMs_ > 0) {
+        // What was not spoken would be missed in the playback, and what is spoken now would be taken for it.
+        if (!speaker_->hasFinished())
+            return exit_.close(QStringLiteral("the sentence was not spoken in time"));
         return enter(Step::playing);
+    }
     if (inStepMs() > jobLimitMs)
         exit_.close(QStringLiteral("the dialog did not end its recording"));
 }
@@ -223,7 +230,21 @@ void MicrophoneWorker::judge()
     // Neither the sentence nor surely another sound: whether the device or this machine's haste tore it nobody can tell.
     if (!heard.isFound && !heard.isSilent && heard.score > doubtfulScore)
         return exit_.close(QStringLiteral("not recognised"));
+    if (const QString reason = whyNotMissing(heard); !reason.isEmpty())
+        return exit_.close(reason);
     enter(Step::leaving);
+}
+
+// Why the sentence cannot be called missing; empty where it can, and where it was found.
+QString MicrophoneWorker::whyNotMissing(const HeardRecording &heard) const
+{
+    if (heard.isFound)
+        return {};
+    if (!log_.hasListenedBetween(playBeganMs_, playEndedMs_))
+        return QStringLiteral("listener lost");
+    // A microphone that works always hears something; a monitor of silence is exactly silent.
+    const bool isDead = !isMonitor(speech_.source) && log_.loudestBetween(playBeganMs_, playEndedMs_) <= digitalSilenceDbfs;
+    return isDead ? QStringLiteral("the capture source delivers nothing") : QString();
 }
 
 // A busy machine may have torn the playback apart, as it would not a person's attention.

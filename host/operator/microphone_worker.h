@@ -23,6 +23,7 @@ struct Speech {
     QString microphone; ///< as the dialog names it; empty for the one that it has chosen
     QString device;     ///< output that the microphone hears
     QString clip;       ///< file
+    QString source;     ///< capture source that listens to the playback
 };
 
 /// Asks for one repetition where something else was played back. Works one microphone dialog: chooses the microphone, has a
@@ -70,6 +71,7 @@ private:
     void leave();
 
     HeardRecording measured() const;
+    QString whyNotMissing(const HeardRecording &heard) const;
     void measureLevels(HeardRecording &heard) const;
     std::optional<double> latencyTo(qint64 startMs) const;
 

@@ -143,8 +143,9 @@ void TestOperator::Private::finishPlayback()
 void TestOperator::Private::workMicrophone(QWidget *dialog)
 {
     if (microphone == nullptr || !microphone->works(dialog))
-        microphone = std::make_unique<MicrophoneWorker>(dialog, listener.log(), photographer,
-                                                        Speech{settings.microphone, settings.speakThrough, settings.sentence});
+        microphone = std::make_unique<MicrophoneWorker>(
+            dialog, listener.log(), photographer,
+            Speech{settings.microphone, settings.speakThrough, settings.sentence, settings.source});
     microphone->advance(listener.isLost());
 }
 

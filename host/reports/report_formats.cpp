@@ -14,6 +14,20 @@ namespace host {
 
 namespace {
 
+// The first version told a failure's reason by its messages alone.
+void explainByMessages(QJsonObject &report)
+{
+    QJsonArray keys;
+    QStringList words;
+    for (const QJsonValue message : report.value(QLatin1String("messages")).toArray()) {
+        keys.append(message[QLatin1String("text")]);
+        words.append(message[QLatin1String("text")].toString());
+    }
+    report.insert(QLatin1String("reasonKeys"), keys);
+    if (report.value(QLatin1String("reason")).toString().isEmpty())
+        report.insert(QLatin1String("reason"), words.join(QStringLiteral("; ")));
+}
+
 // A report of an older program is read as this one would have written it.
 QJsonObject upgraded(QJsonObject report)
 {
@@ -22,6 +36,8 @@ QJsonObject upgraded(QJsonObject report)
     report.insert(QLatin1String("microphone"),
                   report.value(QLatin1String("recording"))[QLatin1String("microphone")].toString());
     report.insert(QLatin1String("reasonKeys"), QJsonArray());
+    if (report.value(QLatin1String("verdict"))[QLatin1String("code")].toInt() != 0)
+        explainByMessages(report);
     report.insert(QLatin1String("reasonTranslated"), report.value(QLatin1String("reason")).toString());
     report.insert(QLatin1String("formatVersion"), reportFormatVersion);
     return report;

@@ -2,7 +2,8 @@
 
 // Stands in for the speaker: "ready", and "started" and "finished" when it is told to speak. Its arguments go to the file
 // "speaker_arguments". On one channel alone it takes half a second, and notes the channel and the moment at which it began in
-// the file "speaker_spoke". The device "Broken" cannot be opened.
+// the file "speaker_spoke". The device "Broken" cannot be opened, and "Slow" plays nothing as
+// long as anybody waits.
 
 #include <QCoreApplication>
 #include <QSaveFile>
@@ -49,6 +50,8 @@ int main(int argc, char *argv[])
     tell("ready");
     std::string line;
     if (!std::getline(std::cin, line))
+        return 0;
+    if (arguments.contains(QStringLiteral("Slow")) && std::getline(std::cin, line))
         return 0;
     tell("started");
     if (const qsizetype channel = arguments.indexOf(QStringLiteral("--channel")); channel >= 0) {

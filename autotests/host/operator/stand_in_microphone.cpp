@@ -14,6 +14,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
+constexpr auto recordingLength = 3500ms; // the sentence begins after 600 ms and has to be over by then
 constexpr auto jobLength = 1500ms;
 const QString prefix = QStringLiteral("microphone_test_");
 
@@ -98,7 +99,7 @@ void StandInMicrophone::record()
     record_->setEnabled(false);
     note_(Moment::recording);
     timer_.callOnTimeout(this, &StandInMicrophone::play);
-    timer_.start(jobLength);
+    timer_.start(recordingLength);
 }
 
 void StandInMicrophone::play()

@@ -115,6 +115,9 @@ private slots:
     void takesTheDialogsOwnChoice();
     void closesWhereThereIsNoSuchMicrophone();
     void closesWhereTheSentenceCannotBeSpoken();
+    void closesWhereTheSentenceIsNotSpokenInTime();
+    void closesWhereNothingOfThePlaybackArrived();
+    void closesWhereAMicrophoneListensToNothing();
     void closesWhenTheListenerDies();
     void leavesAQuestionOpenThatItCannotJudge();
     void tellsBothChannelsApart_data();
@@ -267,6 +270,54 @@ void TestMicrophoneOperator::closesWhereTheSentenceCannotBeSpoken()
     QCOMPARE(dialog.outcome(), Outcome::closed);
     QCOMPARE(dialog.recordCount(), 0);
     QVERIFY2(record.reason.contains(QStringLiteral("'Broken' cannot be opened")), qPrintable(record.reason));
+}
+
+void TestMicrophoneOperator::closesWhereTheSentenceIsNotSpokenInTime()
+{
+    ListenerScript script;
+    Question question;
+    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+        if (moment == Moment::playing)
+            clip(script, 0.99, true); // spoken late, and heard without any microphone
+        else if (moment == Moment::played)
+            script.level(-20);
+    });
+    OperatorSettings given = settings();
+    given.speakThrough = QStringLiteral("Slow");
+    const RunRecord record = run(dialog, question, given);
+    QCOMPARE(dialog.outcome(), Outcome::closed);
+    QCOMPARE(question.answer(), QString());
+    QCOMPARE(record.reason, QStringLiteral("the sentence was not spoken in time"));
+}
+
+void TestMicrophoneOperator::closesWhereNothingOfThePlaybackArrived()
+{
+    ListenerScript script;
+    Question question;
+    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+        if (moment == Moment::played)
+            script.level(-120, 0.2);
+    });
+    const RunRecord record = run(dialog, question, settings());
+    QCOMPARE(dialog.outcome(), Outcome::closed);
+    QCOMPARE(question.answer(), QString());
+    QCOMPARE(record.reason, QStringLiteral("listener lost"));
+}
+
+void TestMicrophoneOperator::closesWhereAMicrophoneListensToNothing()
+{
+    ListenerScript script;
+    Question question;
+    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+        if (moment == Moment::played)
+            script.level(-120);
+    });
+    OperatorSettings given = settings();
+    given.source = QStringLiteral("Webcam");
+    const RunRecord record = run(dialog, question, given);
+    QCOMPARE(dialog.outcome(), Outcome::closed);
+    QCOMPARE(question.answer(), QString());
+    QCOMPARE(record.reason, QStringLiteral("the capture source delivers nothing"));
 }
 
 void TestMicrophoneOperator::closesWhenTheListenerDies()

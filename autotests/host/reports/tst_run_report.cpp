@@ -56,6 +56,7 @@ private slots:
     void keepsToItsSchema_data();
     void keepsToItsSchema();
     void bringsTheFirstVersionToItsSchema();
+    void findsTheReasonOfAFailureOfTheFirstVersion();
     void schemaRefusesWhatIsWrong_data();
     void schemaRefusesWhatIsWrong();
     void bringsKeysAndTranslations();
@@ -310,6 +311,22 @@ void TestRunReport::bringsTheFirstVersionToItsSchema()
     QCOMPARE(schemaErrors(report, schema()), QStringList());
     QCOMPARE(report.value(QLatin1String("microphone")).toString(), QStringLiteral("Mic <1>"));
     QCOMPARE(report.value(QLatin1String("volumesPutBackByGuardian")).toArray(), QJsonArray{QStringLiteral("Speakers")});
+}
+
+// Their messages were all that told it.
+void TestRunReport::findsTheReasonOfAFailureOfTheFirstVersion()
+{
+    RunRecord record = microphoneRecord();
+    record.moduleCode = record.code = 1;
+    record.messages = {{QStringLiteral("WRONG_SEQUENCE"), 2}};
+    QJsonObject old = parsed(record);
+    old.insert(QStringLiteral("formatVersion"), 1);
+    old.insert(QStringLiteral("reason"), QString());
+    const auto read = host::readReport(QJsonDocument(old).toJson());
+    QVERIFY(std::holds_alternative<QJsonObject>(read));
+    const auto &report = std::get<QJsonObject>(read);
+    QCOMPARE(report.value(QLatin1String("reason")).toString(), QStringLiteral("WRONG_SEQUENCE"));
+    QCOMPARE(report.value(QLatin1String("reasonKeys")).toArray(), QJsonArray{QStringLiteral("WRONG_SEQUENCE")});
 }
 
 void TestRunReport::schemaRefusesWhatIsWrong_data()
