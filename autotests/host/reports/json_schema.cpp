@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/host/reports/json_schema.h"
 
+#include <QFile>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -115,4 +117,10 @@ QStringList schemaErrors(const QJsonValue &value, const QJsonObject &schema, con
                                    QStringLiteral("%1[%2]").arg(place).arg(index));
     }
     return errors;
+}
+
+QJsonObject publishedSchema()
+{
+    QFile file(QStringLiteral(SOURCE_FOLDER "/docs/report.schema.json"));
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
 }

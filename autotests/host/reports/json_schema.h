@@ -9,3 +9,6 @@
 /// "maximum", "pattern", "items", "properties", "required" and a false "additionalProperties", and complains about any other
 /// keyword that is no annotation, so that a schema cannot demand what nobody checks.
 QStringList schemaErrors(const QJsonValue &value, const QJsonObject &schema, const QString &place = QStringLiteral("report"));
+
+/// docs/report.schema.json; empty where it cannot be read.
+QJsonObject publishedSchema();
