@@ -42,11 +42,16 @@ int freeze()
     return 4;
 }
 
+// Where an open file cannot be replaced, the test that reads it may be in the way.
 void note(const char *name, const QByteArray &text)
 {
-    QSaveFile file(beside(name));
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size())
-        file.commit();
+    constexpr int tries = 200;
+    for (int attempt = 0; attempt < tries; ++attempt) {
+        QSaveFile file(beside(name));
+        if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
+            return;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
 }
 
 } // namespace
