@@ -58,6 +58,13 @@ HeardSide sideOf(const SideLevels &levels)
     return difference <= -sidesApartDb ? HeardSide::right : HeardSide::both;
 }
 
+std::optional<std::size_t> silentSide(ChannelMapping mapping)
+{
+    if (mapping == ChannelMapping::leftSilent)
+        return 0;
+    return mapping == ChannelMapping::rightSilent ? std::optional<std::size_t>(1) : std::nullopt;
+}
+
 ChannelCheck judgeChannels(const ChannelEvidence &evidence)
 {
     ChannelCheck check;

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <optional>
 
 namespace host {
@@ -58,6 +59,9 @@ constexpr double silentBelowDb = 30.0;
 ChannelMapping mappingOf(HeardSide left, HeardSide right);
 
 HeardSide sideOf(const SideLevels &levels);
+
+/// The side that is called silent: 0 left, 1 right; nothing where none is.
+std::optional<std::size_t> silentSide(ChannelMapping mapping);
 
 /// Claims nothing that the source cannot tell: one with a single channel hears no sides, and a microphone may hear both alike.
 ChannelCheck judgeChannels(const ChannelEvidence &evidence);

@@ -83,6 +83,8 @@ ChannelDialog::ChannelDialog(ChannelListening what, QWidget *parent)
     layout->addLayout(row);
     for (QPushButton *button : {sides_[0].play, sides_[1].play, measure_, close})
         button->setAutoDefault(false);
+    limit_.setSingleShot(true);
+    connect(&limit_, &QTimer::timeout, this, &ChannelDialog::giveUpPlaying);
     connect(measure_, &QPushButton::clicked, this, &ChannelDialog::measure);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     sides_[0].play->setFocus();
@@ -115,40 +117,86 @@ QGroupBox *ChannelDialog::makeSide(std::size_t side, const QString &title, const
 
 void ChannelDialog::setBusy(bool isBusy)
 {
-    for (const Side &side : sides_)
+    for (const Side &side : sides_) {
         side.play->setEnabled(!isBusy);
+        for (QRadioButton *answer : side.answers)
+            answer->setEnabled(!isBusy && side.playCount > 0);
+    }
     measure_->setEnabled(!isBusy);
 }
 
 void ChannelDialog::play(std::size_t side)
 {
     setBusy(true);
+    playing_ = side;
     speaker_ = std::make_unique<SpeakerLink>(what_.device, clipFile(what_.clipsFolder, what_.language, digits_[side]),
                                              side == 0 ? QStringLiteral("left") : QStringLiteral("right"));
     // Later: what tells of its end must not be deleted by that.
-    connect(
-        speaker_.get(), &SpeakerLink::changed, this, [this, side] { followSpeaker(side); }, Qt::QueuedConnection);
+    connect(speaker_.get(), &SpeakerLink::changed, this, &ChannelDialog::followSpeaker, Qt::QueuedConnection);
+    limit_.start(what_.limits.opening);
     speaker_->speak();         // as soon as it is ready
     if (speaker_->hasFailed()) // told before anybody was connected
-        QMetaObject::invokeMethod(
-            this, [this, side] { followSpeaker(side); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &ChannelDialog::followSpeaker, Qt::QueuedConnection);
 }
 
-void ChannelDialog::followSpeaker(std::size_t side)
+void ChannelDialog::followSpeaker()
 {
-    if (speaker_ == nullptr || (!speaker_->hasFinished() && !speaker_->hasFailed()))
+    if (speaker_ == nullptr)
         return;
-    const bool hasFinished = speaker_->hasFinished();
-    if (!hasFinished)
-        result_->setText(hostText("CHANNELS_NOT_PLAYED").arg(speaker_->errorText()));
+    if (speaker_->hasFinished())
+        return notePlayed();
+    if (speaker_->hasFailed())
+        return noteNotPlayed(hostText("CHANNELS_NOT_PLAYED").arg(speaker_->errorText()));
+    if (speaker_->isReady())
+        limit_.start(what_.limits.speech);
+}
+
+void ChannelDialog::giveUpPlaying()
+{
+    speaker_->kill();
+    noteNotPlayed(hostText("CHANNELS_STALLED"));
+}
+
+void ChannelDialog::notePlayed()
+{
+    limit_.stop();
     speaker_.reset();
+    ++sides_[playing_].playCount;
     setBusy(false);
-    if (!hasFinished)
-        return sides_[side].play->setFocus();
-    for (QRadioButton *answer : sides_[side].answers)
-        answer->setEnabled(true);
-    if (!answerOf(side))
-        sides_[side].answers[0]->setFocus();
+    const Side &side = sides_[playing_];
+    if (answerOf(playing_))
+        side.play->setFocus();
+    else
+        side.answers[0]->setFocus();
+}
+
+// What the window says and what it hands over are the same: nothing of an earlier answer.
+void ChannelDialog::noteNotPlayed(const QString &words)
+{
+    limit_.stop();
+    speaker_.reset();
+    forgetAnswer(playing_);
+    sides_[playing_].playCount = 0;
+    check_.reset();
+    result_->setText(words);
+    setBusy(false);
+    sides_[playing_].play->setFocus();
+}
+
+// The first sound may get lost in a device that has to wake up.
+void ChannelDialog::playOnceMore(std::size_t side)
+{
+    check_.reset();
+    result_->setText(hostText("CHANNELS_ONCE_MORE"));
+    setBusy(true);
+    // Later: this comes from within the click on the answer.
+    QMetaObject::invokeMethod(
+        this,
+        [this, side] {
+            forgetAnswer(side);
+            play(side);
+        },
+        Qt::QueuedConnection);
 }
 
 std::optional<HeardSide> ChannelDialog::answerOf(std::size_t side) const
@@ -160,13 +208,26 @@ std::optional<HeardSide> ChannelDialog::answerOf(std::size_t side) const
     return std::nullopt;
 }
 
+// Of buttons that exclude each other one always stays pressed.
+void ChannelDialog::forgetAnswer(std::size_t side)
+{
+    for (QRadioButton *answer : sides_[side].answers) {
+        answer->setAutoExclusive(false);
+        answer->setChecked(false);
+        answer->setAutoExclusive(true);
+    }
+}
+
 void ChannelDialog::takeAnswers()
 {
     const std::optional<HeardSide> left = answerOf(0);
     const std::optional<HeardSide> right = answerOf(1);
     if (!left || !right)
         return;
-    check_ = answeredCheck(*left, *right);
+    const ChannelCheck check = answeredCheck(*left, *right);
+    if (const auto silent = silentSide(check.mapping); silent && sides_[*silent].playCount < 2)
+        return playOnceMore(*silent);
+    check_ = check;
     result_->setText(channelWords(*check_));
 }
 

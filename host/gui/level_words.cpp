@@ -67,7 +67,7 @@ QList<double> waveOf(const QList<HeardDigit> &digits)
     return wave;
 }
 
-QString waveWords(const QList<double> &wave)
+QString waveWords(const QList<double> &wave, WaveOf what)
 {
     if (wave.isEmpty())
         return {};
@@ -76,7 +76,8 @@ QString waveWords(const QList<double> &wave)
         highest = std::max(highest, std::abs(sample));
     const double seconds = static_cast<double>(wave.size()) / samplesPerSecond;
     const double peakDbfs = highest > 0 ? std::max(lowestDbfs, 20 * std::log10(highest)) : lowestDbfs;
-    return hostText("METER_WAVE_WORDS").arg(QLocale().toString(seconds, 'f', 1), decibels(peakDbfs));
+    return hostText(what == WaveOf::digits ? "METER_DIGITS_WORDS" : "METER_WAVE_WORDS")
+        .arg(QLocale().toString(seconds, 'f', 1), decibels(peakDbfs));
 }
 
 } // namespace host

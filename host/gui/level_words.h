@@ -20,7 +20,9 @@ QString levelWords(double rmsDbfs, double peakDbfs);
 /// where nothing was measured.
 QList<double> waveOf(const QList<HeardDigit> &digits);
 
-/// Length and highest sample of a waveform of fifty pairs a second; empty for none.
-QString waveWords(const QList<double> &wave);
+enum class WaveOf { recording, digits };
+
+/// What a waveform of fifty pairs a second shows, its length and its highest sample; empty for none.
+QString waveWords(const QList<double> &wave, WaveOf what);
 
 } // namespace host

@@ -56,12 +56,15 @@ void ListeningTools::checkChannels()
 void ListeningTools::runAlone()
 {
     const int test = window_.chosenTest();
+    const QString device = window_.chosenDevice(); // the one that the person is warned of, whatever is plugged in meanwhile
     if (session_.isRunning() || test < 0 || source().isEmpty())
+        return;
+    if (!window_.acceptsLoudness(QStringLiteral("UNATTENDED_INSTRUCTIONS")))
         return;
     Options options;
     options.isUnattended = true;
     options.test = session_.tests()[test].letter;
-    options.device = window_.chosenDevice();
+    options.device = device;
     options.source = source();
     UnattendedRun run(session_, options, language_.code());
     run.setMeter([this](const MeteredMoment &moment) { emit metered(moment); });

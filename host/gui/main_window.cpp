@@ -9,7 +9,6 @@
 #include "host/gui/history_table.h"
 #include "host/gui/host_prompts.h"
 #include "host/gui/key_text.h"
-#include "host/gui/level_words.h"
 #include "host/gui/measurements_page.h"
 #include "host/gui/result_panel.h"
 #include "host/gui/run_keys.h"
@@ -208,14 +207,25 @@ void MainWindow::setListening(bool isListening)
     enableTools();
 }
 
-void MainWindow::showWave(const QList<double> &wave)
+void MainWindow::showWave(const QList<double> &wave, WaveOf what)
 {
+    shownWave_ = what;
     wave_->setWave(wave);
-    waveText_->setText(waveWords(wave));
+    waveText_->setText(waveWords(wave, what));
     wave_->setAccessibleName(hostText("METER_WAVE"));
     wave_->setAccessibleDescription(waveText_->text());
     for (QWidget *widget : std::initializer_list<QWidget *>{waveText_, wave_})
         widget->setVisible(!wave.isEmpty());
+}
+
+void MainWindow::showWaveOf(const RunRecord &record, const QList<double> &playback)
+{
+    if (!record.wasModuleCalled) // what there is to show is an earlier run's
+        showWave({});
+    else if (record.testLetter == QLatin1String("m"))
+        showWave(playback, WaveOf::recording);
+    else
+        showWave(waveOf(record.digits), WaveOf::digits);
 }
 
 void MainWindow::log(const QString &line)
@@ -269,12 +279,17 @@ bool MainWindow::mayRun()
 bool MainWindow::isWarnedOfLoudness()
 {
     const int test = tests_->chosen();
-    const QString device = devices_->chosenName();
     const bool isMicrophoneTest = test >= 0 && session_.tests()[test].letter == QLatin1String("m");
-    if (!isMicrophoneTest || device.isEmpty() || session_.isRunning() || warnedOf_.contains(device))
+    return !isMicrophoneTest || acceptsLoudness(QStringLiteral("MICROPHONE_TEST_INSTRUCTIONS"));
+}
+
+bool MainWindow::acceptsLoudness(const QString &text)
+{
+    const int test = tests_->chosen();
+    const QString device = devices_->chosenName();
+    if (test < 0 || device.isEmpty() || session_.isRunning() || warnedOf_.contains(device))
         return true;
-    InstructionsPrompt prompt(session_.tests()[test].nameKey, QStringLiteral("MICROPHONE_TEST_INSTRUCTIONS"),
-                              endpointsThatWillBeRaised(), this);
+    InstructionsPrompt prompt(session_.tests()[test].nameKey, text, endpointsThatWillBeRaised(), this);
     if (prompt.exec() != QDialog::Accepted)
         return false;
     warnedOf_.append(device);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/core/language_setting.h"
+#include "host/gui/level_words.h"
 #include "host/gui/test_session.h"
 #include "host/precheck/precheck.h"
 
@@ -44,8 +45,13 @@ public:
     QString chosenDevice() const;
     /// Whether there is a source to listen to, without which no run can do without a person.
     void setListening(bool isListening);
-    /// Shows the waveform of the last playback of a recording beside the result; none when empty.
-    void showWave(const QList<double> &wave);
+    /// Shows a waveform beside the result; none when empty.
+    void showWave(const QList<double> &wave, WaveOf what = WaveOf::recording);
+    /// Shows what was heard of a run: its digits, or `playback`, the last one of its recording.
+    void showWaveOf(const RunRecord &record, const QList<double> &playback);
+    /// Warns that a run on the chosen device will raise the volumes, with `text`, a key, unless the person has accepted it for
+    /// that device. False when the person declines.
+    bool acceptsLoudness(const QString &text);
     /// What to look at before a run that a person starts; nothing is looked at without it.
     using Precheck = std::function<QList<PrecheckFinding>(const QString &testLetter, const QString &device)>;
     void setPrecheck(Precheck precheck) { precheck_ = std::move(precheck); }
@@ -105,6 +111,7 @@ private:
     ResultPanel *result_;
     QLabel *waveText_;
     WaveView *wave_;
+    WaveOf shownWave_ = WaveOf::recording;
     QTabWidget *tabs_;
     QPlainTextEdit *log_;
     HistoryTable *history_;

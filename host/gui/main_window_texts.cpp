@@ -33,7 +33,7 @@ void MainWindow::retranslate()
     tests_->retranslate();
     resultBox_->setTitle(hostText("RESULT"));
     result_->retranslate();
-    showWave(wave_->wave());
+    showWave(wave_->wave(), shownWave_);
     tabs_->setTabText(0, hostText("LOG"));
     tabs_->setTabText(1, hostText("HISTORY"));
     tabs_->setTabText(2, hostText("MEASUREMENTS"));

@@ -9,7 +9,6 @@
 #include "host/gui/interrupt_watcher.h"
 #include "host/gui/key_text.h"
 #include "host/gui/level_window.h"
-#include "host/gui/level_words.h"
 #include "host/gui/listening_tools.h"
 #include "host/gui/main_window.h"
 #include "host/gui/plot_view.h"
@@ -124,9 +123,7 @@ private:
         QObject::connect(&tools_, &ListeningTools::metered, &levels_, &LevelWindow::take);
         QObject::connect(&session_, &TestSession::runEnded, &levels_, [this](const RunRecord &record) {
             ear_.reset();
-            if (!record.wasModuleCalled) // what there is to show is an earlier run's
-                return window_.showWave({});
-            window_.showWave(record.digits.isEmpty() ? levels_.playbackWave() : waveOf(record.digits));
+            window_.showWaveOf(record, levels_.playbackWave());
         });
     }
 

@@ -6,7 +6,6 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace host {
@@ -14,13 +13,8 @@ namespace host {
 namespace {
 
 constexpr std::chrono::milliseconds lookInterval{50};
-/// Opening a device of a sound server that does not answer takes 30 s.
-constexpr qint64 startLimitMs = 35'000;
-/// A clip has a second.
-constexpr qint64 speechLimitMs = 20'000;
 /// The listener tells a digit up to 2.4 s after its end, and a sound server works a while behind.
 constexpr qint64 listenerDelayMs = 3'500;
-constexpr qint64 listenerLimitMs = 20'000;
 /// A capture may work that much ahead of what is played.
 constexpr qint64 aheadMs = 300;
 
@@ -62,7 +56,10 @@ void ChannelListener::enter(Step step)
     stepStartMs_ = steadyNowMs();
 }
 
-bool ChannelListener::takesLongerThan(qint64 limitMs) const { return steadyNowMs() - stepStartMs_ > limitMs; }
+bool ChannelListener::takesLongerThan(std::chrono::milliseconds limit) const
+{
+    return steadyNowMs() - stepStartMs_ > limit.count();
+}
 
 void ChannelListener::advance()
 {
@@ -74,7 +71,7 @@ void ChannelListener::advance()
     case Step::starting:
         if (listener_.isReady())
             speakNext();
-        else if (takesLongerThan(startLimitMs))
+        else if (takesLongerThan(what_.limits.opening))
             giveUp(QStringLiteral("the source could not be listened to"));
         return;
     case Step::opening:
@@ -82,14 +79,14 @@ void ChannelListener::advance()
             speaker_->speak();
             spokenMs_ = steadyNowMs();
             enter(Step::speaking);
-        } else if (takesLongerThan(startLimitMs)) {
+        } else if (takesLongerThan(what_.limits.opening)) {
             giveUp(QStringLiteral("the device could not be opened"));
         }
         return;
     case Step::speaking:
         if (speaker_->hasFinished())
             enter(Step::hearing);
-        else if (takesLongerThan(speechLimitMs))
+        else if (takesLongerThan(what_.limits.speech))
             giveUp(QStringLiteral("the device did not play"));
         return;
     case Step::hearing:
@@ -110,7 +107,7 @@ void ChannelListener::hear()
 {
     if (listener_.log().listenedUpToMs() >= stepStartMs_ + listenerDelayMs)
         judgeSide();
-    else if (takesLongerThan(listenerLimitMs))
+    else if (takesLongerThan(what_.limits.hearing))
         giveUp(QStringLiteral("listener lost"));
 }
 
@@ -118,7 +115,7 @@ void ChannelListener::hear()
 void ChannelListener::judgeSide()
 {
     const HeardLog &log = listener_.log();
-    SideEvidence &side = side_ == 0 ? evidence_.left : evidence_.right;
+    SideEvidence side; // of this attempt alone: an earlier one was silent
     const QList<HeardEvent> sounds = log.soundsBetween(spokenMs_ - aheadMs, stepStartMs_);
     const auto digit = std::find_if(sounds.begin(), sounds.end(), [this](const HeardEvent &sound) {
         return sound.digit == digits_[side_] && sound.measured != nullptr && sound.measured->channelDbfs.size() == 2;
@@ -130,29 +127,40 @@ void ChannelListener::judgeSide()
         return giveUp(QStringLiteral("the source delivered no sound"));
     for (const MeteredMoment &moment : moments)
         side.loudestDbfs = std::max({side.loudestDbfs, moment.leftDbfs, moment.rightDbfs});
-    if (++side_ < digits_.size())
-        return speakNext();
-    end();
+    (side_ == 0 ? evidence_.left : evidence_.right) = side;
+    if (isRepeated_ || ++side_ == digits_.size())
+        return judgeBoth();
+    speakNext();
 }
 
-void ChannelListener::end()
+// Only silence is tried again: whatever was heard stands as it is.
+void ChannelListener::judgeBoth()
+{
+    evidence_.sourceChannelCount = listener_.sourceChannelCount();
+    const ChannelCheck check = judgeChannels(evidence_);
+    const std::optional<std::size_t> silent = silentSide(check.mapping);
+    if (!silent || isRepeated_)
+        return end(check);
+    isRepeated_ = true;
+    side_ = *silent;
+    speakNext();
+}
+
+void ChannelListener::end(ChannelCheck check)
 {
     timer_.stop();
     enter(Step::over);
-    evidence_.sourceChannelCount = listener_.sourceChannelCount();
-    ChannelCheck check = judgeChannels(evidence_);
     check.source = what_.source;
     emit finished(check);
 }
 
 void ChannelListener::giveUp(const QString &reason)
 {
-    timer_.stop();
-    enter(Step::over);
+    if (speaker_ != nullptr && !speaker_->hasFinished())
+        speaker_->kill(); // it had its time
     ChannelCheck check;
-    check.source = what_.source;
     check.reason = reason;
-    emit finished(check);
+    end(check);
 }
 
 } // namespace host

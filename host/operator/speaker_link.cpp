@@ -28,6 +28,8 @@ SpeakerLink::~SpeakerLink()
 
 void SpeakerLink::speak() { process_.write("speak\n"); }
 
+void SpeakerLink::kill() { process_.kill(); }
+
 void SpeakerLink::readLines()
 {
     while (process_.canReadLine()) {

@@ -28,6 +28,8 @@ public:
     const QString &errorText() const { return errorText_; }
 
     void speak();
+    /// Ends it at once, whatever it does: for one that has not answered in time.
+    void kill();
     /// When it began, on the steady clock.
     std::optional<qint64> startedMs() const { return startedMs_; }
 

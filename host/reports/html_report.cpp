@@ -18,14 +18,15 @@ h1 { font-size: 1.6rem } h2 { font-size: 1.2rem; border-bottom: 1px solid #76767
 .code0 { color: #0b5a1e } .code1 { color: #9b1111 } .other { color: #6b4a00 }
 table { border-collapse: collapse; font-size: .9rem } caption { text-align: left; font-weight: bold; padding: .3rem 0 }
 th, td { border: 1px solid #8a8a8a; padding: .2rem .5rem; text-align: left; vertical-align: top; overflow-wrap: anywhere }
-.digits th, .digits td { text-align: right; overflow-wrap: normal; padding: .2rem .35rem } .digits { font-size: .8rem }
+.digits th, .digits td { text-align: right; overflow-wrap: normal; padding: .25em } .digits { font-size: .8rem }
 .scroll { overflow-x: auto }
 figure { margin: 1rem 0; break-inside: avoid } figcaption { font-weight: bold } svg { width: 100%; max-width: 40rem; height: auto }
 svg text { font: 11px system-ui, sans-serif; fill: #111 } .grid { stroke: #c8c8c8 } .data { fill: #1f5a94 }
 .pair { display: grid; grid-template-columns: 1fr 1fr; gap: 1rem }
 @media (max-width: 45rem) { .pair { display: block } }
-@media print { @page { margin: 15mm } body { font-size: 10pt; margin: 0; max-width: none }
- h2, h3 { break-after: avoid } tr, li { break-inside: avoid } .digits { font-size: 7pt } .data { print-color-adjust: exact } }
+@media print { @page { margin: 15mm } body { font-size: 10pt; margin: 0; padding: 0; max-width: none }
+ h2, h3 { break-after: avoid } tr, li { break-inside: avoid } .digits { font-size: 7pt } .digits th, .digits td { padding: .2em }
+ .data { print-color-adjust: exact } }
 )";
 
 class Page {

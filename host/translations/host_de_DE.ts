@@ -336,6 +336,10 @@
         <translation>Sie nehmen mit einem Mikrofon auf und hören die Aufnahme danach. Während des Tests werden alle Wiedergabe- und Aufnahmelautstärken dieses Computers auf 100 % gesetzt und danach zurückgestellt. Wenn Sie Kopfhörer tragen, nehmen Sie diese jetzt ab.</translation>
     </message>
     <message>
+        <source>UNATTENDED_INSTRUCTIONS</source>
+        <translation>Der Test läuft und antwortet von selbst; benutzen Sie währenddessen weder Maus noch Tastatur. Während des Tests werden alle Wiedergabe- und Aufnahmelautstärken dieses Computers auf 100 % gesetzt und danach zurückgestellt. Wenn Sie Kopfhörer tragen, nehmen Sie diese jetzt ab.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Ja</translation>
     </message>
@@ -443,6 +447,10 @@ Version dieses Programms: %2</translation>
     <message>
         <source>METER_WAVE_WORDS</source>
         <translation>Wiedergabe der Aufnahme: %1 s, Spitze %2 dBFS</translation>
+    </message>
+    <message>
+        <source>METER_DIGITS_WORDS</source>
+        <translation>Die Ziffern, wie sie gehört wurden: %1 s, Spitze %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>
@@ -567,6 +575,14 @@ Version dieses Programms: %2</translation>
     <message>
         <source>CHANNELS_NOT_PLAYED</source>
         <translation>Die Ziffer konnte nicht abgespielt werden: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_ONCE_MORE</source>
+        <translation>Die nicht gehörte Ziffer wird noch einmal gesprochen: Das Gerät musste vielleicht erst aufwachen. Geben Sie noch einmal an, wo Sie sie hören.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STALLED</source>
+        <translation>Die Ziffer konnte nicht abgespielt werden: Das Tonsystem antwortet nicht. Über diese Seite wird nichts ausgesagt.</translation>
     </message>
     <message>
         <source>LOG_CHANNELS</source>

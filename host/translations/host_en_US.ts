@@ -336,6 +336,10 @@
         <translation>You will record with a microphone and hear the recording played back. During the test, every playback and recording volume of this computer is set to 100% and put back afterwards. If you are wearing headphones, take them off now.</translation>
     </message>
     <message>
+        <source>UNATTENDED_INSTRUCTIONS</source>
+        <translation>The test is run and answered by itself; do not use mouse and keyboard meanwhile. During the test, every playback and recording volume of this computer is set to 100% and put back afterwards. If you are wearing headphones, take them off now.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Yes</translation>
     </message>
@@ -443,6 +447,10 @@ Version of this program: %2</translation>
     <message>
         <source>METER_WAVE_WORDS</source>
         <translation>Playback of the recording: %1 s, peak %2 dBFS</translation>
+    </message>
+    <message>
+        <source>METER_DIGITS_WORDS</source>
+        <translation>The digits as they were heard: %1 s, peak %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>
@@ -567,6 +575,14 @@ Version of this program: %2</translation>
     <message>
         <source>CHANNELS_NOT_PLAYED</source>
         <translation>The digit could not be played: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_ONCE_MORE</source>
+        <translation>The digit that was not heard is spoken once more: the device may have had to wake up. Say again where you hear it.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STALLED</source>
+        <translation>The digit could not be played: the sound system does not answer. Nothing is said about this side.</translation>
     </message>
     <message>
         <source>LOG_CHANNELS</source>

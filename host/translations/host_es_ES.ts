@@ -336,6 +336,10 @@
         <translation>Va a grabar con un micrófono y después oirá la grabación. Durante la prueba, todos los volúmenes de reproducción y grabación de este equipo se pondrán al 100 % y se restablecerán después. Si lleva auriculares, quíteselos ahora.</translation>
     </message>
     <message>
+        <source>UNATTENDED_INSTRUCTIONS</source>
+        <translation>La prueba se ejecuta y se responde sola; mientras tanto, no use el ratón ni el teclado. Durante la prueba, todos los volúmenes de reproducción y grabación de este equipo se pondrán al 100 % y se restablecerán después. Si lleva auriculares, quíteselos ahora.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Sí</translation>
     </message>
@@ -443,6 +447,10 @@ Versión de este programa: %2</translation>
     <message>
         <source>METER_WAVE_WORDS</source>
         <translation>Reproducción de la grabación: %1 s, pico %2 dBFS</translation>
+    </message>
+    <message>
+        <source>METER_DIGITS_WORDS</source>
+        <translation>Las cifras tal como se oyeron: %1 s, pico %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>
@@ -567,6 +575,14 @@ Versión de este programa: %2</translation>
     <message>
         <source>CHANNELS_NOT_PLAYED</source>
         <translation>No se ha podido reproducir la cifra: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_ONCE_MORE</source>
+        <translation>La cifra que no se ha oído se dice otra vez: puede que el dispositivo tuviera que activarse. Indique de nuevo dónde la oye.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STALLED</source>
+        <translation>No se ha podido reproducir la cifra: el sistema de sonido no responde. No se dice nada sobre este lado.</translation>
     </message>
     <message>
         <source>LOG_CHANNELS</source>

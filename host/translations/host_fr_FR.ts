@@ -336,6 +336,10 @@
         <translation>Vous allez enregistrer avec un microphone, puis écouter l’enregistrement. Pendant le test, tous les volumes de lecture et d’enregistrement de cet ordinateur sont réglés à 100 %, puis rétablis. Si vous portez un casque ou des écouteurs, retirez-les maintenant.</translation>
     </message>
     <message>
+        <source>UNATTENDED_INSTRUCTIONS</source>
+        <translation>Le test s’exécute et se répond de lui-même ; n’utilisez ni la souris ni le clavier pendant ce temps. Pendant le test, tous les volumes de lecture et d’enregistrement de cet ordinateur sont réglés à 100 %, puis rétablis. Si vous portez un casque ou des écouteurs, retirez-les maintenant.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Oui</translation>
     </message>
@@ -443,6 +447,10 @@ Version de ce programme : %2</translation>
     <message>
         <source>METER_WAVE_WORDS</source>
         <translation>Lecture de l’enregistrement : %1 s, crête %2 dBFS</translation>
+    </message>
+    <message>
+        <source>METER_DIGITS_WORDS</source>
+        <translation>Les chiffres tels qu’ils ont été entendus : %1 s, crête %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>
@@ -567,6 +575,14 @@ Version de ce programme : %2</translation>
     <message>
         <source>CHANNELS_NOT_PLAYED</source>
         <translation>Le chiffre n’a pas pu être lu : %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_ONCE_MORE</source>
+        <translation>Le chiffre qui n’a pas été entendu est prononcé encore une fois : le périphérique devait peut-être sortir de veille. Indiquez de nouveau où vous l’entendez.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STALLED</source>
+        <translation>Le chiffre n’a pas pu être lu : le système audio ne répond pas. Aucun avis n’est donné sur ce côté.</translation>
     </message>
     <message>
         <source>LOG_CHANNELS</source>

@@ -336,6 +336,10 @@
         <translation>Si registrerà con un microfono e poi si ascolterà la registrazione. Durante il test tutti i volumi di riproduzione e di registrazione di questo computer vengono portati al 100% e poi ripristinati. Se si indossano le cuffie, toglierle ora.</translation>
     </message>
     <message>
+        <source>UNATTENDED_INSTRUCTIONS</source>
+        <translation>Il test si svolge e risponde da solo; nel frattempo non usare né mouse né tastiera. Durante il test tutti i volumi di riproduzione e di registrazione di questo computer vengono portati al 100% e poi ripristinati. Se si indossano le cuffie, toglierle ora.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Sì</translation>
     </message>
@@ -443,6 +447,10 @@ Versione di questo programma: %2</translation>
     <message>
         <source>METER_WAVE_WORDS</source>
         <translation>Riproduzione della registrazione: %1 s, picco %2 dBFS</translation>
+    </message>
+    <message>
+        <source>METER_DIGITS_WORDS</source>
+        <translation>Le cifre come sono state sentite: %1 s, picco %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>
@@ -567,6 +575,14 @@ Versione di questo programma: %2</translation>
     <message>
         <source>CHANNELS_NOT_PLAYED</source>
         <translation>Non è stato possibile riprodurre la cifra: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_ONCE_MORE</source>
+        <translation>La cifra che non si è sentita viene pronunciata ancora una volta: forse il dispositivo doveva riattivarsi. Indica di nuovo dove la senti.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STALLED</source>
+        <translation>Non è stato possibile riprodurre la cifra: il sistema audio non risponde. Su questo lato non si dice nulla.</translation>
     </message>
     <message>
         <source>LOG_CHANNELS</source>

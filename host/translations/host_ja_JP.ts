@@ -336,6 +336,10 @@
         <translation>マイクで録音し、その後で録音した音を聞きます。テスト中、このコンピューターのすべての再生音量と録音音量が100%に設定され、終了後に元に戻ります。ヘッドホンを着けている場合は、今すぐ外してください。</translation>
     </message>
     <message>
+        <source>UNATTENDED_INSTRUCTIONS</source>
+        <translation>テストは自動で実行され、自動で回答されます。その間はマウスとキーボードを使わないでください。テスト中、このコンピューターのすべての再生音量と録音音量が100%に設定され、終了後に元に戻ります。ヘッドホンを着けている場合は、今すぐ外してください。</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>はい</translation>
     </message>
@@ -443,6 +447,10 @@
     <message>
         <source>METER_WAVE_WORDS</source>
         <translation>録音の再生: %1 秒、ピーク %2 dBFS</translation>
+    </message>
+    <message>
+        <source>METER_DIGITS_WORDS</source>
+        <translation>聞き取った数字: %1 秒、ピーク %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>
@@ -567,6 +575,14 @@
     <message>
         <source>CHANNELS_NOT_PLAYED</source>
         <translation>数字を再生できませんでした：%1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_ONCE_MORE</source>
+        <translation>聞こえなかった数字をもう一度読み上げます。デバイスの起動に時間がかかった可能性があります。どちら側から聞こえたかをもう一度選んでください。</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STALLED</source>
+        <translation>数字を再生できませんでした。サウンドシステムが応答しません。この側については何も判定されません。</translation>
     </message>
     <message>
         <source>LOG_CHANNELS</source>

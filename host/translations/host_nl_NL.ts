@@ -336,6 +336,10 @@
         <translation>U neemt op met een microfoon en hoort daarna de opname. Tijdens de test worden alle weergave- en opnamevolumes van deze computer op 100% gezet en daarna teruggezet. Als u een hoofdtelefoon draagt, zet die dan nu af.</translation>
     </message>
     <message>
+        <source>UNATTENDED_INSTRUCTIONS</source>
+        <translation>De test verloopt en antwoordt vanzelf; gebruik ondertussen geen muis of toetsenbord. Tijdens de test worden alle weergave- en opnamevolumes van deze computer op 100% gezet en daarna teruggezet. Als u een hoofdtelefoon draagt, zet die dan nu af.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Ja</translation>
     </message>
@@ -443,6 +447,10 @@ Versie van dit programma: %2</translation>
     <message>
         <source>METER_WAVE_WORDS</source>
         <translation>Weergave van de opname: %1 s, piek %2 dBFS</translation>
+    </message>
+    <message>
+        <source>METER_DIGITS_WORDS</source>
+        <translation>De cijfers zoals ze zijn gehoord: %1 s, piek %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>
@@ -567,6 +575,14 @@ Versie van dit programma: %2</translation>
     <message>
         <source>CHANNELS_NOT_PLAYED</source>
         <translation>Het cijfer kon niet worden afgespeeld: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_ONCE_MORE</source>
+        <translation>Het cijfer dat niet is gehoord wordt nog een keer uitgesproken: misschien moest het apparaat eerst ontwaken. Geef opnieuw aan waar u het hoort.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STALLED</source>
+        <translation>Het cijfer kon niet worden afgespeeld: het geluidssysteem antwoordt niet. Over deze kant wordt niets gezegd.</translation>
     </message>
     <message>
         <source>LOG_CHANNELS</source>

@@ -336,6 +336,10 @@
         <translation>Você gravará com um microfone e depois ouvirá a gravação. Durante o teste, todos os volumes de reprodução e de gravação deste computador serão ajustados para 100% e restaurados depois. Se estiver usando fones de ouvido, retire-os agora.</translation>
     </message>
     <message>
+        <source>UNATTENDED_INSTRUCTIONS</source>
+        <translation>O teste é executado e respondido sozinho; enquanto isso, não use o mouse nem o teclado. Durante o teste, todos os volumes de reprodução e de gravação deste computador serão ajustados para 100% e restaurados depois. Se estiver usando fones de ouvido, retire-os agora.</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>Sim</translation>
     </message>
@@ -443,6 +447,10 @@ Versão deste programa: %2</translation>
     <message>
         <source>METER_WAVE_WORDS</source>
         <translation>Reprodução da gravação: %1 s, pico %2 dBFS</translation>
+    </message>
+    <message>
+        <source>METER_DIGITS_WORDS</source>
+        <translation>Os algarismos como foram ouvidos: %1 s, pico %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>
@@ -567,6 +575,14 @@ Versão deste programa: %2</translation>
     <message>
         <source>CHANNELS_NOT_PLAYED</source>
         <translation>Não foi possível reproduzir o algarismo: %1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_ONCE_MORE</source>
+        <translation>O algarismo que não foi ouvido é falado mais uma vez: talvez o dispositivo ainda estivesse despertando. Diga de novo onde o ouve.</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STALLED</source>
+        <translation>Não foi possível reproduzir o algarismo: o sistema de som não responde. Nada é dito sobre este lado.</translation>
     </message>
     <message>
         <source>LOG_CHANNELS</source>

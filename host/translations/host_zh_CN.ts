@@ -336,6 +336,10 @@
         <translation>您将使用麦克风录音，然后听录制的声音。测试期间，本计算机的所有播放和录音音量将调至 100%，之后恢复原值。如果您正戴着耳机，请立即取下。</translation>
     </message>
     <message>
+        <source>UNATTENDED_INSTRUCTIONS</source>
+        <translation>测试将自动运行并自动作答，期间请勿使用鼠标和键盘。测试期间，本计算机的所有播放和录音音量将调至 100%，之后恢复原值。如果您正戴着耳机，请立即取下。</translation>
+    </message>
+    <message>
         <source>QUESTION_YES</source>
         <translation>是</translation>
     </message>
@@ -443,6 +447,10 @@
     <message>
         <source>METER_WAVE_WORDS</source>
         <translation>录音播放：%1 秒，峰值 %2 dBFS</translation>
+    </message>
+    <message>
+        <source>METER_DIGITS_WORDS</source>
+        <translation>听到的数字：%1 秒，峰值 %2 dBFS</translation>
     </message>
     <message>
         <source>PRECHECK_TITLE</source>
@@ -567,6 +575,14 @@
     <message>
         <source>CHANNELS_NOT_PLAYED</source>
         <translation>无法播放该数字：%1</translation>
+    </message>
+    <message>
+        <source>CHANNELS_ONCE_MORE</source>
+        <translation>没有听到的数字将再播报一次：设备可能需要先唤醒。请再次说明从哪一侧听到。</translation>
+    </message>
+    <message>
+        <source>CHANNELS_STALLED</source>
+        <translation>无法播放该数字：声音系统没有响应。对这一侧不作任何判断。</translation>
     </message>
     <message>
         <source>LOG_CHANNELS</source>

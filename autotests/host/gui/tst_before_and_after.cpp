@@ -4,8 +4,10 @@
 #include "host/core/run_reason.h"
 #include "host/gui/key_text.h"
 #include "host/gui/level_words.h"
+#include "host/gui/listening_tools.h"
 #include "host/translations/translators.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
@@ -64,6 +66,11 @@ private slots:
     void refusesToBlameTheDevice();
     void warnsOfTheLoudnessBeforeAMicrophoneTest();
     void runsNothingWhenTheWarningIsDeclined();
+    void warnsOfTheLoudnessBeforeARunAlone_data();
+    void warnsOfTheLoudnessBeforeARunAlone();
+    void runsNothingAloneWhenTheWarningIsDeclined_data();
+    void runsNothingAloneWhenTheWarningIsDeclined();
+    void namesTheWaveAfterTheTest();
     void blamesNoOtherDeviceWhenTheChosenOneGoes();
     void savesTheReportInEachFormat_data();
     void savesTheReportInEachFormat();
@@ -211,6 +218,79 @@ void TestBeforeAndAfter::runsNothingWhenTheWarningIsDeclined()
     QCoreApplication::processEvents();
     QVERIFY(program.session.history().isEmpty());
     QVERIFY(program.find<QPushButton>("host_run")->isEnabled());
+}
+
+void TestBeforeAndAfter::warnsOfTheLoudnessBeforeARunAlone_data()
+{
+    QTest::addColumn<int>("test");
+    QTest::newRow("playback") << 0;
+    QTest::newRow("microphone") << 1;
+}
+
+// Once for each reading of the devices, as before any other run. The run itself is refused here, where there are no clips.
+void TestBeforeAndAfter::warnsOfTheLoudnessBeforeARunAlone()
+{
+    QFETCH(const int, test);
+    ShownProgram program;
+    const host::ListeningTools tools(program.window, program.session, program.language, program.folder.path(),
+                                     QStringLiteral("Mic"));
+    const PromptAnswerer answerer("host_prompt_accept");
+    program.window.choose(test, 1);
+    for (const qsizetype runs : {1, 2}) {
+        program.find<QAction>("host_run_alone")->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(program.session.history().size(), runs, patienceMs);
+        QCOMPARE(answerer.texts(), QStringList{host::hostText("UNATTENDED_INSTRUCTIONS")});
+    }
+    QVERIFY(answerer.texts().first().contains(QStringLiteral("100%")));
+    QVERIFY(program.session.history().last().isUnattended);
+    QCOMPARE(program.session.history().last().device.name, QStringLiteral("Headphones"));
+    program.session.refresh();
+    program.find<QAction>("host_run_alone")->trigger();
+    QTRY_COMPARE_WITH_TIMEOUT(program.session.history().size(), 3, patienceMs);
+    QCOMPARE(answerer.texts().size(), 2);
+}
+
+void TestBeforeAndAfter::runsNothingAloneWhenTheWarningIsDeclined_data() { warnsOfTheLoudnessBeforeARunAlone_data(); }
+
+void TestBeforeAndAfter::runsNothingAloneWhenTheWarningIsDeclined()
+{
+    QFETCH(const int, test);
+    ShownProgram program;
+    const host::ListeningTools tools(program.window, program.session, program.language, program.folder.path(),
+                                     QStringLiteral("Mic"));
+    const PromptAnswerer answerer("host_prompt_decline");
+    program.window.choose(test, 0);
+    program.find<QAction>("host_run_alone")->trigger();
+    QTRY_COMPARE_WITH_TIMEOUT(answerer.texts().size(), 1, patienceMs);
+    QCoreApplication::processEvents();
+    QVERIFY(program.session.history().isEmpty());
+    QVERIFY(program.find<QAction>("host_run_alone")->isEnabled());
+}
+
+void TestBeforeAndAfter::namesTheWaveAfterTheTest()
+{
+    ShownProgram program;
+    const QList<double> playback(20, 0.1);
+    const auto *words = program.find<QLabel>("host_result_wave_text");
+    host::RunRecord record;
+    record.testLetter = QStringLiteral("p");
+    record.digits = {host::HeardDigit()};
+    record.digits[0].measured = host::DigitMeasurement();
+    record.digits[0].measured->lowest = record.digits[0].measured->highest = playback;
+    program.window.showWaveOf(record, playback);
+    QVERIFY2(words->text().startsWith(QStringLiteral("The digits as they were heard: ")), qPrintable(words->text()));
+    QVERIFY(host::installTranslators(QStringLiteral("de_DE")));
+    QTRY_VERIFY_WITH_TIMEOUT(words->text().startsWith(QStringLiteral("Die Ziffern, ")), patienceMs);
+    QVERIFY(host::installTranslators(QStringLiteral("en_US")));
+    record.digits.clear(); // not one was heard
+    program.window.showWaveOf(record, playback);
+    QVERIFY(!words->isVisible());
+    record.testLetter = QStringLiteral("m");
+    program.window.showWaveOf(record, playback);
+    QVERIFY2(words->text().startsWith(QStringLiteral("Playback of the recording: ")), qPrintable(words->text()));
+    record.wasModuleCalled = false;
+    program.window.showWaveOf(record, playback);
+    QVERIFY(!words->isVisible());
 }
 
 void TestBeforeAndAfter::blamesNoOtherDeviceWhenTheChosenOneGoes()

@@ -235,10 +235,11 @@ void TestLevelWindow::speaksTheLanguageInForce()
 void TestLevelWindow::tellsAWaveInWords()
 {
     QLocale::setDefault(QLocale::c());
-    QVERIFY(host::waveWords({}).isEmpty());
+    QVERIFY(host::waveWords({}, host::WaveOf::recording).isEmpty());
     QList<double> wave(250, 0.1);
     wave[17] = -0.5;
-    QCOMPARE(host::waveWords(wave), QStringLiteral("Playback of the recording: 2.5 s, peak -6 dBFS"));
+    QCOMPARE(host::waveWords(wave, host::WaveOf::recording), QStringLiteral("Playback of the recording: 2.5 s, peak -6 dBFS"));
+    QCOMPARE(host::waveWords(wave, host::WaveOf::digits), QStringLiteral("The digits as they were heard: 2.5 s, peak -6 dBFS"));
 }
 
 QTEST_MAIN(TestLevelWindow)

@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
+#include <QLockFile>
 #include <QObject>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -22,10 +23,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <chrono>
+
 using host::ChannelDialog;
 using host::ChannelMapping;
 using host::SourceDialog;
 using host::SourceSetting;
+using std::chrono::milliseconds;
 
 namespace {
 
@@ -67,9 +71,11 @@ DialogSteps<ChannelDialog>::Step pressing(const char *name)
     };
 }
 
+QString beside(const char *name) { return QCoreApplication::applicationDirPath() + u'/' + QLatin1String(name); }
+
 QString spoken()
 {
-    QFile file(QCoreApplication::applicationDirPath() + QStringLiteral("/speaker_arguments"));
+    QFile file(beside("speaker_arguments"));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -94,10 +100,16 @@ private slots:
     void saysPlainlyWhatThePersonHeard_data();
     void saysPlainlyWhatThePersonHeard();
     void changesItsMindWithThePerson();
+    void speaksASilentDigitOnceMore_data();
+    void speaksASilentDigitOnceMore();
     void tellsWhyADigitCouldNotBePlayed();
+    void freesItsButtonsWhenNothingAnswers_data();
+    void freesItsButtonsWhenNothingAnswers();
+    void forgetsTheSideThatCouldNotBePlayedAgain();
     void measuresOnlyWithASource();
     void saysWhyItCouldNotMeasure();
     void saysSoInTheLanguageInForce();
+    void freesItsButtonsWhenTheSourceCannotBeListenedTo();
     void isWorkedByTheKeyboard();
     void keepsTheSource();
     void doesNotKeepASourceThatIsForOnce();
@@ -146,8 +158,6 @@ void TestListeningDialogs::saysPlainlyWhatThePersonHeard_data()
     row("left", "right", "CHANNELS_STRAIGHT");
     row("right", "left", "CHANNELS_SWAPPED");
     row("both", "both", "CHANNELS_MIXED");
-    row("nothing", "right", "CHANNELS_LEFT_SILENT");
-    row("left", "nothing", "CHANNELS_RIGHT_SILENT");
     row("nothing", "nothing", "CHANNELS_UNHEARD");
 }
 
@@ -175,6 +185,100 @@ void TestListeningDialogs::changesItsMindWithThePerson()
     QCOMPARE(dialog.check()->mapping, ChannelMapping::mixed);
     dialog.answer(QStringLiteral("second"), QStringLiteral("right"));
     QCOMPARE(dialog.check()->mapping, ChannelMapping::straight);
+}
+
+void TestListeningDialogs::speaksASilentDigitOnceMore_data()
+{
+    QTest::addColumn<QString>("silent");
+    QTest::addColumn<QString>("other");
+    QTest::addColumn<QString>("heardAtLast");
+    QTest::addColumn<ChannelMapping>("mapping");
+    const auto row = [](const char *silent, const char *other, const char *heardAtLast, ChannelMapping mapping) {
+        QTest::addRow("%s, %s at last", silent, heardAtLast)
+            << QString::fromLatin1(silent) << QString::fromLatin1(other) << QString::fromLatin1(heardAtLast) << mapping;
+    };
+    row("first", "right", "nothing", ChannelMapping::leftSilent);
+    row("first", "right", "left", ChannelMapping::straight);
+    row("first", "left", "right", ChannelMapping::swapped);
+    row("first", "right", "both", ChannelMapping::mixed);
+    row("second", "left", "nothing", ChannelMapping::rightSilent);
+    row("second", "left", "right", ChannelMapping::straight);
+}
+
+void TestListeningDialogs::speaksASilentDigitOnceMore()
+{
+    QFETCH(const QString, silent);
+    QFETCH(const QString, other);
+    QFETCH(const QString, heardAtLast);
+    QFETCH(const ChannelMapping, mapping);
+    const bool isFirst = silent == QLatin1String("first");
+    Channels dialog;
+    dialog.play(QStringLiteral("first"));
+    dialog.answer(QStringLiteral("first"), isFirst ? QStringLiteral("nothing") : other);
+    dialog.play(QStringLiteral("second"));
+    dialog.answer(QStringLiteral("second"), isFirst ? other : QStringLiteral("nothing"));
+    QVERIFY(!dialog.check());
+    QCOMPARE(dialog.result(), host::hostText("CHANNELS_ONCE_MORE"));
+    auto *again = dialog.find<QRadioButton>(silent + QStringLiteral("_nothing"));
+    QVERIFY(!again->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(again->isEnabled(), limitMs);
+    QVERIFY(!again->isChecked());
+    QVERIFY(spoken().endsWith(isFirst ? QStringLiteral("left") : QStringLiteral("right")));
+    QVERIFY(!dialog.check());
+    dialog.answer(silent, heardAtLast);
+    QVERIFY(dialog.check());
+    QCOMPARE(dialog.check()->mapping, mapping);
+}
+
+void TestListeningDialogs::freesItsButtonsWhenNothingAnswers_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<milliseconds>("opening");
+    QTest::addColumn<milliseconds>("speech");
+    QTest::newRow("never opens") << "Frozen" << milliseconds(2000) << host::ChannelLimits().speech;
+    QTest::newRow("never plays") << "Slow" << host::ChannelLimits().opening << milliseconds(200);
+}
+
+void TestListeningDialogs::freesItsButtonsWhenNothingAnswers()
+{
+    QFETCH(const milliseconds, opening);
+    QFETCH(const milliseconds, speech);
+    QFETCH(const QString, device);
+    host::ChannelListening what = listening(device);
+    what.limits.opening = opening;
+    what.limits.speech = speech;
+    Channels dialog(what);
+    dialog.play(QStringLiteral("first"));
+    QCOMPARE(dialog.result(), host::hostText("CHANNELS_STALLED"));
+    QVERIFY(dialog.find<QPushButton>(QStringLiteral("second_play"))->isEnabled());
+    for (const QRadioButton *answer : dialog.findChildren<QRadioButton *>())
+        QVERIFY(!answer->isEnabled());
+    QVERIFY(!dialog.check());
+    QVERIFY(QLockFile(beside("speaker_lock")).tryLock(limitMs)); // it is not there any more
+}
+
+void TestListeningDialogs::forgetsTheSideThatCouldNotBePlayedAgain()
+{
+    host::ChannelListening what = listening();
+    what.limits.opening = milliseconds(5000);
+    Channels dialog(what);
+    dialog.play(QStringLiteral("first"));
+    dialog.answer(QStringLiteral("first"), QStringLiteral("left"));
+    dialog.play(QStringLiteral("second"));
+    dialog.answer(QStringLiteral("second"), QStringLiteral("right"));
+    QCOMPARE(dialog.check()->mapping, ChannelMapping::straight);
+    QFile frozen(beside("speaker_frozen"));
+    QVERIFY(frozen.open(QIODevice::WriteOnly));
+    frozen.close();
+    dialog.play(QStringLiteral("first"));
+    QVERIFY(frozen.remove());
+    QVERIFY(!dialog.check());
+    QCOMPARE(dialog.result(), host::hostText("CHANNELS_STALLED"));
+    QVERIFY(!dialog.find<QRadioButton>(QStringLiteral("first_left"))->isChecked());
+    QVERIFY(dialog.find<QRadioButton>(QStringLiteral("second_right"))->isChecked()); // of which nothing new is known
+    dialog.play(QStringLiteral("first"));
+    dialog.answer(QStringLiteral("first"), QStringLiteral("right"));
+    QCOMPARE(dialog.check()->mapping, ChannelMapping::mixed);
 }
 
 void TestListeningDialogs::tellsWhyADigitCouldNotBePlayed()
@@ -217,6 +321,21 @@ void TestListeningDialogs::saysSoInTheLanguageInForce()
     const QString words = host::channelWords(check);
     QVERIFY(host::installTranslators(QStringLiteral("en_US")));
     QCOMPARE(words, QStringLiteral("Links und rechts konnten nicht gemessen werden: Die Aufnahmequelle hat nur einen Kanal."));
+}
+
+void TestListeningDialogs::freesItsButtonsWhenTheSourceCannotBeListenedTo()
+{
+    const ListenerScript script(false); // which never says that it is ready
+    host::ChannelListening what = listening(QStringLiteral("Speakers"), QStringLiteral("Mic"));
+    what.limits.opening = milliseconds(200);
+    Channels dialog(what);
+    auto *measure = dialog.find<QPushButton>(QStringLiteral("measure"));
+    QTest::mouseClick(measure, Qt::LeftButton);
+    QVERIFY(!measure->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(measure->isEnabled(), limitMs);
+    QVERIFY(dialog.find<QPushButton>(QStringLiteral("first_play"))->isEnabled());
+    QCOMPARE(dialog.check()->mapping, ChannelMapping::notMeasurable);
+    QCOMPARE(dialog.result(), host::hostText("CHANNELS_NOT_KNOWN").arg(host::shownReason(QStringLiteral("the source could not be listened to"))));
 }
 
 void TestListeningDialogs::isWorkedByTheKeyboard()

@@ -6,16 +6,20 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QLockFile>
 #include <QObject>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
+#include <chrono>
 #include <memory>
 
 using host::ChannelCheck;
 using host::ChannelListener;
 using host::ChannelMapping;
+using std::chrono::milliseconds;
 
 namespace {
 
@@ -42,7 +46,14 @@ public:
         double loudestDbfs = -120;
     };
 
-    Room(const Hearing &left, const Hearing &right, int sourceChannelCount = 2) : hearings_{left, right}
+    /// What is heard each time, the last one also of every further time.
+    using Hearings = QList<Hearing>;
+
+    Room(const Hearing &left, const Hearing &right, int sourceChannelCount = 2)
+        : Room(Hearings{left}, Hearings{right}, sourceChannelCount)
+    {}
+
+    Room(const Hearings &left, const Hearings &right, int sourceChannelCount = 2) : hearings_{left, right}
     {
         QFile::remove(beside("speaker_spoke"));
         heardUpToMs_ = host::steadyNowMs();
@@ -57,13 +68,17 @@ public:
 protected:
     void timerEvent(QTimerEvent * /*event*/) override
     {
-        const QStringList spoke = contentOf("speaker_spoke").split(u' ');
-        if (spoke.size() != 2 || sides.contains(spoke[0]))
+        const QString note = contentOf("speaker_spoke");
+        const QStringList spoke = note.split(u' ');
+        if (spoke.size() != 2 || note == answered_)
             return;
+        answered_ = note;
+        const Hearings &hearings = hearings_[spoke[0] == QLatin1String("left") ? 0 : 1];
+        const Hearing &hearing = hearings[std::min(sides.count(spoke[0]), hearings.size() - 1)];
         sides.append(spoke[0]);
         const QString clip = speakerArguments().value(3);
         digits.append(clip.mid(clip.lastIndexOf(u'/') + 1, 1).toInt());
-        answer(hearings_[spoke[0] == QLatin1String("left") ? 0 : 1], spoke[1].toLongLong());
+        answer(hearing, spoke[1].toLongLong());
     }
 
 private:
@@ -83,9 +98,16 @@ private:
     }
 
     ListenerScript script_{false};
-    Hearing hearings_[2];
+    Hearings hearings_[2];
+    QString answered_;
     qint64 heardUpToMs_ = 0;
 };
+
+const Room::Hearing silence{"", -120};
+const Room::Hearing onTheLeft{"-20,-90", -20};
+const Room::Hearing onTheRight{"-90,-20", -20};
+const Room::Hearing onBothSides{"-20,-20", -20};
+const Room::Hearing softly{"", -48};
 
 ChannelCheck check(const host::ChannelListening &what = listening)
 {
@@ -110,6 +132,12 @@ private slots:
     void passesOnWhatTheSourceHears();
     void tellsSilenceFromSoftness_data();
     void tellsSilenceFromSoftness();
+    void speaksASilentSideOnceMore_data();
+    void speaksASilentSideOnceMore();
+    void takesWhatWasHeardAsItIs_data();
+    void takesWhatWasHeardAsItIs();
+    void endsWhenNothingAnswers_data();
+    void endsWhenNothingAnswers();
     void endsWhenTheListenerCannotStart();
     void endsWhenTheDeviceCannotBeOpened();
     void endsWhenTheListenerDies();
@@ -164,6 +192,94 @@ void TestChannelListener::tellsSilenceFromSoftness()
     QFETCH(const ChannelMapping, mapping);
     const Room room({"-20,-90", -20}, {"", loudest});
     QCOMPARE(check().mapping, mapping);
+}
+
+void TestChannelListener::speaksASilentSideOnceMore_data()
+{
+    QTest::addColumn<Room::Hearings>("left");
+    QTest::addColumn<Room::Hearings>("right");
+    QTest::addColumn<ChannelMapping>("mapping");
+    const auto row = [](const char *name, const Room::Hearings &left, const Room::Hearings &right, ChannelMapping mapping) {
+        QTest::newRow(name) << left << right << mapping;
+    };
+    row("left wakes up", {silence, onTheLeft}, {onTheRight}, ChannelMapping::straight);
+    row("right wakes up", {onTheLeft}, {silence, onTheRight}, ChannelMapping::straight);
+    row("left wakes up on the other side", {silence, onTheRight}, {onTheLeft}, ChannelMapping::swapped);
+    row("left wakes up beside the right one", {silence, onTheRight}, {onTheRight}, ChannelMapping::mixed);
+    row("left wakes up on both", {silence, onBothSides}, {onTheRight}, ChannelMapping::mixed);
+    row("left wakes up softly", {silence, softly}, {onTheRight}, ChannelMapping::notMeasurable);
+    row("left silent twice", {silence, silence, onTheLeft}, {onTheRight}, ChannelMapping::leftSilent);
+    row("right silent twice", {onTheLeft}, {silence, silence, onTheRight}, ChannelMapping::rightSilent);
+}
+
+void TestChannelListener::speaksASilentSideOnceMore()
+{
+    QFETCH(const Room::Hearings, left);
+    QFETCH(const Room::Hearings, right);
+    QFETCH(const ChannelMapping, mapping);
+    const Room room(left, right);
+    QCOMPARE(check().mapping, mapping);
+    QStringList sides{QStringLiteral("left"), QStringLiteral("right")};
+    sides.append(sides[left.size() > 1 ? 0 : 1]);
+    QCOMPARE(room.sides, sides);
+    QCOMPARE(room.digits[2], room.digits[left.size() > 1 ? 0 : 1]);
+}
+
+// Nothing but silence is tried again: a better second time would hide the first.
+void TestChannelListener::takesWhatWasHeardAsItIs_data()
+{
+    QTest::addColumn<Room::Hearings>("left");
+    QTest::addColumn<Room::Hearings>("right");
+    QTest::addColumn<ChannelMapping>("mapping");
+    QTest::newRow("swapped") << Room::Hearings{onTheRight, onTheLeft} << Room::Hearings{onTheLeft, onTheRight}
+                             << ChannelMapping::swapped;
+    QTest::newRow("mixed") << Room::Hearings{onBothSides, onTheLeft} << Room::Hearings{onTheRight} << ChannelMapping::mixed;
+    QTest::newRow("soft") << Room::Hearings{softly, onTheLeft} << Room::Hearings{onTheRight} << ChannelMapping::notMeasurable;
+    QTest::newRow("nothing") << Room::Hearings{silence, onTheLeft} << Room::Hearings{silence, onTheRight}
+                             << ChannelMapping::notMeasurable;
+}
+
+void TestChannelListener::takesWhatWasHeardAsItIs()
+{
+    QFETCH(const Room::Hearings, left);
+    QFETCH(const Room::Hearings, right);
+    QFETCH(const ChannelMapping, mapping);
+    const Room room(left, right);
+    QCOMPARE(check().mapping, mapping);
+    QCOMPARE(room.sides.size(), 2);
+}
+
+void TestChannelListener::endsWhenNothingAnswers_data()
+{
+    QTest::addColumn<bool>("isListening");
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<milliseconds>("opening");
+    QTest::addColumn<milliseconds>("speech");
+    QTest::addColumn<QString>("reason");
+    const milliseconds opening = host::ChannelLimits().opening;
+    const milliseconds speech = host::ChannelLimits().speech;
+    QTest::newRow("listener") << false << "Speakers" << milliseconds(200) << speech << "the source could not be listened to";
+    QTest::newRow("device") << true << "Slow" << opening << milliseconds(200) << "the device did not play";
+    QTest::newRow("opening") << true << "Frozen" << milliseconds(5000) << speech << "the device could not be opened";
+}
+
+void TestChannelListener::endsWhenNothingAnswers()
+{
+    QFETCH(const bool, isListening);
+    QFETCH(const QString, device);
+    QFETCH(const milliseconds, opening);
+    QFETCH(const milliseconds, speech);
+    QFETCH(const QString, reason);
+    host::ChannelListening what = listening;
+    what.device = device;
+    what.limits.opening = opening;
+    what.limits.speech = speech;
+    const ListenerScript script(isListening);
+    const ChannelCheck made = check(what);
+    QCOMPARE(made.mapping, ChannelMapping::notMeasurable);
+    QCOMPARE(made.reason, reason);
+    QVERIFY(!made.left && !made.right);
+    QVERIFY(QLockFile(beside("speaker_lock")).tryLock(limitMs)); // it is not there any more
 }
 
 void TestChannelListener::endsWhenTheListenerCannotStart()
