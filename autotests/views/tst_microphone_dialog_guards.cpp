@@ -37,7 +37,6 @@ private slots:
     void aListenerThatThrowsDoesNotChangeTheEnd_data();
     void aListenerThatThrowsDoesNotChangeTheEnd();
     void aListenerOfItsAcceptanceThatThrowsDoesNotChangeTheEnd();
-    void aWindowThatFailsToHideEndsAllTheSame();
     void aListenerThatIsFirstKeepsNoJobRunning();
     void aMouseEventThatFailsAbortsIt_data();
     void aMouseEventThatFailsAbortsIt();
@@ -132,20 +131,6 @@ void TestMicrophoneDialogGuards::aListenerOfItsAcceptanceThatThrowsDoesNotChange
     const int outcome = stage.resultOf([&] { hasComeOut = throwing_host::comesOut([&] { stage.dialog->Finish(); }); });
     QVERIFY(!hasComeOut && hasThrown && isTold);
     QCOMPARE(outcome, int(dialog_result::heard));
-}
-
-void TestMicrophoneDialogGuards::aWindowThatFailsToHideEndsAllTheSame()
-{
-    Stage stage;
-    throwing_host::Filter filter(QEvent::Hide);
-    bool hasComeOut = false;
-    const int outcome = stage.resultOf([&] {
-        stage.dialog->installEventFilter(&filter);
-        hasComeOut = throwing_host::comesOut([&] { stage.dialog->Cancel(); });
-    });
-    QVERIFY(!hasComeOut && filter.hasThrown());
-    QCOMPARE(outcome, int(dialog_result::cancelled));
-    QVERIFY(stage.dialog->hasFinished() && !stage.dialog->isVisible());
 }
 
 // It hears of the end before the dialog's own parts do, and keeps it from them both times.

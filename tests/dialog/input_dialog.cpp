@@ -40,17 +40,15 @@ void InputDialog::raiseOnce()
     setWindowFlag(Qt::WindowStaysOnTopHint, false);
 }
 
-// Whoever listens to the end may throw, and keeps it from those behind: they hear of it from `tellAgain`. The loop ends even
-// where that fails as well.
-template <typename Tell, typename TellAgain>
-void InputDialog::end(Tell tell, TellAgain tellAgain)
+// Whoever listens to the end may throw, and keeps it from those behind: they are told once more. The loop ends even where that
+// fails as well.
+template <typename Tell>
+void InputDialog::end(int result, Tell tell)
 {
     const QPointer<InputDialog> self(this);
     utils::guarded(tell, [&, this] {
-        if (!self)
-            return;
-        hasFinished_ = true;
-        tellAgain();
+        if (self)
+            emit finished(result);
     });
     if (self && loop_ != nullptr)
         loop_->quit();
@@ -58,21 +56,14 @@ void InputDialog::end(Tell tell, TellAgain tellAgain)
 
 void InputDialog::done(int result)
 {
-    const auto again = [=, this] {
-        setResult(result);
-        hide();
-        emit finished(result);
-    };
-    end([=, this] { QDialog::done(result); }, again);
+    end(result, [=, this] { QDialog::done(result); });
 }
 
 void InputDialog::askWatcher()
 {
-    if (watcher_ == nullptr || !wantsStop())
-        return;
     // Only the loop ends: whoever made the dialog closes it.
-    const auto tell = [this] { emit finished(0); };
-    end(tell, tell);
+    if (watcher_ != nullptr && wantsStop())
+        end(0, [this] { emit finished(0); });
 }
 
 // An exception must not unwind through the event dispatcher; a host that cannot answer any more ends the test.

@@ -50,8 +50,8 @@ private:
     void askWatcher();
     bool wantsStop() noexcept;
     int runLoop();
-    template <typename Tell, typename TellAgain>
-    void end(Tell tell, TellAgain tellAgain);
+    template <typename Tell>
+    void end(int result, Tell tell);
 
     QString title_;
     TestContext *watcher_ = nullptr;
