@@ -98,15 +98,18 @@ void AudioWidgetWrapper::watchDialog()
 {
     InteractionDialog *dialog = dialog_;
     // Kept at once: the dialog may be gone when its loop returns.
-    connect(dialog, &QDialog::finished, this, [this, dialog] {
-        hasFinished_ = !dialog->hasWatcherFailed();
-        isDeviceLost_ = dialog->isDeviceDisconnected();
-        hasInternalError_ = dialog->isAborted();
-    });
+    connect(dialog, &QDialog::finished, this, [this, dialog] { keepEnd(*dialog); });
     connect(this, &AudioWidgetWrapper::CloseDialog, dialog, [dialog] {
         if (dialog->result() == dialog_result::none)
             dialog->close();
     });
+}
+
+void AudioWidgetWrapper::keepEnd(const InteractionDialog &dialog)
+{
+    hasFinished_ = dialog.hasFinished() && !dialog.hasWatcherFailed();
+    isDeviceLost_ = dialog.isDeviceDisconnected();
+    hasInternalError_ = dialog.isAborted();
 }
 
 int AudioWidgetWrapper::runDialog(QWidget *parent, QObject *argument)
@@ -116,6 +119,8 @@ int AudioWidgetWrapper::runDialog(QWidget *parent, QObject *argument)
     watchDialog();
     dialog_->raiseOnce();
     const int result = dialog_->exec();
+    if (dialog_)
+        keepEnd(*dialog_); // a listener that throws may have kept the end from being told
     // Result 0 of a dialog that never finished, or that a failing host ended, would be taken for a pass.
     const int outcome = hasFinished_ ? result : dialog_result::cancelled;
     endDialog();

@@ -65,6 +65,7 @@ private:
     void makeDialog(QWidget *parent, QObject *argument);
     void linkDialog();
     void watchDialog();
+    void keepEnd(const InteractionDialog &dialog);
     void endDialog();
 
     QString outputDeviceName_;

@@ -249,7 +249,7 @@ void AudioPlaybackTestView::CheckSystemEventAbortion()
         return;
     // If the host threw, nobody can tell any more what may have spoilt the test.
     const bool isEvent = answer == EventAnswer::cancel;
-    guard([=, this] { finish(isEvent ? playback_outcome::systemEvent : playback_outcome::notCompleted); });
+    finish(isEvent ? playback_outcome::systemEvent : playback_outcome::notCompleted);
 }
 
 void AudioPlaybackTestView::PlayAudio()
@@ -320,13 +320,11 @@ void AudioPlaybackTestView::done(int r)
 
 void AudioPlaybackTestView::keyPressEvent(QKeyEvent *event)
 {
-    guard([=, this] {
-        if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_9)
-            type(event->key() - Qt::Key_0);
-        else if (event->key() == Qt::Key_Escape)
-            OnCloseButtonClicked();
-        InputDialog::keyPressEvent(event);
-    });
+    if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_9)
+        type(event->key() - Qt::Key_0);
+    else if (event->key() == Qt::Key_Escape)
+        OnCloseButtonClicked();
+    InputDialog::keyPressEvent(event);
 }
 
 void AudioPlaybackTestView::mousePressEvent(QMouseEvent *event)

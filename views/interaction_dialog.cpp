@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPointer>
 
 #include <chrono>
 
@@ -167,7 +168,7 @@ void InteractionDialog::CheckSystemEvent()
     guard([this, isUnknown] {
         QTimer::singleShot(0, this, [this, isUnknown] {
             if (isReady_)
-                guard([this, isUnknown] { isUnknown ? Abort() : done(result()); });
+                isUnknown ? Abort() : done(result());
         });
     });
 }
@@ -175,7 +176,10 @@ void InteractionDialog::CheckSystemEvent()
 void InteractionDialog::done(int result)
 {
     isReady_ = false; // the end changes the window, and a change asks for events
+    const QPointer<InteractionDialog> self(this);
     InputDialog::done(result);
+    if (self)
+        stopJobs(); // a listener that throws may have kept `closing` from being told
 }
 
 void InteractionDialog::changeEvent(QEvent *event)
@@ -197,18 +201,16 @@ bool InteractionDialog::eventFilter(QObject *watched, QEvent *event)
 void InteractionDialog::closeEvent(QCloseEvent *event)
 {
     // Nobody has heard a sound when the user or the end of the application takes the window away: result 0 would say so.
-    guard([=, this] {
-        if (!event->spontaneous() && !isApplicationQuitting_)
-            return InputDialog::closeEvent(event);
-        Close();
-        event->accept();
-    });
+    if (!event->spontaneous() && !isApplicationQuitting_)
+        return InputDialog::closeEvent(event);
+    Close();
+    event->accept();
 }
 
 void InteractionDialog::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)
-        guard([this] { done(dialog_result::cancelled); });
+        done(dialog_result::cancelled);
 }
 
 void InteractionDialog::mousePressEvent(QMouseEvent *event)

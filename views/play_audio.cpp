@@ -46,17 +46,20 @@ void PlayAudio::set_result_status(int status) { job_.report(status); }
 void PlayAudio::OnBtnCancelClicked()
 {
     if (!job_.cancel())
-        emit CancelTest();
+        utils::guarded([this] { emit CancelTest(); });
 }
 
-void PlayAudio::OnBtnNextClicked() { emit NextWidget(); }
+void PlayAudio::OnBtnNextClicked()
+{
+    utils::guarded([this] { emit NextWidget(); });
+}
 
 void PlayAudio::OnBtnPlayClicked()
 {
     if (job_.isBusy())
         return;
-    enableButtons(false);
     const auto start = [this] {
+        enableButtons(false);
         job_.start(std::make_unique<audio::PlayerHelper>(recording_->stored(), job_.begin(), deviceName_), SLOT(PlayAudio()));
     };
     utils::guarded(start, [this] { emit AbortTest(); });

@@ -31,15 +31,15 @@ void RecordAudio::set_result_status(int status) { job_.report(status); }
 void RecordAudio::OnBtnCancelClicked()
 {
     if (!job_.cancel())
-        emit CancelTest();
+        utils::guarded([this] { emit CancelTest(); });
 }
 
 void RecordAudio::OnBtnRecordClicked()
 {
     if (job_.isBusy())
         return;
-    ui_->microphone_test_record_button->setEnabled(false);
     const auto start = [this] {
+        ui_->microphone_test_record_button->setEnabled(false);
         job_.start(std::make_unique<audio::RecorderHelper>(recording_, job_.begin(), deviceName_, recordLimit),
                    SLOT(RecordAudio()));
     };

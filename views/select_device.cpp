@@ -2,6 +2,7 @@
 #include "views/select_device.h"
 
 #include "audio/audio_devices.h"
+#include "utils/guarded.h"
 #include "views/device_radio_button.h"
 #include "views/ui_select_device.h"
 #include "views/widget_setup.h"
@@ -63,10 +64,15 @@ void SelectDevice::onBtnNextClicked()
     const QAbstractButton *checked = choices_.checkedButton();
     if (checked == nullptr)
         return;
-    emit micChanged(checked->text());
-    emit NextWidget();
+    utils::guarded([=, this] {
+        emit micChanged(checked->text());
+        emit NextWidget();
+    });
 }
 
-void SelectDevice::onBtnCancelClicked() { emit cancelTest(); }
+void SelectDevice::onBtnCancelClicked()
+{
+    utils::guarded([this] { emit cancelTest(); });
+}
 
 } // namespace ostra

@@ -5,6 +5,7 @@
 #include "autotests/tests/microphone_host.h"
 #include "autotests/views/fake_sound.h"
 #include "autotests/views/page_probe.h"
+#include "autotests/views/throwing_host.h"
 
 #include <QCloseEvent>
 #include <QEvent>
@@ -97,6 +98,7 @@ private slots:
     void anEventBeforeTheLoopIsNoPass();
     void livesInTheApplicationsThread();
     void givesTheDialogItsWatcherAndEvents();
+    void aListenerThatIsFirstKeepsNoEndFromIt();
 };
 
 void TestAudioWidgetWrapper::cleanup()
@@ -347,6 +349,21 @@ void TestAudioWidgetWrapper::givesTheDialogItsWatcherAndEvents()
     connect(&late, &QTimer::timeout, this, [&] { other.dialog->Cancel(); });
     late.start(bound);
     QCOMPARE(other.resultOf([&] { other.host.wantsToStop = true; }), 0);
+}
+
+// It hears of the end before the wrapper does, and keeps it from it both times.
+void TestAudioWidgetWrapper::aListenerThatIsFirstKeepsNoEndFromIt()
+{
+    Stage stage;
+    throwing_host::FirstListener first;
+    bool hasComeOut = false;
+    QTimer::singleShot(0, stage.wrapper.get(), [&] {
+        hasComeOut = throwing_host::comesOut([] { MicrophoneHost::dialog()->AbortDeviceDisconnected(); });
+    });
+    QCOMPARE(stage.wrapper->exec(nullptr, &first), 5);
+    QVERIFY(!hasComeOut);
+    QCOMPARE(first.toldCount(), 2);
+    QVERIFY(stage.wrapper->deviceLost());
 }
 
 QTEST_MAIN(TestAudioWidgetWrapper)

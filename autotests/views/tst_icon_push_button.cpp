@@ -2,10 +2,15 @@
 #include "views/icon_push_button.h"
 #include "views/register_types.h"
 
+#include "autotests/views/throwing_host.h"
+
+#include <QIconEngine>
 #include <QImage>
 #include <QMetaType>
 #include <QPixmap>
 #include <QTest>
+
+#include <new>
 
 class TestIconPushButton : public QObject {
     Q_OBJECT
@@ -17,6 +22,8 @@ private slots:
     void drawsTheNormalPixmapWhenDisabled();
     void isAnOrdinaryButtonWithoutAnIcon_data();
     void isAnOrdinaryButtonWithoutAnIcon();
+    void whatCannotBePaintedIsPaintedTheNextTime_data();
+    void whatCannotBePaintedIsPaintedTheNextTime();
 };
 
 namespace {
@@ -31,6 +38,25 @@ QIcon icon(Qt::GlobalColor normal, Qt::GlobalColor other)
     result.addPixmap(pixmap, QIcon::Normal, QIcon::On);
     return result;
 }
+
+// An icon of a host's making.
+class IconEngine final : public QIconEngine {
+public:
+    explicit IconEngine(const bool &throws) : throws_(throws) {}
+    void paint(QPainter *, const QRect &, QIcon::Mode, QIcon::State) override {}
+    QIconEngine *clone() const override { return new IconEngine(throws_); }
+    QPixmap pixmap(const QSize &size, QIcon::Mode, QIcon::State) override
+    {
+        if (throws_)
+            throw std::bad_alloc();
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::red);
+        return pixmap;
+    }
+
+private:
+    const bool &throws_;
+};
 
 } // namespace
 
@@ -97,6 +123,31 @@ void TestIconPushButton::isAnOrdinaryButtonWithoutAnIcon()
     button.resize(100, 60);
     button.drawIconAt(icon, QPoint(), size);
     QCOMPARE(button.grab().toImage(), plain.grab().toImage());
+}
+
+void TestIconPushButton::whatCannotBePaintedIsPaintedTheNextTime_data()
+{
+    QTest::addColumn<bool>("isStyle");
+    QTest::newRow("the style") << true;
+    QTest::newRow("the icon") << false;
+}
+
+void TestIconPushButton::whatCannotBePaintedIsPaintedTheNextTime()
+{
+    QFETCH(const bool, isStyle);
+    bool throws = false;
+    IconPushButton button;
+    throwing_host::Style style(button);
+    button.setStyle(&style);
+    button.resize(100, 60);
+    button.drawIconAt(QIcon(new IconEngine(throws)), QPoint(30, 20), QSize(16, 16));
+    style.throws = isStyle;
+    throws = !isStyle;
+    QImage image;
+    QVERIFY(!throwing_host::comesOut([&] { image = button.grab().toImage(); }));
+    QVERIFY(image.pixelColor(35, 25) != QColor(Qt::red));
+    style.throws = throws = false;
+    QCOMPARE(button.grab().toImage().pixelColor(35, 25), QColor(Qt::red));
 }
 
 QTEST_MAIN(TestIconPushButton)

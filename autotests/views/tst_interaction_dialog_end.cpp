@@ -4,7 +4,6 @@
 #include "autotests/views/dialog_stage.h"
 
 #include <QAccessible>
-#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -19,7 +18,6 @@
 #include <QTimer>
 
 #include <memory>
-#include <new>
 #include <utility>
 
 using namespace ostra;
@@ -36,9 +34,6 @@ private slots:
     void anEventAtAChangeOfTheWindowCancels();
     void anEventBeforeTheLoopCancels();
     void worksWithoutAnEventSource();
-    void nothingIsThrownIntoTheEventLoop_data();
-    void nothingIsThrownIntoTheEventLoop();
-    void aMoveThatFailsWhileItComesUpAbortsIt();
     void closingIsToldOnce();
     void closingStopsWhatRuns_data();
     void closingStopsWhatRuns();
@@ -122,74 +117,6 @@ void TestInteractionDialogEnd::worksWithoutAnEventSource()
     dialog.setWindowTitle(QStringLiteral("changed"));
     QCoreApplication::processEvents();
     QVERIFY(!dialog.hasFinished());
-}
-
-void TestInteractionDialogEnd::nothingIsThrownIntoTheEventLoop_data()
-{
-    QTest::addColumn<Action>("act");
-    QTest::newRow("escape") << Action([](Stage &stage) { QTest::keyClick(stage.dialog.get(), Qt::Key_Escape); });
-    QTest::newRow("a change of the window") << Action([](Stage &stage) {
-        stage.events.flags = 1;
-        QEvent state(QEvent::WindowStateChange);
-        QCoreApplication::sendEvent(stage.dialog.get(), &state);
-    });
-    QTest::newRow("an event of the machine") << Action([](Stage &stage) {
-        stage.events.flags = 1;
-        stage.dialog->CheckSystemEvent();
-        QCoreApplication::processEvents();
-    });
-    QTest::newRow("a close by the user") << Action([](Stage &stage) {
-        QCloseEvent event;
-        page_probe::sendSpontaneously(*stage.dialog, event);
-    });
-}
-
-// What throws is told of the end first, as an object of the host may be.
-void TestInteractionDialogEnd::nothingIsThrownIntoTheEventLoop()
-{
-    QFETCH(const Action, act);
-    Stage stage;
-    bool hasThrown = false;
-    connect(stage.dialog.get(), &QDialog::finished, this, [&] {
-        if (!std::exchange(hasThrown, true))
-            throw std::bad_alloc();
-    });
-    try {
-        act(stage);
-    } catch (...) {
-        QFAIL("it came out");
-    }
-    QVERIFY(hasThrown);
-    QVERIFY(stage.dialog->isAborted());
-    QCOMPARE(stage.dialog->result(), int(dialog_result::closed));
-}
-
-void TestInteractionDialogEnd::aMoveThatFailsWhileItComesUpAbortsIt()
-{
-    struct Failing final : QObject {
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            isComingUp = isComingUp || event->type() == QEvent::Show;
-            if (isComingUp && event->type() == QEvent::Move && !std::exchange(hasThrown, true))
-                throw std::bad_alloc();
-            return false;
-        }
-        bool isComingUp = false;
-        bool hasThrown = false;
-    } filter;
-    QWidget window;
-    window.setGeometry(100, 60, 700, 500);
-    QWidget child(&window);
-    Stage stage; // goes before its parent
-    stage.dialog->setParent(&child, stage.dialog->windowFlags());
-    stage.dialog->installEventFilter(&filter);
-    try {
-        stage.dialog->show();
-    } catch (...) {
-        QFAIL("it came out");
-    }
-    QVERIFY(filter.hasThrown);
-    QVERIFY(stage.dialog->isAborted());
 }
 
 void TestInteractionDialogEnd::closingIsToldOnce()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/views/playback_fixture.h"
+#include "autotests/views/throwing_host.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -37,6 +38,8 @@ private slots:
     void stopsWhenReleased();
     void showsAClosedHandMeanwhile();
     void hidesTheMeasuringWidgetFromTheMouse();
+    void anEventThatFailsEndsItWithoutAVerdict_data();
+    void anEventThatFailsEndsItWithoutAVerdict();
 };
 
 void TestPlaybackViewDragging::followsTheCursor_data()
@@ -119,6 +122,32 @@ void TestPlaybackViewDragging::hidesTheMeasuringWidgetFromTheMouse()
     const QWidget *hit = playback.view->childAt(QPoint(50, 15));
     QVERIFY(hit != nullptr);
     QVERIFY2(hit->objectName().startsWith(QStringLiteral("audio_playback_test_header")), qPrintable(hit->objectName()));
+}
+
+void TestPlaybackViewDragging::anEventThatFailsEndsItWithoutAVerdict_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("throwsAt");
+    QTest::newRow("a press") << int(QEvent::MouseButtonPress) << int(QEvent::CursorChange);
+    QTest::newRow("a move") << int(QEvent::MouseMove) << int(QEvent::Move);
+    QTest::newRow("a release") << int(QEvent::MouseButtonRelease) << int(QEvent::CursorChange);
+}
+
+void TestPlaybackViewDragging::anEventThatFailsEndsItWithoutAVerdict()
+{
+    QFETCH(const int, type);
+    QFETCH(const int, throwsAt);
+    const Playback playback;
+    playback.view->show();
+    const QPoint grip = centre(playback, "header");
+    if (type != QEvent::MouseButtonPress)
+        send(playback, QEvent::MouseButtonPress, grip, playback.view->pos() + grip);
+    throwing_host::Filter filter{QEvent::Type(throwsAt)};
+    playback.view->installEventFilter(&filter);
+    QVERIFY(!throwing_host::comesOut([&] { send(playback, QEvent::Type(type), grip, QPoint(300, 200)); }));
+    QVERIFY(filter.hasThrown());
+    QVERIFY(playback.view->hasFinished());
+    QCOMPARE(playback.view->outcome(), 3);
 }
 
 QTEST_MAIN(TestPlaybackViewDragging)

@@ -2,6 +2,7 @@
 #include "autotests/support/long_texts.h"
 #include "autotests/views/clipped_widgets.h"
 #include "autotests/views/playback_fixture.h"
+#include "autotests/views/throwing_host.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -134,6 +135,7 @@ private slots:
     void namesEverythingForScreenReaders();
     void showsOneOfEachPairToScreenReaders();
     void tellsTheStateOfTheSequences();
+    void whatCannotBePaintedIsPaintedTheNextTime();
 };
 
 void TestPlaybackViewForm::hasTheWidgetsInTheirOrder()
@@ -421,6 +423,22 @@ void TestPlaybackViewForm::tellsTheStateOfTheSequences()
     QCOMPARE(playback.at("failed_audio_sequence_icon").accessibleDescription(),
              QStringLiteral("AUDIO_PLAYBACK_TEST_WRONG_SEQUENCE"));
     QCOMPARE(playback.at("current_audio_sequence_icon_2").accessibleName(), QStringLiteral("SECOND_SEQUENCE"));
+}
+
+void TestPlaybackViewForm::whatCannotBePaintedIsPaintedTheNextTime()
+{
+    const Playback playback;
+    throwing_host::Style style(*playback.view);
+    playback.view->setStyle(&style);
+    playback.view->setStyleSheet(QString()); // or it would paint the window by itself
+    const QImage whole = playback.view->grab().toImage();
+    style.throws = true;
+    QVERIFY(!throwing_host::comesOut([&] { playback.view->grab(); }));
+    QVERIFY(style.thrownCount > 0);
+    QVERIFY(!playback.view->hasFinished());
+    style.throws = false;
+    QCOMPARE(playback.view->grab().toImage(), whole);
+    playback.view->setStyle(nullptr);
 }
 
 QTEST_MAIN(TestPlaybackViewForm)

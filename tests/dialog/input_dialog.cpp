@@ -40,13 +40,30 @@ void InputDialog::raiseOnce()
     setWindowFlag(Qt::WindowStaysOnTopHint, false);
 }
 
+// Whoever listens to the end may throw, and keeps it from those behind: they are told once more. The loop ends even where that
+// fails as well.
+template <typename Tell>
+void InputDialog::end(int result, Tell tell)
+{
+    const QPointer<InputDialog> self(this);
+    utils::guarded(tell, [&, this] {
+        if (self)
+            emit finished(result);
+    });
+    if (self && loop_ != nullptr)
+        loop_->quit();
+}
+
+void InputDialog::done(int result)
+{
+    end(result, [=, this] { QDialog::done(result); });
+}
+
 void InputDialog::askWatcher()
 {
     // Only the loop ends: whoever made the dialog closes it.
-    utils::guarded([this] {
-        if (watcher_ != nullptr && wantsStop())
-            emit finished(0);
-    });
+    if (watcher_ != nullptr && wantsStop())
+        end(0, [this] { emit finished(0); });
 }
 
 // An exception must not unwind through the event dispatcher; a host that cannot answer any more ends the test.
@@ -69,6 +86,7 @@ int InputDialog::runLoop()
     connect(this, &QDialog::finished, &loop, [this, &outcome] { outcome = result(); });
     connect(this, &QDialog::finished, &loop, &QEventLoop::quit);
     connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
+    loop_ = &loop;
     QTimer timer;
     connect(&timer, &QTimer::timeout, this, &InputDialog::askWatcher);
     qDebug().nospace() << "Before show: " << result();
@@ -78,8 +96,10 @@ int InputDialog::runLoop()
     timer.start(utils::paced(watcherInterval));
     if (!hasFinished_)
         loop.exec();
-    if (self)
+    if (self) {
         outcome = result();
+        loop_ = nullptr;
+    }
     qDebug().nospace() << "After the event loop: " << outcome;
     return outcome;
 }

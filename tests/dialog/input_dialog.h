@@ -5,6 +5,8 @@
 
 #include <QString>
 
+class QEventLoop;
+
 namespace ostra {
 
 class TestContext;
@@ -31,6 +33,10 @@ public:
     /// Qt::WA_DeleteOnClose, which is back in force afterwards. A watcher that throws counts as one that wants to stop.
     int exec() override;
 
+    /// As QDialog::done. A listener of the end that throws is told once more, as are those behind it; nothing comes out of
+    /// here, and the dialog has ended with `result` in any case.
+    void done(int result) override;
+
     /// Whether the dialog has finished, by itself or by its watcher.
     bool hasFinished() const noexcept { return hasFinished_; }
 
@@ -44,9 +50,12 @@ private:
     void askWatcher();
     bool wantsStop() noexcept;
     int runLoop();
+    template <typename Tell>
+    void end(int result, Tell tell);
 
     QString title_;
     TestContext *watcher_ = nullptr;
+    QEventLoop *loop_ = nullptr; ///< while it runs
     bool hasFinished_ = false;
     bool hasWatcherFailed_ = false;
 };
