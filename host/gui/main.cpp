@@ -18,6 +18,18 @@ std::variant<host::Options, host::OptionsError> readCommandLine(int argc, char *
     return host::readOptions(QCoreApplication::arguments());
 }
 
+// Of the options that end the program; empty without one of them.
+QString printedText(const host::Options &options)
+{
+    if (options.isHelp)
+        return host::optionsHelp();
+    if (options.isVersion)
+        return QStringLiteral("TamrexDiagnostics " HOST_VERSION "\n");
+    if (options.isManual)
+        return host::manualOfHost();
+    return options.isCompletion ? host::completionOfHost() : QString();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -28,8 +40,9 @@ int main(int argc, char *argv[])
         return usageExitCode;
     }
     const auto &options = std::get<host::Options>(parsed);
-    if (options.isHelp || options.isVersion) {
-        host::print(options.isHelp ? host::optionsHelp() : QStringLiteral("TamrexDiagnostics " HOST_VERSION "\n"));
+    const QString text = printedText(options);
+    if (!text.isEmpty()) {
+        host::print(text);
         return 0;
     }
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0"); // the module's dialogs scale themselves

@@ -15,14 +15,7 @@ namespace host {
 
 namespace {
 
-struct KnownOption {
-    const char *name;
-    const char *value; ///< null for a switch
-    const char *explanation;
-    bool isUnattendedOnly;
-};
-
-constexpr std::array<KnownOption, 19> knownOptions{{
+constexpr std::array<OptionOfHost, 21> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
@@ -40,6 +33,8 @@ constexpr std::array<KnownOption, 19> knownOptions{{
     {"simulate-event", "BIT@MS", "raise that event that long after the start of a run; may be repeated", false},
     {"stop-after", "MS", "stop each run that long after its start", false},
     {"self-check", nullptr, "print as JSON what the windows of this installation lack, and exit", false},
+    {"print-manual", nullptr, "print the manual page (troff) and exit", false},
+    {"print-completion", nullptr, "print the completion for bash and exit", false},
     {"help", nullptr, "print this and exit", false},
     {"version", nullptr, "print the version and exit", false},
 }};
@@ -48,7 +43,7 @@ OptionsError error(const QString &reason) { return {reason + QStringLiteral(" (t
 
 void addOptions(QCommandLineParser &parser)
 {
-    for (const KnownOption &option : knownOptions) {
+    for (const OptionOfHost &option : knownOptions) {
         QStringList names{QLatin1String(option.name)};
         if (names.first() == QLatin1String("help"))
             names.prepend(QStringLiteral("h"));
@@ -105,7 +100,7 @@ std::optional<OptionsError> readSchedule(const QCommandLineParser &parser, RunSc
 
 std::optional<OptionsError> checkUnattended(const QCommandLineParser &parser, const Options &options)
 {
-    for (const KnownOption &option : knownOptions) {
+    for (const OptionOfHost &option : knownOptions) {
         if (option.isUnattendedOnly && !options.isUnattended && parser.isSet(QLatin1String(option.name)))
             return error(QStringLiteral("'--%1' goes with '--unattended' only").arg(QLatin1String(option.name)));
     }
@@ -152,6 +147,8 @@ Options readValues(const QCommandLineParser &parser)
     options.isHelp = parser.isSet(QStringLiteral("help"));
     options.isSelfCheck = parser.isSet(QStringLiteral("self-check"));
     options.isVersion = parser.isSet(QStringLiteral("version"));
+    options.isManual = parser.isSet(QStringLiteral("print-manual"));
+    options.isCompletion = parser.isSet(QStringLiteral("print-completion"));
     options.isUnattended = parser.isSet(QStringLiteral("unattended"));
     options.isDeveloper = parser.isSet(QStringLiteral("developer"));
     options.test = parser.value(QStringLiteral("test"));
@@ -171,6 +168,8 @@ Options readValues(const QCommandLineParser &parser)
 }
 
 } // namespace
+
+std::span<const OptionOfHost> optionsOfHost() { return knownOptions; }
 
 std::variant<Options, OptionsError> readOptions(const QStringList &arguments)
 {
@@ -197,28 +196,6 @@ std::variant<Options, OptionsError> readOptions(const QStringList &arguments)
             return *wrong;
     }
     return options;
-}
-
-QString optionsHelp()
-{
-    QString text = QStringLiteral("Usage: TamrexDiagnostics [OPTIONS]\n"
-                                  "Lists the machine's output devices and runs the tests of the audio module on them.\n\n");
-    constexpr int column = 26;
-    for (const KnownOption &option : knownOptions) {
-        QString name = QStringLiteral("  --") + QLatin1String(option.name);
-        if (option.value != nullptr)
-            name += u' ' + QLatin1String(option.value);
-        text += name.leftJustified(column) + QLatin1String(option.explanation) + u'\n';
-    }
-    return text +
-           QStringLiteral(
-               "\n--unattended needs --test, --device and --listen; --report, --screenshots and --mistype go with it.\n"
-               "With --test m a sentence is spoken through --speak-through while --microphone records; the playback of the\n"
-               "recording is judged by what --listen hears of it.\n"
-               "While a test runs, Ctrl+Shift+S stops it in whichever window; with --developer, Ctrl+Shift+F1 to F10\n"
-               "simulate the events 0 to 9.\n"
-               "Exit codes: 0 passed, 1 failed, 2 wrong usage, 3 cannot be performed, 4 not completed, 6 no module or\n"
-               "an invalid call, 130 and 143 interrupted.\n");
 }
 
 } // namespace host

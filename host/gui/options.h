@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <span>
 #include <variant>
 
 namespace host {
@@ -15,6 +16,8 @@ struct Options {
     bool isHelp = false;
     bool isSelfCheck = false;
     bool isVersion = false;
+    bool isManual = false;     ///< the manual page is printed
+    bool isCompletion = false; ///< the shell's completion is printed
     bool isUnattended = false;
     bool isDeveloper = false;
     QString test; ///< letter
@@ -39,7 +42,20 @@ struct OptionsError {
 /// `arguments` begin with the program's name. Needs no application object.
 std::variant<Options, OptionsError> readOptions(const QStringList &arguments);
 
+/// One option. The command line, --help, the manual page and the shell completion are made from these rows.
+struct OptionOfHost {
+    const char *name;
+    const char *value; ///< null for a switch; FILE, DIR, CODE and words with bars between them can be completed
+    const char *explanation;
+    bool isUnattendedOnly;
+};
+std::span<const OptionOfHost> optionsOfHost();
+
 /// What --help prints.
 QString optionsHelp();
+/// What --print-manual prints; it is shipped.
+QString manualOfHost();
+/// What --print-completion prints, for bash; it is shipped.
+QString completionOfHost();
 
 } // namespace host

@@ -1,26 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "autotests/host/gui/fake_module.h"
+#include "autotests/host/gui/host_windows.h"
 #include "autotests/host/gui/pseudo_translator.h"
-#include "host/core/language_setting.h"
-#include "host/gui/channel_dialog.h"
-#include "host/gui/dialog_prompter.h"
-#include "host/gui/host_prompts.h"
-#include "host/gui/key_text.h"
-#include "host/gui/main_window.h"
-#include "host/gui/source_dialog.h"
+#include "autotests/host/gui/text_room.h"
 #include "host/translations/translators.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QObject>
 #include <QScreen>
-#include <QTabWidget>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <cmath>
 
 namespace {
 
@@ -56,36 +48,24 @@ void verifyFits(const QWidget &window)
                                          .arg(needed.height())));
         QVERIFY(widget->window()->rect().contains(QRect(widget->mapTo(widget->window(), QPoint()), widget->size())));
     }
+    const QStringList cut = text_room::cutTexts(window);
+    QVERIFY2(cut.isEmpty(), qPrintable(window.objectName() + QStringLiteral(": ") + cut.join(QStringLiteral("; "))));
 }
 
-void expose(QWidget &window)
+// Each as it opens below its title, or at the window's corner.
+void verifyMenusFit(const QWidget &window)
 {
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCoreApplication::processEvents();
-}
-
-// A run whose digits were measured, as a listener would.
-void addDigits(host::RunRecord &record)
-{
-    record.isUnattended = true;
-    for (int position = 1; position <= 3; ++position) {
-        host::HeardDigit digit;
-        digit.position = position;
-        digit.heard = digit.typed = position + 3;
-        digit.score = 0.98;
-        digit.latencyMs = 21;
-        digit.levelDbfs = -21.4;
-        digit.measured.emplace();
-        digit.measured->snrDb = 61.2;
-        for (int step = 0; step < 190; ++step) {
-            const double height = 0.3 * std::sin(step * 0.1 * position) * std::sin(step / 60.5);
-            digit.measured->lowest.append(-std::abs(height));
-            digit.measured->highest.append(std::abs(height) * 0.9);
-        }
-        for (int band = 0; band < 24; ++band)
-            digit.measured->bandLevelsDbfs.append(-30.0 - 2.5 * std::abs(band - 6.0 * position));
-        record.digits.append(digit);
+    for (QMenu *menu : window.findChildren<QMenu *>()) {
+        if (menu->isEmpty())
+            continue;
+        auto *bar = qobject_cast<QMenuBar *>(menu->parentWidget());
+        const QPoint below =
+            bar != nullptr ? bar->mapToGlobal(bar->actionGeometry(menu->menuAction()).bottomLeft()) : window.pos();
+        menu->popup(below);
+        QVERIFY(QTest::qWaitForWindowExposed(menu));
+        const QStringList cut = text_room::cutEntries(*menu);
+        menu->close();
+        QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QStringLiteral("; "))));
     }
 }
 
@@ -135,64 +115,15 @@ void TestHostLayout::fits()
 {
     QFETCH(const QString, code);
     QFETCH(const bool, isLonger);
-    const QTemporaryDir folder;
     host::installTranslators(code);
     PseudoTranslator pseudo;
     QVERIFY(!isLonger || (pseudo.load() && QCoreApplication::installTranslator(&pseudo)));
-    host::LanguageSetting language;
-    QVERIFY(language.useOwnFolder(folder.path()) && language.change(code));
-    FakeModule module;
-    module.names = {"Speakers", "A device with quite a long name, such as the second monitor's headphone socket", "HDMI"};
-    module.playback = [](ostra::TestContext &context) {
-        context.reporter()->report(100, "AUDIO_PLAYBACK_TEST_WRONG_SEQUENCE");
-        context.messages()->addMessage("AUDIO_PLAYBACK_TEST_WRONG_SEQUENCE", 2, 0);
-        context.messages()->addMessage("POSSIBLE_DEFECTIVE_COMPONENTS: MICROPHONE, CAMERA_MICROPHONE_MODULE, SPEAKERS", 0, 0);
-        return ostra::result::failed;
-    };
-    host::DialogPrompter prompter;
-    host::TestSession session(module.interface(), prompter, folder.path());
-    host::MainWindow window(session, language, QStringLiteral("4.42.0.92"), true);
-    session.refresh();
-    expose(window);
-    verifyFits(window);
-    session.run(0, 1, code, addDigits);
-    QCoreApplication::processEvents();
-    verifyFits(window);
-    photograph(window, code);
-    auto *tabs = window.findChild<QTabWidget *>(QStringLiteral("host_tabs"));
-    tabs->setCurrentIndex(2);
-    QCoreApplication::processEvents();
-    verifyFits(window);
-    photograph(window, code + QStringLiteral("_measurements"));
-    host::ChannelDialog channels({QStringLiteral("Speakers"), QStringLiteral("Monitor of Speakers"), {}, code}, &window);
-    expose(channels);
-    verifyFits(channels);
-    photograph(channels, code);
-    channels.hide();
-    host::SourceDialog source(QStringLiteral("Monitor of Speakers"), &window);
-    expose(source);
-    verifyFits(source);
-    photograph(source, code);
-    source.hide();
-    host::InstructionsPrompt instructions(
-        QStringLiteral("AUDIO_PLAYBACK_TEST"), QStringLiteral("AUDIO_PLAYBACK_TEST_INSTRUCTIONS"),
-        {QStringLiteral("Speakers"), QStringLiteral("Headphones"), QStringLiteral("Microphone")}, &window);
-    expose(instructions);
-    verifyFits(instructions);
-    photograph(instructions, code);
-    instructions.hide();
-    host::QuestionPrompt question(QStringLiteral("MICROPHONE_INTERACTIVE_TEST"),
-                                  QStringLiteral("DID_YOU_HEAR_THE_SAME_SOUND_YOU_RECORDED"), &window);
-    expose(question);
-    verifyFits(question);
-    photograph(question, code);
-    question.hide();
-    host::PrecheckPrompt precheck({host::hostText("PRECHECK_DEVICE_MUTED").arg(QStringLiteral("Speakers")),
-                                   host::hostText("PRECHECK_MICROPHONE_BLOCKED")},
-                                  false, &window);
-    expose(precheck);
-    verifyFits(precheck);
-    photograph(precheck, code);
+    host_windows::visitAll(code, [&code](QWidget &window, const QString &state) {
+        verifyFits(window);
+        if (state.isEmpty() || state == QLatin1String("before"))
+            verifyMenusFit(window);
+        photograph(window, state.isEmpty() ? code : code + u'_' + state);
+    });
 }
 
 int main(int argc, char *argv[])

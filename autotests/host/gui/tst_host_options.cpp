@@ -1,15 +1,26 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/gui/options.h"
 
+#include "host/gui/interrupt_watcher.h"
+
 #include <QDir>
+#include <QFile>
 #include <QObject>
 #include <QTest>
+
+#include <algorithm>
 
 namespace {
 
 std::variant<host::Options, host::OptionsError> read(const QString &line)
 {
     return host::readOptions(QStringList{QStringLiteral("TamrexDiagnostics")} + line.split(u' ', Qt::SkipEmptyParts));
+}
+
+QString shipped(const char *suffix)
+{
+    QFile file(QStringLiteral(SOURCE_FOLDER "/packaging/linux/TamrexDiagnostics.") + QLatin1String(suffix));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 } // namespace
@@ -28,6 +39,10 @@ private slots:
     void refusesWhatItCannotDo_data();
     void refusesWhatItCannotDo();
     void explainsEveryOption();
+    void shipsTheManualOfItsOptions();
+    void tellsInTheManualWhatEachOptionIs();
+    void tellsInTheManualEveryExitCode();
+    void shipsTheCompletionOfItsOptions();
 };
 
 void TestHostOptions::startsThePlainWindowWithoutArguments()
@@ -173,6 +188,34 @@ void TestHostOptions::explainsEveryOption()
     for (const QString &line : lines)
         QVERIFY2(line.size() <= 110, qPrintable(line));
 }
+
+// "TamrexDiagnostics --print-manual" and "--print-completion" make them anew.
+void TestHostOptions::shipsTheManualOfItsOptions() { QCOMPARE(shipped("1"), host::manualOfHost()); }
+
+void TestHostOptions::tellsInTheManualWhatEachOptionIs()
+{
+    const QString manual =
+        shipped("1").remove(QStringLiteral("\\fB")).remove(QStringLiteral("\\fI")).remove(QStringLiteral("\\fR"));
+    const QStringList entries = QString(manual).remove(u'\\').split(QStringLiteral(".TP\n"));
+    for (const host::OptionOfHost &option : host::optionsOfHost()) {
+        const QString value = option.value == nullptr ? QString() : u' ' + QLatin1String(option.value);
+        const QString entry =
+            QStringLiteral("--%1%2\n%3\n").arg(QLatin1String(option.name), value, QLatin1String(option.explanation));
+        const auto found =
+            std::count_if(entries.begin(), entries.end(), [&entry](const QString &any) { return any.startsWith(entry); });
+        QVERIFY2(found == 1, option.name);
+    }
+}
+
+void TestHostOptions::tellsInTheManualEveryExitCode()
+{
+    const QString codes = shipped("1").section(QStringLiteral(".SH EXIT STATUS"), 1).section(QStringLiteral(".SH"), 0, 0);
+    for (const int code :
+         {0, 1, 2, 3, 4, 6, host::InterruptWatcher::interruptedExitCode, host::InterruptWatcher::terminatedExitCode})
+        QVERIFY2(codes.contains(QStringLiteral("\\fB%1\\fR\n").arg(code)), qPrintable(QString::number(code)));
+}
+
+void TestHostOptions::shipsTheCompletionOfItsOptions() { QCOMPARE(shipped("bash"), host::completionOfHost()); }
 
 QTEST_GUILESS_MAIN(TestHostOptions)
 #include "tst_host_options.moc"
