@@ -335,7 +335,9 @@ void TestListeningDialogs::freesItsButtonsWhenTheSourceCannotBeListenedTo()
     QTRY_VERIFY_WITH_TIMEOUT(measure->isEnabled(), limitMs);
     QVERIFY(dialog.find<QPushButton>(QStringLiteral("first_play"))->isEnabled());
     QCOMPARE(dialog.check()->mapping, ChannelMapping::notMeasurable);
-    QCOMPARE(dialog.result(), host::hostText("CHANNELS_NOT_KNOWN").arg(host::shownReason(QStringLiteral("the source could not be listened to"))));
+    QCOMPARE(
+        dialog.result(),
+        host::hostText("CHANNELS_NOT_KNOWN").arg(host::shownReason(QStringLiteral("the source could not be listened to"))));
 }
 
 void TestListeningDialogs::isWorkedByTheKeyboard()
