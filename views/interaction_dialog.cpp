@@ -184,6 +184,7 @@ void InteractionDialog::done(int result)
 
 void InteractionDialog::changeEvent(QEvent *event)
 {
+    // Only Qt itself could throw here, for lack of memory, while it answers a change of font or style.
     guard([=, this] {
         if (isCancelledByEvent())
             done(dialog_result::cancelled);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QAccessible>
 #include <QDialog>
 #include <QEvent>
 #include <QObject>
@@ -64,33 +63,6 @@ public:
 private:
     bool listens_ = false;
     int toldCount_ = 0;
-};
-
-/// Assistive technology that throws when it is first told of an object. One at a time.
-class AccessibilityHandler {
-public:
-    explicit AccessibilityHandler(QObject &object)
-    {
-        object_ = &object;
-        hasThrown_ = false;
-        previous_ = QAccessible::installUpdateHandler(&told);
-    }
-    ~AccessibilityHandler() { QAccessible::installUpdateHandler(previous_); }
-    AccessibilityHandler(const AccessibilityHandler &) = delete;
-    AccessibilityHandler &operator=(const AccessibilityHandler &) = delete;
-
-    bool hasThrown() const noexcept { return hasThrown_; }
-
-private:
-    static void told(QAccessibleEvent *event)
-    {
-        if (event->object() == object_ && !std::exchange(hasThrown_, true))
-            throw std::bad_alloc();
-    }
-
-    static inline QObject *object_ = nullptr;
-    static inline bool hasThrown_ = false;
-    QAccessible::UpdateHandler previous_ = nullptr;
 };
 
 /// A style that throws while it draws `widget`, for as long as it is told to.
