@@ -34,16 +34,21 @@ void LevelBar::setLevels(double rmsDbfs, double peakDbfs)
 
 QSize LevelBar::sizeHint() const { return {widthInLetters * fontMetrics().averageCharWidth(), fontMetrics().lineSpacing()}; }
 
-// In the palette's own colours where the level is fine, so that a contrast theme keeps its contrast; the words say the same.
+// In the palette's own colours, so that a contrast theme keeps its contrast. What is too loud is striped, which is no matter of
+// colour; the words say the same.
 void LevelBar::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.fillRect(rect(), palette().base());
-    const bool isTooLoud = loudnessOf(rmsDbfs_, peakDbfs_) == Loudness::tooLoud;
-    const QColor colour = isTooLoud ? QColor(Qt::red) : palette().color(QPalette::Highlight);
-    painter.fillRect(QRectF(0, 0, shareOf(rmsDbfs_) * width(), height()), colour);
+    const int filled = static_cast<int>(shareOf(rmsDbfs_) * width());
+    painter.fillRect(QRect(0, 0, filled, height()), palette().highlight());
+    const int stripe = std::max(2, height() / 4);
+    if (loudnessOf(rmsDbfs_, peakDbfs_) == Loudness::tooLoud) {
+        for (int left = stripe; left < filled; left += 2 * stripe)
+            painter.fillRect(QRect(left, 0, std::min(stripe, filled - left), height()), palette().text());
+    }
     const double peak = shareOf(peakDbfs_) * (width() - peakLineWidth);
-    painter.fillRect(QRectF(peak, 0, peakLineWidth, height()), isTooLoud ? colour : palette().color(QPalette::Text));
+    painter.fillRect(QRectF(peak, 0, peakLineWidth, height()), palette().text());
     painter.setPen(palette().color(QPalette::Text));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

@@ -5,6 +5,7 @@
 #include "host/core/module_library.h"
 #include "host/gui/console_output.h"
 #include "host/gui/device_watcher.h"
+#include "host/gui/focus_ring.h"
 #include "host/gui/dialog_prompter.h"
 #include "host/gui/interrupt_watcher.h"
 #include "host/gui/key_text.h"
@@ -163,6 +164,7 @@ private:
     LevelWindow levels_;
     std::unique_ptr<ListenerLink> ear_;
     RunKeys keys_;
+    FocusRing ring_;
     DeviceWatcher watcher_;
 };
 

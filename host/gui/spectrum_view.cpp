@@ -71,7 +71,7 @@ void SpectrumView::paintEvent(QPaintEvent * /*event*/)
     paintBackground(painter);
     const QRectF area(rect());
     const auto heightOf = [&area](double level) { return area.height() * std::clamp(1 - level / bottomDbfs, 0.0, 1.0); };
-    painter.setPen(palette().color(QPalette::Mid));
+    painter.setPen(QPen(palette().color(QPalette::Text), 0, Qt::DotLine)); // a role that every contrast theme has
     for (double level = bottomDbfs + gridDb; level < 0; level += gridDb)
         painter.drawLine(QPointF(area.left(), area.bottom() - heightOf(level)),
                          QPointF(area.right(), area.bottom() - heightOf(level)));
