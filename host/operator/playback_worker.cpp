@@ -139,6 +139,7 @@ void PlaybackWorker::wait()
     } else if (step_ == Step::playing && isIdle) {
         playEndMs_ = steadyNowMs();
         plays_.append({listenFromMs_, playEndMs_});
+        volumes_.lookAtSources();
         enter(Step::deciding);
     } else if (inStepMs() > (step_ == Step::waiting ? waitLimitMs : playLimitMs)) {
         exit_.close(QStringLiteral("the dialog did not play its sequence"));
@@ -214,6 +215,8 @@ QString PlaybackWorker::whyNotSilent() const
     });
     if (isDead)
         return QStringLiteral("the capture source delivers nothing");
+    if (volumes_.wasSourceTurnedDown())
+        return QStringLiteral("the capture source was muted or turned down");
     return volumes_.wereRaised() ? QString() : QStringLiteral("the volume could not be raised");
 }
 
