@@ -7,7 +7,7 @@
 #include <QDBusVirtualObject>
 #include <QMap>
 #include <QStringList>
-#include <QThread>
+#include <QTimer>
 #include <QVariantMap>
 
 #include <array>
@@ -15,7 +15,8 @@
 #include <cstdio>
 
 /// Plays the settings of the desktop portal for one test: the arguments are contrast, color-scheme, the three parts of
-/// accent-color and the time to think in milliseconds; "-" leaves a setting out. Prints "ready" and runs until it is ended.
+/// accent-color and the time to think in milliseconds; "-" leaves a setting out. Tells by "QuestionCount" how
+/// often it was asked, also while it thinks. Prints "ready" and runs until it is ended.
 namespace {
 
 struct Accent {
@@ -50,11 +51,15 @@ public:
 
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
     {
+        if (message.member() == QStringLiteral("QuestionCount"))
+            return connection.send(message.createReply(questionCount_));
         if (message.member() != QStringLiteral("ReadAll"))
             return false;
-        QThread::msleep(arguments_.at(6).toULong());
+        ++questionCount_;
         const Settings settings{{message.arguments().constFirst().toStringList().constFirst(), appearance()}};
-        return connection.send(message.createReply(QVariant::fromValue(settings)));
+        const QDBusMessage answer = message.createReply(QVariant::fromValue(settings));
+        QTimer::singleShot(arguments_.at(6).toInt(), this, [connection, answer] { connection.send(answer); });
+        return true;
     }
 
 private:
@@ -73,6 +78,7 @@ private:
     }
 
     QStringList arguments_;
+    int questionCount_ = 0;
 };
 
 } // namespace

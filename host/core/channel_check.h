@@ -33,7 +33,7 @@ struct ChannelCheck {
     std::optional<HeardSide> right;    ///< the same of the right channel
     std::optional<SideLevels> ofLeft;  ///< measured while the left channel played
     std::optional<SideLevels> ofRight; ///< measured while the right channel played
-    QString reason;                    ///< why it was not measurable, in words for a report; empty otherwise
+    QString reason;                    ///< why it was not measurable, in English words that `reasonOf` knows; empty otherwise
 };
 
 /// What was captured while one channel spoke its digit.

@@ -19,8 +19,9 @@ struct KnownReason {
     const char *words;
 };
 
-// In the words that the operator and the programs of a run say them with. The first that fits is meant.
-constexpr std::array<KnownReason, 40> knownReasons{{
+// In the words that the operator, the check of the channels and the programs of both say them with. The first that fits is
+// meant.
+constexpr std::array<KnownReason, 49> knownReasons{{
     {"REASON_STOPPED", "the run was stopped"},
     {"REASON_TOOK_TOO_LONG", "the run took longer than five minutes"},
     {"REASON_VIRTUAL_DEVICE", "'%1' is a virtual device: a verdict on it says nothing about this machine"},
@@ -59,6 +60,15 @@ constexpr std::array<KnownReason, 40> knownReasons{{
     {"VERDICT_INVALID_CALL", "the test was not called properly"},
     {"REASON_ENDED_EARLY", "the test ended before it had a verdict"},
     {"REASON_NONE_GIVEN", "the test did not tell why"},
+    {"REASON_CHANNEL_COUNT_UNKNOWN", "it is not known how many channels the source has"},
+    {"REASON_ONE_CHANNEL", "the source has one channel only"},
+    {"REASON_NOTHING_HEARD", "nothing was heard"},
+    {"REASON_CHANNEL_SOFT", "one channel was too soft to be recognised, and too loud to be called silent"},
+    {"REASON_SIDES_ALIKE", "the microphone hears both sides alike"},
+    {"REASON_SOURCE_NOT_OPENED", "the source could not be listened to"},
+    {"REASON_SOURCE_DEAD", "the source delivered no sound"},
+    {"REASON_DEVICE_NOT_OPENED", "the device could not be opened"},
+    {"REASON_DEVICE_DID_NOT_PLAY", "the device did not play"},
     {"REASON_SERVER_SILENT", "audio_listener: no sound server: %1"},
     {"REASON_TOLD", "%1"},
 }};

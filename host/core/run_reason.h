@@ -9,7 +9,7 @@
 
 namespace host {
 
-/// Why a run has no pass, for people and for programs.
+/// Why a run has no pass, or why a check of the channels measured nothing, for people and for programs.
 struct RunReason {
     QString key;           ///< of the host (context "HOST") or of the module, or a composite of the module's keys
     QStringList arguments; ///< for "%1" and so on in its translation
@@ -24,8 +24,8 @@ QString reasonWords(const char *key, const QStringList &arguments = {});
 /// The way back: what `words` say. Words of another program get a key that stands for any.
 RunReason reasonOf(const QString &words);
 
-/// All reasons of a run that is no pass: the host's own, else the module's messages, after what its verdict alone tells where they
-/// do not explain it. None of a pass.
+/// All reasons of a run that is no pass: the host's own, else the module's messages, after what its verdict alone tells where
+/// they do not explain it. None of a pass.
 QList<RunReason> reasonsOf(const RunRecord &record);
 
 } // namespace host

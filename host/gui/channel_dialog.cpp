@@ -53,7 +53,8 @@ QString channelWords(const ChannelCheck &check)
     case ChannelMapping::notMeasurable:
         break;
     }
-    return check.source.isEmpty() ? hostText("CHANNELS_UNHEARD") : hostText("CHANNELS_NOT_KNOWN").arg(check.reason);
+    return check.source.isEmpty() ? hostText("CHANNELS_UNHEARD")
+                                  : hostText("CHANNELS_NOT_KNOWN").arg(shownReason(check.reason));
 }
 
 ChannelDialog::ChannelDialog(ChannelListening what, QWidget *parent)

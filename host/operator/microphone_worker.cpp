@@ -92,6 +92,8 @@ void MicrophoneWorker::advance(bool isListenerLost)
 
 void MicrophoneWorker::work()
 {
+    if (step_ == Step::recording || step_ == Step::playing)
+        lookAtVolumes();
     switch (step_) {
     case Step::choosing:
         return choose();
@@ -114,6 +116,14 @@ void MicrophoneWorker::work()
     case Step::leaving:
         return leave();
     }
+}
+
+// Not before: the microphone is known once it has been chosen.
+void MicrophoneWorker::lookAtVolumes()
+{
+    if (!volumes_)
+        volumes_.emplace(QStringList{speech_.playedOn, speech_.device, speech_.microphone, speech_.source});
+    volumes_->look();
 }
 
 void MicrophoneWorker::enter(Step step)
@@ -244,7 +254,9 @@ QString MicrophoneWorker::whyNotMissing(const HeardRecording &heard) const
         return QStringLiteral("listener lost");
     // A microphone that works always hears something; a monitor of silence is exactly silent.
     const bool isDead = !isMonitor(speech_.source) && log_.loudestBetween(playBeganMs_, playEndedMs_) <= digitalSilenceDbfs;
-    return isDead ? QStringLiteral("the capture source delivers nothing") : QString();
+    if (isDead)
+        return QStringLiteral("the capture source delivers nothing");
+    return !volumes_ || volumes_->wereRaised() ? QString() : QStringLiteral("the volume could not be raised");
 }
 
 // A busy machine may have torn the playback apart, as it would not a person's attention.

@@ -5,6 +5,7 @@
 #include "host/operator/dialog_exit.h"
 #include "host/operator/heard_log.h"
 #include "host/operator/speaker_link.h"
+#include "host/operator/volume_watch.h"
 
 #include <QObject>
 #include <QPointer>
@@ -24,6 +25,7 @@ struct Speech {
     QString device;     ///< output that the microphone hears
     QString clip;       ///< file
     QString source;     ///< capture source that listens to the playback
+    QString playedOn;   ///< output on which the dialog plays the recording: the tested device
 };
 
 /// Asks for one repetition where something else was played back. Works one microphone dialog: chooses the microphone, has a
@@ -60,6 +62,7 @@ private:
     void watchPage(const char *name);
 
     void work();
+    void lookAtVolumes();
     void choose();
     bool chooseMicrophone();
     void prepare();
@@ -81,6 +84,7 @@ private:
     WindowPhotographer &photographer_;
     Speech speech_;
     std::unique_ptr<SpeakerLink> speaker_;
+    std::optional<VolumeWatch> volumes_; ///< from the press on the record button on: of each endpoint that the sentence passes
 
     Step step_ = Step::choosing;
     qint64 stepStartMs_ = 0;

@@ -215,9 +215,7 @@ QString PlaybackWorker::whyNotSilent() const
     });
     if (isDead)
         return QStringLiteral("the capture source delivers nothing");
-    if (volumes_.wasSourceTurnedDown())
-        return QStringLiteral("the capture source was muted or turned down");
-    return volumes_.wereRaised() ? QString() : QStringLiteral("the volume could not be raised");
+    return volumes_.complaint();
 }
 
 void PlaybackWorker::type()

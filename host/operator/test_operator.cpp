@@ -145,7 +145,7 @@ void TestOperator::Private::workMicrophone(QWidget *dialog)
     if (microphone == nullptr || !microphone->works(dialog))
         microphone = std::make_unique<MicrophoneWorker>(
             dialog, listener.log(), photographer,
-            Speech{settings.microphone, settings.speakThrough, settings.sentence, settings.source});
+            Speech{settings.microphone, settings.speakThrough, settings.sentence, settings.source, settings.device});
     microphone->advance(listener.isLost());
 }
 

@@ -58,6 +58,13 @@ void VolumeWatch::lookAtEndpoints()
     wereRaised_ = ostra::audio::readEndpointNames(names) == 0 && areRaised(volumes, names, wanted_);
 }
 
+QString VolumeWatch::complaint() const
+{
+    if (!wereRaised_)
+        return QStringLiteral("the volume could not be raised");
+    return wasSourceTurnedDown_ ? QStringLiteral("the capture source was muted or turned down") : QString();
+}
+
 void VolumeWatch::lookAtSources()
 {
     const std::optional<QList<ListeningSource>> sources = readListeningSources();

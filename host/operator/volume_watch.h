@@ -31,6 +31,8 @@ public:
     /// Whether a look has seen a muted or lowered capture source among the wanted, a monitor of an output included: nobody
     /// raises those.
     bool wasSourceTurnedDown() const { return wasSourceTurnedDown_; }
+    /// What is wrong with them; empty when nothing is.
+    QString complaint() const;
 
 private:
     void lookAtEndpoints();

@@ -33,13 +33,26 @@ QString latencyText(const QJsonObject &latency)
                                    .arg(number("medianMs"), number("lowestMs"), number("highestMs"), number("digitCount"));
 }
 
+// What the program says for itself is worded for logs: the sentence for people follows also in English.
+QString reasonText(const QString &english, const QString &translated, const QStringList &keys)
+{
+    QStringList parts{english, translated};
+    parts.removeAll(QString());
+    parts.removeDuplicates();
+    const QString reason = parts.join(QStringLiteral(" \u2013 "));
+    return keys.isEmpty() ? reason : reason + QStringLiteral(" (%1)").arg(keys.join(QStringLiteral("; ")));
+}
+
 QString channelText(const QJsonObject &check)
 {
-    const QString mapping = plainText(check.value(QLatin1String("mapping")).toString());
-    const QString reason = plainText(check.value(QLatin1String("reason")).toString());
+    const auto words = [&check](const char *key) { return plainText(check.value(QLatin1String(key)).toString()); };
+    const QString mapping = words("mapping");
+    QStringList keys{words("reasonKey")};
+    keys.removeAll(QString());
+    const QString reason = reasonText(words("reason"), words("reasonTranslated"), keys);
     if (mapping.isEmpty() || !reason.isEmpty())
         return reason.isEmpty() ? mapping : QStringLiteral("%1: %2").arg(mapping, reason);
-    const QString source = plainText(check.value(QLatin1String("source")).toString());
+    const QString source = words("source");
     return source.isEmpty() ? QStringLiteral("%1, as a person heard them").arg(mapping)
                             : QStringLiteral("%1, measured at '%2'").arg(mapping, source);
 }
@@ -132,17 +145,7 @@ QString ReportView::deviceName() const
     return plainText(report_.value(QLatin1String("device"))[QLatin1String("name")].toString());
 }
 
-// What the program says for itself is worded for logs: the sentence for people follows also in English.
-QString ReportView::reason() const
-{
-    QStringList parts{text("reason"), text("reasonTranslated")};
-    parts.removeAll(QString());
-    parts.removeDuplicates();
-    QString reason = parts.join(QStringLiteral(" \u2013 "));
-    if (const QStringList keys = lines("reasonKeys"); !keys.isEmpty())
-        reason += QStringLiteral(" (%1)").arg(keys.join(QStringLiteral("; ")));
-    return reason;
-}
+QString ReportView::reason() const { return reasonText(text("reason"), text("reasonTranslated"), lines("reasonKeys")); }
 
 QString ReportView::languageTag() const
 {

@@ -43,6 +43,11 @@ QJsonObject deviceOf(const Device &device)
 
 QString translated(const QString &key, const TextLookup &lookUp) { return lookUp && !key.isEmpty() ? lookUp(key) : key; }
 
+QString translatedReason(const RunReason &reason, const TextLookup &lookUp)
+{
+    return withArguments(translated(reason.key, lookUp), reason.arguments);
+}
+
 QJsonArray progressOf(const RunRecord &record, const TextLookup &lookUp)
 {
     QJsonArray steps;
@@ -166,17 +171,20 @@ QJsonValue levelsOrNull(const std::optional<SideLevels> &levels)
     return levels ? QJsonValue(QJsonArray{rounded(levels->leftDbfs, 10), rounded(levels->rightDbfs, 10)}) : QJsonValue();
 }
 
-QJsonValue channelsOf(const std::optional<ChannelCheck> &check)
+QJsonValue channelsOf(const std::optional<ChannelCheck> &check, const TextLookup &lookUp)
 {
     if (!check)
         return {};
+    const RunReason reason = check->reason.isEmpty() ? RunReason() : reasonOf(check->reason);
     return QJsonObject{{QStringLiteral("mapping"), mappingName(check->mapping)},
                        {QStringLiteral("source"), check->source},
                        {QStringLiteral("leftHeard"), sideOrNull(check->left)},
                        {QStringLiteral("rightHeard"), sideOrNull(check->right)},
                        {QStringLiteral("leftDbfs"), levelsOrNull(check->ofLeft)},
                        {QStringLiteral("rightDbfs"), levelsOrNull(check->ofRight)},
-                       {QStringLiteral("reason"), check->reason}};
+                       {QStringLiteral("reason"), check->reason},
+                       {QStringLiteral("reasonKey"), reason.key},
+                       {QStringLiteral("reasonTranslated"), translatedReason(reason, lookUp)}};
 }
 
 QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
@@ -203,7 +211,7 @@ QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
             {QStringLiteral("digits"), digitsOf(record)},
             {QStringLiteral("latency"), latencyOf(record.digits)},
             {QStringLiteral("recording"), recordingOf(record.recording)},
-            {QStringLiteral("channelMapping"), channelsOf(record.channels)},
+            {QStringLiteral("channelMapping"), channelsOf(record.channels, lookUp)},
             {QStringLiteral("volumesPutBackByGuardian"), QJsonArray::fromStringList(record.restoredVolumes)},
             {QStringLiteral("volumeComplaint"), record.volumeComplaint},
             {QStringLiteral("keptAudio"), record.keptAudio},
@@ -225,7 +233,7 @@ void addReason(QJsonObject &body, const RunRecord &record, const TextLookup &loo
     for (const RunReason &reason : reasons) {
         keys.append(reason.key);
         words.append(wordsOf(reason));
-        translations.append(withArguments(translated(reason.key, lookUp), reason.arguments));
+        translations.append(translatedReason(reason, lookUp));
     }
     body.insert(QStringLiteral("reasonKeys"), QJsonArray::fromStringList(keys));
     body.insert(QStringLiteral("reason"), words.join(QStringLiteral("; ")));

@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>
-        <translation>Der aufzunehmende Satz konnte nicht gesprochen werden: %1</translation>
+        <translation>Die Sprachansage konnte nicht abgespielt werden: %1</translation>
     </message>
     <message>
         <source>REASON_DIALOG</source>
@@ -150,6 +150,38 @@
     <message>
         <source>REASON_NONE_GIVEN</source>
         <translation>Der Test nannte keinen Grund.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_COUNT_UNKNOWN</source>
+        <translation>Es ist nicht bekannt, wie viele Kanäle die Aufnahmequelle hat.</translation>
+    </message>
+    <message>
+        <source>REASON_ONE_CHANNEL</source>
+        <translation>Die Aufnahmequelle hat nur einen Kanal.</translation>
+    </message>
+    <message>
+        <source>REASON_NOTHING_HEARD</source>
+        <translation>Es wurde nichts gehört.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_SOFT</source>
+        <translation>Ein Kanal war zu leise, um erkannt zu werden, und zu laut, um als stumm zu gelten.</translation>
+    </message>
+    <message>
+        <source>REASON_SIDES_ALIKE</source>
+        <translation>Das Mikrofon hört beide Seiten gleich.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_NOT_OPENED</source>
+        <translation>Die Aufnahmequelle konnte nicht abgehört werden.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_NOT_OPENED</source>
+        <translation>Das Gerät konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_DID_NOT_PLAY</source>
+        <translation>Das Gerät hat nichts abgespielt.</translation>
     </message>
     <message>
         <source>REASON_SERVER_SILENT</source>

@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>
-        <translation>The sentence to be recorded could not be spoken: %1</translation>
+        <translation>The speech could not be played: %1</translation>
     </message>
     <message>
         <source>REASON_DIALOG</source>
@@ -150,6 +150,38 @@
     <message>
         <source>REASON_NONE_GIVEN</source>
         <translation>The test did not tell why.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_COUNT_UNKNOWN</source>
+        <translation>It is not known how many channels the capture source has.</translation>
+    </message>
+    <message>
+        <source>REASON_ONE_CHANNEL</source>
+        <translation>The capture source has one channel only.</translation>
+    </message>
+    <message>
+        <source>REASON_NOTHING_HEARD</source>
+        <translation>Nothing was heard.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_SOFT</source>
+        <translation>One channel was too soft to be recognised, and too loud to be called silent.</translation>
+    </message>
+    <message>
+        <source>REASON_SIDES_ALIKE</source>
+        <translation>The microphone hears both sides alike.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_NOT_OPENED</source>
+        <translation>The capture source could not be listened to.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_NOT_OPENED</source>
+        <translation>The device could not be opened.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_DID_NOT_PLAY</source>
+        <translation>The device did not play anything.</translation>
     </message>
     <message>
         <source>REASON_SERVER_SILENT</source>

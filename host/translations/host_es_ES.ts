@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>
-        <translation>No se ha podido pronunciar la frase que se iba a grabar: %1</translation>
+        <translation>No se ha podido reproducir la voz: %1</translation>
     </message>
     <message>
         <source>REASON_DIALOG</source>
@@ -150,6 +150,38 @@
     <message>
         <source>REASON_NONE_GIVEN</source>
         <translation>La prueba no ha indicado el motivo.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_COUNT_UNKNOWN</source>
+        <translation>No se sabe cuántos canales tiene la fuente de captura.</translation>
+    </message>
+    <message>
+        <source>REASON_ONE_CHANNEL</source>
+        <translation>La fuente de captura tiene un solo canal.</translation>
+    </message>
+    <message>
+        <source>REASON_NOTHING_HEARD</source>
+        <translation>No se ha oído nada.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_SOFT</source>
+        <translation>Un canal sonaba demasiado bajo para reconocerlo y demasiado alto para darlo por mudo.</translation>
+    </message>
+    <message>
+        <source>REASON_SIDES_ALIKE</source>
+        <translation>El micrófono oye los dos lados por igual.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_NOT_OPENED</source>
+        <translation>No se ha podido escuchar la fuente de captura.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_NOT_OPENED</source>
+        <translation>No se ha podido abrir el dispositivo.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_DID_NOT_PLAY</source>
+        <translation>El dispositivo no ha reproducido nada.</translation>
     </message>
     <message>
         <source>REASON_SERVER_SILENT</source>

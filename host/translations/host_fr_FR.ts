@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>
-        <translation>La phrase à enregistrer n’a pas pu être prononcée : %1</translation>
+        <translation>La voix n’a pas pu être lue : %1</translation>
     </message>
     <message>
         <source>REASON_DIALOG</source>
@@ -150,6 +150,38 @@
     <message>
         <source>REASON_NONE_GIVEN</source>
         <translation>Le test n’a pas indiqué de raison.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_COUNT_UNKNOWN</source>
+        <translation>On ne sait pas combien de canaux a la source de capture.</translation>
+    </message>
+    <message>
+        <source>REASON_ONE_CHANNEL</source>
+        <translation>La source de capture n’a qu’un seul canal.</translation>
+    </message>
+    <message>
+        <source>REASON_NOTHING_HEARD</source>
+        <translation>Rien n’a été entendu.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_SOFT</source>
+        <translation>Un canal était trop faible pour être reconnu et trop fort pour être tenu pour muet.</translation>
+    </message>
+    <message>
+        <source>REASON_SIDES_ALIKE</source>
+        <translation>Le microphone entend les deux côtés de la même façon.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_NOT_OPENED</source>
+        <translation>La source de capture n’a pas pu être écoutée.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_NOT_OPENED</source>
+        <translation>Le périphérique n’a pas pu être ouvert.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_DID_NOT_PLAY</source>
+        <translation>Le périphérique n’a rien lu.</translation>
     </message>
     <message>
         <source>REASON_SERVER_SILENT</source>

@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>
-        <translation>Impossibile pronunciare la frase da registrare: %1</translation>
+        <translation>Non è stato possibile riprodurre la voce: %1</translation>
     </message>
     <message>
         <source>REASON_DIALOG</source>
@@ -150,6 +150,38 @@
     <message>
         <source>REASON_NONE_GIVEN</source>
         <translation>Il test non ha indicato il motivo.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_COUNT_UNKNOWN</source>
+        <translation>Non si sa quanti canali abbia la sorgente di acquisizione.</translation>
+    </message>
+    <message>
+        <source>REASON_ONE_CHANNEL</source>
+        <translation>La sorgente di acquisizione ha un solo canale.</translation>
+    </message>
+    <message>
+        <source>REASON_NOTHING_HEARD</source>
+        <translation>Non si è sentito nulla.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_SOFT</source>
+        <translation>Un canale era troppo debole per essere riconosciuto e troppo forte per essere considerato muto.</translation>
+    </message>
+    <message>
+        <source>REASON_SIDES_ALIKE</source>
+        <translation>Il microfono sente i due lati allo stesso modo.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_NOT_OPENED</source>
+        <translation>Non è stato possibile ascoltare la sorgente di acquisizione.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_NOT_OPENED</source>
+        <translation>Non è stato possibile aprire il dispositivo.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_DID_NOT_PLAY</source>
+        <translation>Il dispositivo non ha riprodotto nulla.</translation>
     </message>
     <message>
         <source>REASON_SERVER_SILENT</source>

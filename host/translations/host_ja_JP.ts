@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>
-        <translation>録音する文を読み上げることができませんでした: %1</translation>
+        <translation>音声を再生することができませんでした: %1</translation>
     </message>
     <message>
         <source>REASON_DIALOG</source>
@@ -150,6 +150,38 @@
     <message>
         <source>REASON_NONE_GIVEN</source>
         <translation>テストは理由を示しませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_COUNT_UNKNOWN</source>
+        <translation>録音元のチャンネル数が分かりません。</translation>
+    </message>
+    <message>
+        <source>REASON_ONE_CHANNEL</source>
+        <translation>録音元のチャンネルは一つだけです。</translation>
+    </message>
+    <message>
+        <source>REASON_NOTHING_HEARD</source>
+        <translation>何も聞こえませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_SOFT</source>
+        <translation>一方のチャンネルの音は、認識するには小さすぎ、無音とみなすには大きすぎました。</translation>
+    </message>
+    <message>
+        <source>REASON_SIDES_ALIKE</source>
+        <translation>マイクには左右が同じように聞こえます。</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_NOT_OPENED</source>
+        <translation>録音元の音を聞き取ることができませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_NOT_OPENED</source>
+        <translation>デバイスを開くことができませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_DID_NOT_PLAY</source>
+        <translation>デバイスから何も再生されませんでした。</translation>
     </message>
     <message>
         <source>REASON_SERVER_SILENT</source>

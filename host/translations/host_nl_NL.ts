@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>
-        <translation>De op te nemen zin kon niet worden uitgesproken: %1</translation>
+        <translation>De spraak kon niet worden afgespeeld: %1</translation>
     </message>
     <message>
         <source>REASON_DIALOG</source>
@@ -150,6 +150,38 @@
     <message>
         <source>REASON_NONE_GIVEN</source>
         <translation>De test heeft geen reden opgegeven.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_COUNT_UNKNOWN</source>
+        <translation>Het is niet bekend hoeveel kanalen de opnamebron heeft.</translation>
+    </message>
+    <message>
+        <source>REASON_ONE_CHANNEL</source>
+        <translation>De opnamebron heeft maar één kanaal.</translation>
+    </message>
+    <message>
+        <source>REASON_NOTHING_HEARD</source>
+        <translation>Er is niets gehoord.</translation>
+    </message>
+    <message>
+        <source>REASON_CHANNEL_SOFT</source>
+        <translation>Een kanaal was te zacht om te worden herkend en te luid om stil te heten.</translation>
+    </message>
+    <message>
+        <source>REASON_SIDES_ALIKE</source>
+        <translation>De microfoon hoort beide kanten even luid.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_NOT_OPENED</source>
+        <translation>Er kon niet naar de opnamebron worden geluisterd.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_NOT_OPENED</source>
+        <translation>Het apparaat kon niet worden geopend.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_DID_NOT_PLAY</source>
+        <translation>Het apparaat heeft niets afgespeeld.</translation>
     </message>
     <message>
         <source>REASON_SERVER_SILENT</source>

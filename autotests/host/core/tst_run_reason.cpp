@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/core/run_reason.h"
 
+#include "host/core/channel_check.h"
+
 #include <QFile>
 #include <QObject>
 #include <QRegularExpression>
@@ -31,7 +33,7 @@ RunRecord recordWith(std::uint32_t code)
 // The sentences among the literals: names of widgets and of pictures have no blanks.
 QStringList sentencesIn(const QString &file)
 {
-    QFile source(QStringLiteral(SOURCE_FOLDER "/host/operator/") + file);
+    QFile source(QStringLiteral(SOURCE_FOLDER "/host/") + file);
     if (!source.open(QIODevice::ReadOnly))
         return {};
     static const QRegularExpression literal(QStringLiteral(R"re(QStringLiteral\(\s*"([^"]* [^"]*)"\))re"));
@@ -55,6 +57,7 @@ private slots:
     void takesTheArgumentsOutOfTheWords();
     void putsArgumentsInOnce();
     void knowsWhateverTheOperatorSays();
+    void knowsWhyTheChannelsWereNotMeasured();
     void tellsWhyThereIsNoPass_data();
     void tellsWhyThereIsNoPass();
     void hasNoReasonForAPass();
@@ -105,13 +108,32 @@ void TestRunReason::putsArgumentsInOnce()
 void TestRunReason::knowsWhateverTheOperatorSays()
 {
     int count = 0;
-    for (const char *file : {"microphone_worker.cpp", "playback_worker.cpp", "test_operator.cpp", "speaker_link.cpp"}) {
+    for (const char *file : {"operator/microphone_worker.cpp", "operator/playback_worker.cpp", "operator/test_operator.cpp",
+                             "operator/speaker_link.cpp"}) {
         for (const QString &sentence : sentencesIn(QLatin1String(file))) {
             ++count;
             QVERIFY2(host::reasonOf(sentence).key != QLatin1String("REASON_TOLD"), qPrintable(sentence));
         }
     }
     QVERIFY(count >= 20);
+}
+
+void TestRunReason::knowsWhyTheChannelsWereNotMeasured()
+{
+    QStringList names; // which stand in a report by themselves
+    using enum host::ChannelMapping;
+    for (const auto mapping : {straight, swapped, mixed, leftSilent, rightSilent, notMeasurable})
+        names.append(host::mappingName(mapping));
+    QSet<QString> keys;
+    for (const char *file : {"core/channel_check.cpp", "operator/channel_listener.cpp"}) {
+        for (const QString &sentence : sentencesIn(QLatin1String(file))) {
+            const QString key = host::reasonOf(sentence).key;
+            QVERIFY2(names.contains(sentence) || key != QLatin1String("REASON_TOLD"), qPrintable(sentence));
+            keys.insert(key);
+        }
+    }
+    for (const char *key : {"REASON_NOTHING_HEARD", "REASON_DEVICE_DID_NOT_PLAY"})
+        QVERIFY(keys.contains(QLatin1String(key)));
 }
 
 void TestRunReason::tellsWhyThereIsNoPass_data()

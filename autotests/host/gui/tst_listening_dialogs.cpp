@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "autotests/host/gui/dialog_steps.h"
 #include "autotests/host/gui/shown_program.h"
 #include "autotests/host/operator/listener_script.h"
 #include "host/gui/channel_dialog.h"
@@ -20,7 +21,6 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
 using host::ChannelDialog;
 using host::ChannelMapping;
@@ -55,6 +55,18 @@ struct Channels : ChannelDialog {
     void answer(const QString &which, const QString &side) { find<QRadioButton>(which + u'_' + side)->click(); }
 };
 
+// A button can be pressed once it is enabled: the answers after the digit was played, and the next digit likewise.
+DialogSteps<ChannelDialog>::Step pressing(const char *name)
+{
+    return [name](ChannelDialog &dialog) {
+        auto *button = dialog.findChild<QAbstractButton *>(QStringLiteral("host_channels_") + QLatin1String(name));
+        if (!button->isEnabled())
+            return false;
+        button->click();
+        return true;
+    };
+}
+
 QString spoken()
 {
     QFile file(QCoreApplication::applicationDirPath() + QStringLiteral("/speaker_arguments"));
@@ -85,6 +97,7 @@ private slots:
     void tellsWhyADigitCouldNotBePlayed();
     void measuresOnlyWithASource();
     void saysWhyItCouldNotMeasure();
+    void saysSoInTheLanguageInForce();
     void isWorkedByTheKeyboard();
     void keepsTheSource();
     void doesNotKeepASourceThatIsForOnce();
@@ -192,8 +205,19 @@ void TestListeningDialogs::saysWhyItCouldNotMeasure()
     QCOMPARE(dialog.result(), host::hostText("CHANNELS_MEASURING").arg(QStringLiteral("Mic")));
     QTRY_VERIFY_WITH_TIMEOUT(dialog.check().has_value(), limitMs);
     QCOMPARE(dialog.check()->mapping, ChannelMapping::notMeasurable);
-    QCOMPARE(dialog.result(), host::hostText("CHANNELS_NOT_KNOWN").arg(dialog.check()->reason));
+    QCOMPARE(dialog.result(), host::hostText("CHANNELS_NOT_KNOWN").arg(host::shownReason(dialog.check()->reason)));
     QVERIFY(dialog.find<QPushButton>(QStringLiteral("measure"))->isEnabled());
+}
+
+void TestListeningDialogs::saysSoInTheLanguageInForce()
+{
+    host::ChannelCheck check;
+    check.source = QStringLiteral("Mic");
+    check.reason = QStringLiteral("the source has one channel only");
+    QVERIFY(host::installTranslators(QStringLiteral("de_DE")));
+    const QString words = host::channelWords(check);
+    QVERIFY(host::installTranslators(QStringLiteral("en_US")));
+    QCOMPARE(words, QStringLiteral("Links und rechts konnten nicht gemessen werden: Die Aufnahmequelle hat nur einen Kanal."));
 }
 
 void TestListeningDialogs::isWorkedByTheKeyboard()
@@ -280,14 +304,16 @@ void TestListeningDialogs::offersRunsAloneOnlyWithASource()
     auto *alone = program.find<QAction>("host_run_alone");
     QVERIFY(!alone->isEnabled());
     const QSignalSpy changed(&tools, &host::ListeningTools::sourceChanged);
-    QTimer::singleShot(0, &tools, [] {
-        auto *dialog = qobject_cast<SourceDialog *>(QApplication::activeModalWidget());
-        auto *choice = dialog->findChild<QComboBox *>(QStringLiteral("host_source_choice"));
-        QTRY_COMPARE_WITH_TIMEOUT(choice->count(), 3, limitMs);
+    const DialogSteps<SourceDialog> hand({[](SourceDialog &dialog) {
+        auto *choice = dialog.findChild<QComboBox *>(QStringLiteral("host_source_choice"));
+        if (choice->count() < 3)
+            return false;
         choice->setCurrentIndex(1);
-        dialog->findChild<QPushButton *>(QStringLiteral("host_source_use"))->click();
-    });
+        dialog.findChild<QPushButton *>(QStringLiteral("host_source_use"))->click();
+        return true;
+    }});
     program.find<QAction>("host_choose_source")->trigger();
+    QVERIFY(hand.areTaken());
     QCOMPARE(tools.source(), QStringLiteral("Mic"));
     QVERIFY(alone->isEnabled());
     QCOMPARE(changed.size(), 1);
@@ -303,18 +329,10 @@ void TestListeningDialogs::notesTheCheckForLaterRuns()
     const host::ListeningTools tools(program.window, program.session, program.language, program.folder.path(),
                                      QStringLiteral("Mic"));
     program.window.choose(0, 1);
-    QTimer::singleShot(0, &program.window, [] {
-        auto *dialog = qobject_cast<ChannelDialog *>(QApplication::activeModalWidget());
-        for (const char *which : {"first", "second"}) {
-            const QString name = QStringLiteral("host_channels_") + QLatin1String(which);
-            auto *play = dialog->findChild<QPushButton *>(name + QStringLiteral("_play"));
-            play->click();
-            QTRY_VERIFY_WITH_TIMEOUT(play->isEnabled(), limitMs);
-            dialog->findChild<QRadioButton *>(name + QStringLiteral("_both"))->click();
-        }
-        dialog->findChild<QPushButton *>(QStringLiteral("host_channels_close"))->click();
-    });
+    const DialogSteps<ChannelDialog> hand(
+        {pressing("first_play"), pressing("first_both"), pressing("second_play"), pressing("second_both"), pressing("close")});
     program.find<QAction>("host_check_channels")->trigger();
+    QVERIFY(hand.areTaken());
     const auto checked = program.session.run(0, 1, QStringLiteral("en_US"));
     QVERIFY(checked->channels);
     QCOMPARE(checked->channels->mapping, ChannelMapping::mixed);

@@ -149,11 +149,16 @@ void TestTestSession::refreshesOnceAfterQuiet()
 {
     Session host;
     host.module.names = {"Speakers", "Headphones", "USB"};
-    const QSignalSpy read(&host.session, &host::TestSession::devicesRead);
-    const int before = host.module.refreshCount;
+    QSignalSpy read(&host.session, &host::TestSession::devicesRead);
+    int before = 0;
     QElapsedTimer time;
-    host.session.refreshWhenQuiet();
-    QTest::qWait(static_cast<int>(host::TestSession::quietTime.count() / 2));
+    // A busy machine may come back too late for the second notice.
+    for (int attempt = 0; attempt == 0 || (attempt < 5 && !read.isEmpty()); ++attempt) {
+        read.clear();
+        before = host.module.refreshCount;
+        host.session.refreshWhenQuiet();
+        QTest::qWait(static_cast<int>(host::TestSession::quietTime.count() / 2));
+    }
     time.start();
     host.session.refreshWhenQuiet(); // a second notice begins the quiet time anew
     QTRY_COMPARE_WITH_TIMEOUT(read.size(), 1, patienceMilliseconds);

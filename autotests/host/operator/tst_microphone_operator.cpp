@@ -2,18 +2,16 @@
 #include "host/operator/test_operator.h"
 
 #include "autotests/host/operator/listener_script.h"
+#include "autotests/host/operator/microphone_run.h"
 #include "autotests/host/operator/stand_in_microphone.h"
 #include "host/operator/heard_log.h"
 
-#include <QDialog>
 #include <QFile>
 #include <QFileInfo>
 #include <QObject>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QVBoxLayout>
 
 using host::HeardRecording;
 using host::OperatorSettings;
@@ -25,20 +23,6 @@ using Outcome = StandInMicrophone::Outcome;
 namespace {
 
 constexpr int limitMs = 60'000; // a run takes five seconds
-
-const QStringList microphones{QStringLiteral("Mic"), QStringLiteral("Camera"), QStringLiteral("Line in"),
-                              QStringLiteral("Head & set")};
-
-OperatorSettings settings()
-{
-    OperatorSettings made;
-    made.source = QStringLiteral("Monitor of Speakers");
-    made.language = QStringLiteral("en_US");
-    made.sentence = QStringLiteral("audio files/sentence.wav");
-    made.microphone = QStringLiteral("Head & set");
-    made.speakThrough = QStringLiteral("Speakers");
-    return made;
-}
 
 QByteArray now() { return QByteArray::number(host::steadyNowMs()); }
 
@@ -53,52 +37,6 @@ void moment(ListenerScript &script, double left, double right, double difference
     script.say(R"({"event":"meter","peakDbfs":-4,"rmsDbfs":-20,"channelDbfs":[)" + QByteArray::number(left) + ',' +
                QByteArray::number(right) + R"(],"differenceDbfs":)" + QByteArray::number(difference) +
                R"(,"wave":[-0.5,0.5],"atMs":)" + now() + '}');
-}
-
-/// The host's question: two buttons that end it.
-class Question : public QDialog {
-public:
-    Question()
-    {
-        setObjectName(QStringLiteral("host_question"));
-        auto *column = new QVBoxLayout(this);
-        for (const char *answer : {"yes", "no"}) {
-            auto *button = new QPushButton(QLatin1String(answer));
-            button->setObjectName(QStringLiteral("host_question_") + QLatin1String(answer));
-            button->setAutoDefault(false);
-            connect(button, &QPushButton::clicked, this, [this, answer] {
-                answer_ = QLatin1String(answer);
-                done(1);
-            });
-            column->addWidget(button);
-        }
-    }
-    const QString &answer() const { return answer_; }
-
-private:
-    QString answer_;
-};
-
-/// Runs the dialog, and the question after it as the module does, under the operator.
-RunRecord run(StandInMicrophone &dialog, Question &question, const OperatorSettings &given)
-{
-    TestOperator person(given);
-    RunRecord record;
-    if (!person.start())
-        qFatal("%s", qPrintable(person.errorText()));
-    QSignalSpy finished(&dialog, &QDialog::finished);
-    QSignalSpy answered(&question, &QDialog::finished);
-    person.beginRun();
-    dialog.show();
-    if (finished.isEmpty() && !finished.wait(limitMs))
-        dialog.hide();
-    if (dialog.outcome() == Outcome::heard) {
-        question.open();
-        if (answered.isEmpty() && !answered.wait(limitMs))
-            question.hide();
-    }
-    person.endRun(record);
-    return record;
 }
 
 } // namespace
@@ -132,7 +70,7 @@ void TestMicrophoneOperator::saysYesWhereTheSentenceIsPlayedBack()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::recording)
             clip(script, 0.99, true);
         else if (moment == Moment::playing)
@@ -140,7 +78,7 @@ void TestMicrophoneOperator::saysYesWhereTheSentenceIsPlayedBack()
         else
             script.level(-20);
     });
-    const RunRecord record = run(dialog, question, settings());
+    const RunRecord record = runMicrophone(dialog, question, microphoneSettings());
     QCOMPARE(dialog.outcome(), Outcome::heard);
     QCOMPARE(dialog.recordedBy(), QStringLiteral("Head & set"));
     QCOMPARE(dialog.recordCount(), 1);
@@ -161,13 +99,13 @@ void TestMicrophoneOperator::saysNoWhereNothingIsPlayedBack()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::recording)
             clip(script, 0.99, true);
         else if (moment == Moment::played)
             script.level(-120);
     });
-    const RunRecord record = run(dialog, question, settings());
+    const RunRecord record = runMicrophone(dialog, question, microphoneSettings());
     QCOMPARE(question.answer(), QStringLiteral("no"));
     QVERIFY(record.recording && !record.recording->isFound && record.recording->isSilent);
     QCOMPARE(dialog.playCount(), 1); // silence is silence
@@ -179,13 +117,13 @@ void TestMicrophoneOperator::saysNoWhereSomethingElseIsPlayedBack()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::playing)
             clip(script, 0.12, false);
         else if (moment == Moment::played)
             script.level(-20);
     });
-    const RunRecord record = run(dialog, question, settings());
+    const RunRecord record = runMicrophone(dialog, question, microphoneSettings());
     QCOMPARE(question.answer(), QStringLiteral("no"));
     QVERIFY(record.recording && !record.recording->isFound && !record.recording->isSilent);
     QCOMPARE(record.recording->score, 0.12);
@@ -196,13 +134,13 @@ void TestMicrophoneOperator::closesWhereOnlyPartOfItIsPlayedBack()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::playing)
             clip(script, 0.58, false);
         else if (moment == Moment::played)
             script.level(-20);
     });
-    const RunRecord record = run(dialog, question, settings());
+    const RunRecord record = runMicrophone(dialog, question, microphoneSettings());
     QCOMPARE(dialog.outcome(), Outcome::closed);
     QCOMPARE(question.answer(), QString());
     QCOMPARE(record.reason, QStringLiteral("not recognised"));
@@ -215,13 +153,13 @@ void TestMicrophoneOperator::listensOnceMoreToATornPlayback()
     ListenerScript script;
     Question question;
     int playCount = 0;
-    StandInMicrophone dialog(microphones, [&](Moment step) {
+    StandInMicrophone dialog(microphones(), [&](Moment step) {
         if (step == Moment::playing)
             ++playCount == 1 ? clip(script, 0.31, false) : clip(script, 0.9, true);
         else if (step == Moment::played)
             script.level(-20);
     });
-    const RunRecord record = run(dialog, question, settings());
+    const RunRecord record = runMicrophone(dialog, question, microphoneSettings());
     QCOMPARE(question.answer(), QStringLiteral("yes"));
     QCOMPARE(dialog.playCount(), 2);
     QCOMPARE(dialog.recordCount(), 1);
@@ -233,13 +171,13 @@ void TestMicrophoneOperator::takesTheDialogsOwnChoice()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::played)
             script.level(-120);
     });
-    OperatorSettings given = settings();
+    OperatorSettings given = microphoneSettings();
     given.microphone.clear();
-    const RunRecord record = run(dialog, question, given);
+    const RunRecord record = runMicrophone(dialog, question, given);
     QCOMPARE(dialog.recordedBy(), QStringLiteral("Mic"));
     QVERIFY(record.recording);
     QCOMPARE(record.recording->microphone, QStringLiteral("Mic"));
@@ -249,10 +187,10 @@ void TestMicrophoneOperator::closesWhereThereIsNoSuchMicrophone()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [](Moment) {});
-    OperatorSettings given = settings();
+    StandInMicrophone dialog(microphones(), [](Moment) {});
+    OperatorSettings given = microphoneSettings();
     given.microphone = QStringLiteral("Ear");
-    const RunRecord record = run(dialog, question, given);
+    const RunRecord record = runMicrophone(dialog, question, given);
     QCOMPARE(dialog.outcome(), Outcome::closed);
     QCOMPARE(record.reason,
              QStringLiteral("no microphone is named 'Ear' (there are: 'Mic', 'Camera', 'Line in', 'Head & set')"));
@@ -263,10 +201,10 @@ void TestMicrophoneOperator::closesWhereTheSentenceCannotBeSpoken()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [](Moment) {});
-    OperatorSettings given = settings();
+    StandInMicrophone dialog(microphones(), [](Moment) {});
+    OperatorSettings given = microphoneSettings();
     given.speakThrough = QStringLiteral("Broken");
-    const RunRecord record = run(dialog, question, given);
+    const RunRecord record = runMicrophone(dialog, question, given);
     QCOMPARE(dialog.outcome(), Outcome::closed);
     QCOMPARE(dialog.recordCount(), 0);
     QVERIFY2(record.reason.contains(QStringLiteral("'Broken' cannot be opened")), qPrintable(record.reason));
@@ -276,15 +214,15 @@ void TestMicrophoneOperator::closesWhereTheSentenceIsNotSpokenInTime()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::playing)
             clip(script, 0.99, true); // spoken late, and heard without any microphone
         else if (moment == Moment::played)
             script.level(-20);
     });
-    OperatorSettings given = settings();
+    OperatorSettings given = microphoneSettings();
     given.speakThrough = QStringLiteral("Slow");
-    const RunRecord record = run(dialog, question, given);
+    const RunRecord record = runMicrophone(dialog, question, given);
     QCOMPARE(dialog.outcome(), Outcome::closed);
     QCOMPARE(question.answer(), QString());
     QCOMPARE(record.reason, QStringLiteral("the sentence was not spoken in time"));
@@ -294,11 +232,11 @@ void TestMicrophoneOperator::closesWhereNothingOfThePlaybackArrived()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::played)
             script.level(-120, 0.2);
     });
-    const RunRecord record = run(dialog, question, settings());
+    const RunRecord record = runMicrophone(dialog, question, microphoneSettings());
     QCOMPARE(dialog.outcome(), Outcome::closed);
     QCOMPARE(question.answer(), QString());
     QCOMPARE(record.reason, QStringLiteral("listener lost"));
@@ -308,13 +246,13 @@ void TestMicrophoneOperator::closesWhereAMicrophoneListensToNothing()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::played)
             script.level(-120);
     });
-    OperatorSettings given = settings();
+    OperatorSettings given = microphoneSettings();
     given.source = QStringLiteral("Webcam");
-    const RunRecord record = run(dialog, question, given);
+    const RunRecord record = runMicrophone(dialog, question, given);
     QCOMPARE(dialog.outcome(), Outcome::closed);
     QCOMPARE(question.answer(), QString());
     QCOMPARE(record.reason, QStringLiteral("the capture source delivers nothing"));
@@ -324,11 +262,11 @@ void TestMicrophoneOperator::closesWhenTheListenerDies()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::playing)
             script.end(4);
     });
-    const RunRecord record = run(dialog, question, settings());
+    const RunRecord record = runMicrophone(dialog, question, microphoneSettings());
     QCOMPARE(dialog.outcome(), Outcome::closed);
     QCOMPARE(record.reason, QStringLiteral("listener lost"));
     QVERIFY(!record.recording);
@@ -338,7 +276,7 @@ void TestMicrophoneOperator::leavesAQuestionOpenThatItCannotJudge()
 {
     const ListenerScript script;
     Question question;
-    TestOperator person(settings());
+    TestOperator person(microphoneSettings());
     QVERIFY(person.start());
     person.beginRun();
     question.open();
@@ -366,7 +304,7 @@ void TestMicrophoneOperator::tellsBothChannelsApart()
     QFETCH(const bool, isMono);
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&](Moment step) {
+    StandInMicrophone dialog(microphones(), [&](Moment step) {
         if (step == Moment::recording)
             moment(script, -3, -40, -3); // before the playback
         else if (step == Moment::playing)
@@ -374,7 +312,7 @@ void TestMicrophoneOperator::tellsBothChannelsApart()
         else
             script.level(-20);
     });
-    const RunRecord record = run(dialog, question, settings());
+    const RunRecord record = runMicrophone(dialog, question, microphoneSettings());
     QVERIFY(record.recording);
     QCOMPARE(record.recording->isMonoInStereo, isMono);
     QVERIFY(!record.recording->lowest.isEmpty() && record.recording->lowest.size() == record.recording->highest.size());
@@ -387,11 +325,11 @@ void TestMicrophoneOperator::startsItsProgramsWithItsSettings()
 {
     ListenerScript script;
     Question question;
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::played)
             script.level(-120);
     });
-    run(dialog, question, settings());
+    runMicrophone(dialog, question, microphoneSettings());
     const auto argumentsOf = [](const char *program) {
         QFile file(QCoreApplication::applicationDirPath() + u'/' + QLatin1String(program) + QStringLiteral("_arguments"));
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
@@ -404,7 +342,7 @@ void TestMicrophoneOperator::startsItsProgramsWithItsSettings()
 void TestMicrophoneOperator::passesTheLevelOn()
 {
     ListenerScript script;
-    TestOperator person(settings());
+    TestOperator person(microphoneSettings());
     QSignalSpy metered(&person, &TestOperator::metered);
     QVERIFY(person.start());
     moment(script, -20, -30, -40);
@@ -420,13 +358,13 @@ void TestMicrophoneOperator::photographsEachStep()
     ListenerScript script;
     Question question;
     QTemporaryDir folder;
-    OperatorSettings given = settings();
+    OperatorSettings given = microphoneSettings();
     given.screenshotsFolder = folder.path();
-    StandInMicrophone dialog(microphones, [&script](Moment moment) {
+    StandInMicrophone dialog(microphones(), [&script](Moment moment) {
         if (moment == Moment::played)
             script.level(-120);
     });
-    const RunRecord record = run(dialog, question, given);
+    const RunRecord record = runMicrophone(dialog, question, given);
     QStringList names;
     for (const QString &file : record.screenshots)
         names.append(QFileInfo(file).fileName());

@@ -79,6 +79,7 @@ void TestVolumeWatchSound::seesATurnedDownSource()
     watch.look();
     QCOMPARE(watch.wasSourceTurnedDown(), isTurnedDown);
     QCOMPARE(watch.wereRaised(), !isTurnedDown);
+    QCOMPARE(watch.complaint(), isTurnedDown ? QStringLiteral("the capture source was muted or turned down") : QString());
     host::VolumeWatch later({QStringLiteral("Monitor of Speakers")});
     later.lookAtSources();
     QCOMPARE(later.wasSourceTurnedDown(), isTurnedDown);

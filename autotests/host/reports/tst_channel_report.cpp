@@ -12,11 +12,24 @@
 #include <QObject>
 #include <QTest>
 
+#include <utility>
+
 using host::RunRecord;
 
 namespace {
 
-QJsonObject parsed(const RunRecord &record) { return QJsonDocument::fromJson(host::runReport(record)).object(); }
+QJsonObject parsed(const RunRecord &record, const host::TextLookup &lookUp = {})
+{
+    return QJsonDocument::fromJson(host::runReport(record, lookUp)).object();
+}
+
+QString unescaped(const QByteArray &html)
+{
+    QString text = QString::fromUtf8(html);
+    for (const auto &[entity, letter] : {std::pair("&#39;", "'"), std::pair("&lt;", "<"), std::pair("&gt;", ">")})
+        text.replace(QLatin1String(entity), QLatin1String(letter));
+    return text;
+}
 
 host::ChannelCheck measured(const QString &source)
 {
@@ -43,6 +56,8 @@ private slots:
     void tellsWhatWasMeasured();
     void tellsWhatAPersonHeard();
     void tellsWhyNothingIsKnown();
+    void tellsWhyInTheLanguageOfTheRun();
+    void readsAReportWithoutTheTranslation();
     void keepsToTheSchema();
     void saysSoInEveryFormat_data();
     void saysSoInEveryFormat();
@@ -59,7 +74,9 @@ void TestChannelReport::tellsWhatWasMeasured()
                                {QStringLiteral("rightHeard"), QStringLiteral("left")},
                                {QStringLiteral("leftDbfs"), QJsonArray{-90.0, -20.1}},
                                {QStringLiteral("rightDbfs"), QJsonArray{-20, -120}},
-                               {QStringLiteral("reason"), QString()}};
+                               {QStringLiteral("reason"), QString()},
+                               {QStringLiteral("reasonKey"), QString()},
+                               {QStringLiteral("reasonTranslated"), QString()}};
     QCOMPARE(parsed(checked(measured(QStringLiteral("Monitor of X")))).value(QLatin1String("channelMapping")).toObject(),
              expected);
     QVERIFY(parsed(fullRecord()).value(QLatin1String("channelMapping")).isNull());
@@ -83,6 +100,38 @@ void TestChannelReport::tellsWhyNothingIsKnown()
     QCOMPARE(told[QLatin1String("mapping")].toString(), QStringLiteral("not measurable"));
     QVERIFY(told[QLatin1String("leftHeard")].isNull());
     QCOMPARE(told[QLatin1String("reason")].toString(), QStringLiteral("listener lost"));
+}
+
+void TestChannelReport::tellsWhyInTheLanguageOfTheRun()
+{
+    host::ChannelCheck deaf;
+    deaf.source = QStringLiteral("Mic");
+    deaf.reason = QStringLiteral("no microphone is named 'A' (there are: 'B')"); // any reason with arguments
+    const auto inGerman = [](const QString &key) { return key + QStringLiteral(" Ger\u00E4t %1 <%2>"); };
+    const QJsonObject report = parsed(checked(deaf), inGerman);
+    const QJsonValue told = report.value(QLatin1String("channelMapping"));
+    const QString key = QStringLiteral("REASON_NO_SUCH_MICROPHONE");
+    const QString translated = key + QStringLiteral(" Ger\u00E4t A <B>");
+    QCOMPARE(told[QLatin1String("reason")].toString(), deaf.reason);
+    QCOMPARE(told[QLatin1String("reasonKey")].toString(), key);
+    QCOMPARE(told[QLatin1String("reasonTranslated")].toString(), translated);
+    const QString line = QStringLiteral("not measurable: %1 \u2013 %2 (%3)").arg(deaf.reason, translated, key);
+    QVERIFY(QString::fromUtf8(host::textReport(report)).contains(line));
+    QVERIFY(unescaped(host::htmlReport(report)).contains(line));
+}
+
+// Written by the same format's first programs.
+void TestChannelReport::readsAReportWithoutTheTranslation()
+{
+    host::ChannelCheck lost;
+    lost.reason = QStringLiteral("listener lost");
+    QJsonObject report = parsed(checked(lost));
+    QJsonObject told = report.value(QLatin1String("channelMapping")).toObject();
+    told.remove(QStringLiteral("reasonKey"));
+    told.remove(QStringLiteral("reasonTranslated"));
+    report.insert(QStringLiteral("channelMapping"), told);
+    QVERIFY(schemaErrors(report, publishedSchema()).isEmpty());
+    QVERIFY(QString::fromUtf8(host::textReport(report)).contains(QStringLiteral("not measurable: listener lost\n")));
 }
 
 void TestChannelReport::keepsToTheSchema()
@@ -113,7 +162,7 @@ void TestChannelReport::saysSoInEveryFormat()
     QFETCH(const QString, words);
     const QJsonObject report = parsed(checked(measured(source)));
     QVERIFY(QString::fromUtf8(host::textReport(report)).contains(words));
-    QVERIFY(QString::fromUtf8(host::htmlReport(report)).replace(QStringLiteral("&#39;"), QStringLiteral("'")).contains(words));
+    QVERIFY(unescaped(host::htmlReport(report)).contains(words));
     QVERIFY(!QString::fromUtf8(host::textReport(parsed(fullRecord()))).contains(QStringLiteral("Channels before the run")));
 }
 
