@@ -50,10 +50,10 @@ bool UnattendedRun::prepare(QString &problem)
         problem = QStringLiteral("the module has no test '%1'").arg(options_.test);
     else if (device_ < 0)
         problem = unknownDevice(options_.device, session_.deviceList().devices());
-    else if (const auto other = otherOutputHeard(readListeningSources(), options_.source, deviceName()))
-        problem = QStringLiteral("'%1' hears another device ('%2') than '%3', which would be blamed for its silence; of the "
-                                 "monitors only the tested device's own can be listened to")
-                      .arg(options_.source, *other, deviceName());
+    else if (hearsAnotherOutput(readListeningSources(), options_.source, deviceName()))
+        problem = QStringLiteral("'%1' hears another device than '%2', which would be blamed for its silence: of the monitors "
+                                 "only that device's own may be listened to")
+                      .arg(options_.source, deviceName());
     for (const QString &file : options_.reportFiles) {
         if (problem.isEmpty() && !canWriteBeside(file))
             problem = QStringLiteral("the report '%1' cannot be written: its folder is missing or closed").arg(file);

@@ -40,17 +40,13 @@ const ListeningSource *findListeningSource(const QList<ListeningSource> &sources
     return found == sources.end() ? nullptr : &*found;
 }
 
-std::optional<QString> otherOutputHeard(const std::optional<QList<ListeningSource>> &sources, const QString &source,
-                                        const QString &device)
+bool hearsAnotherOutput(const std::optional<QList<ListeningSource>> &sources, const QString &source, const QString &device)
 {
+    const std::optional<QString> named = outputInName(source);
     const ListeningSource *known = sources ? findListeningSource(*sources, source) : nullptr;
-    if (source.startsWith(loopbackPrefix) || known == nullptr) {
-        const std::optional<QString> output = outputInName(source);
-        return output && *output != device ? output : std::nullopt;
-    }
-    if (known->hearsOutputs.isEmpty() || known->hearsOutputs.contains(device))
-        return std::nullopt;
-    return known->hearsOutputs.first();
+    if (source.startsWith(loopbackPrefix) || known == nullptr)
+        return named && *named != device;
+    return known->hearsOutputs.isEmpty() ? named.has_value() : !known->hearsOutputs.contains(device);
 }
 
 } // namespace host

@@ -33,9 +33,9 @@ std::optional<QList<ListeningSource>> readListeningSources();
 /// Of that name, or for "loopback:X" whatever hears the output X. Null when there is none.
 const ListeningSource *findListeningSource(const QList<ListeningSource> &sources, const QString &name);
 
-/// The output that `source` hears instead of `device`; nothing where it hears the device, or the air. By the system's word, and
-/// where it has none by the source's name.
-std::optional<QString> otherOutputHeard(const std::optional<QList<ListeningSource>> &sources, const QString &source,
-                                        const QString &device);
+/// Whether `source` hears another output than `device`, whose silence would be taken for the device's: by the system's word,
+/// and where it has none by the source's name. One that only calls itself a monitor may hear anything. False for one that hears
+/// the air.
+bool hearsAnotherOutput(const std::optional<QList<ListeningSource>> &sources, const QString &source, const QString &device);
 
 } // namespace host
