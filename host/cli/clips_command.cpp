@@ -14,8 +14,11 @@ namespace host {
 
 namespace {
 
+// Of the sentence that is spoken in a microphone run, whatever its language.
+const QString operatorFolder = QStringLiteral("operator");
+
 struct LanguageCheck {
-    QString language;
+    QString language; ///< or `operatorFolder`
     ClipCheck check;
 };
 
@@ -44,6 +47,8 @@ QList<LanguageCheck> checkAll(const CommandLine &line)
     QList<LanguageCheck> checks;
     for (const QString &language : languages)
         checks.append({language, checkClips(folder, {language})});
+    if (!line.isSet("language"))
+        checks.append({operatorFolder, checkSentence(folder)});
     return checks;
 }
 
@@ -53,24 +58,36 @@ void printText(const QList<LanguageCheck> &checks, Console &console)
         console.print(QStringLiteral("%1  %2 of %3 clips are as supplied\n")
                           .arg(entry.language)
                           .arg(entry.check.intactCount)
-                          .arg(clipsPerLanguage));
+                          .arg(entry.check.intactCount + entry.check.faults.size()));
         for (const FaultyClip &clip : entry.check.faults)
             console.print(QStringLiteral("  %1: %2\n").arg(shownText(clip.file), faultText(clip.fault)));
     }
 }
 
+QJsonArray faultList(const ClipCheck &check)
+{
+    QJsonArray faults;
+    for (const FaultyClip &clip : check.faults)
+        faults.append(QJsonObject{{QStringLiteral("file"), clip.file}, {QStringLiteral("fault"), faultText(clip.fault)}});
+    return faults;
+}
+
 void printDocument(const QList<LanguageCheck> &checks, Console &console)
 {
     QJsonArray languages;
+    QJsonObject document;
     for (const LanguageCheck &entry : checks) {
-        QJsonArray faults;
-        for (const FaultyClip &clip : entry.check.faults)
-            faults.append(QJsonObject{{QStringLiteral("file"), clip.file}, {QStringLiteral("fault"), faultText(clip.fault)}});
-        languages.append(QJsonObject{{QStringLiteral("language"), entry.language},
-                                     {QStringLiteral("intact"), entry.check.intactCount},
-                                     {QStringLiteral("faults"), faults}});
+        QJsonObject object{{QStringLiteral("intact"), entry.check.intactCount},
+                           {QStringLiteral("faults"), faultList(entry.check)}};
+        if (entry.language == operatorFolder) {
+            document.insert(operatorFolder, object);
+            continue;
+        }
+        object.insert(QStringLiteral("language"), entry.language);
+        languages.append(object);
     }
-    printJson(console, {{QStringLiteral("languages"), languages}});
+    document.insert(QStringLiteral("languages"), languages);
+    printJson(console, document);
 }
 
 } // namespace

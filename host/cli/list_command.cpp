@@ -40,7 +40,12 @@ QJsonArray jsonProperties(const Device &device)
     return properties;
 }
 
-QJsonObject jsonDevice(qsizetype number, const Device &device, bool isVirtual)
+QJsonValue jsonVirtual(const VirtualDevices &devices, const QString &name)
+{
+    return devices.isKnown ? QJsonValue(devices.contains(name)) : QJsonValue();
+}
+
+QJsonObject jsonDevice(qsizetype number, const Device &device, const QJsonValue &isVirtual)
 {
     return {{QLatin1String("number"), number},
             {QLatin1String("virtual"), isVirtual},
@@ -68,7 +73,7 @@ void printDocument(const ModuleLibrary &library, const QList<Device> &devices, c
     const VirtualDevices virtualDevices = readVirtualDevices();
     QJsonArray list;
     for (qsizetype number = 0; number < devices.size(); ++number)
-        list.append(jsonDevice(number, devices[number], virtualDevices.contains(devices[number].name)));
+        list.append(jsonDevice(number, devices[number], jsonVirtual(virtualDevices, devices[number].name)));
     printJson(console, {{QLatin1String("productVersion"), library.productVersion()},
                         {QLatin1String("devices"), list},
                         {QLatin1String("inputs"), jsonInputs(inputs)}});
@@ -76,12 +81,12 @@ void printDocument(const ModuleLibrary &library, const QList<Device> &devices, c
 
 QString yesOrNo(bool isYes) { return isYes ? QStringLiteral("yes") : QStringLiteral("no"); }
 
-QStringList tableRow(qsizetype number, const Device &device, bool isVirtual)
+QStringList tableRow(qsizetype number, const Device &device, const VirtualDevices &virtualDevices)
 {
     QStringList row{QString::number(number), QStringLiteral("output"), device.name};
     for (const char *key : {numberOfChannels, sampleRate, driverName, driverVersion})
         row.append(device.property(key).value_or(QString()));
-    row.append(yesOrNo(isVirtual));
+    row.append(virtualDevices.isKnown ? yesOrNo(virtualDevices.contains(device.name)) : QStringLiteral("not known"));
     return row;
 }
 
@@ -96,7 +101,7 @@ void printTable(const QList<Device> &devices, const QList<CaptureDevice> &inputs
     const VirtualDevices virtualDevices = readVirtualDevices();
     QList<QStringList> rows;
     for (qsizetype number = 0; number < devices.size(); ++number)
-        rows.append(tableRow(number, devices[number], virtualDevices.contains(devices[number].name)));
+        rows.append(tableRow(number, devices[number], virtualDevices));
     for (const CaptureDevice &input : inputs)
         rows.append(tableRow(input));
     const QStringList header{QStringLiteral("No"),

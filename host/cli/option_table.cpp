@@ -80,7 +80,7 @@ constexpr std::array<CommandRow, 5> commands{{
     {"report", "FILE", Completion::file, nullptr, "Converts a report in JSON, which run wrote, to another format.",
      "report result.json\nreport result.json --output result.html --output result.xml"},
     {"clips", "verify", Completion::words, "verify",
-     "Compares the spoken-digit clips with the manifest that was shipped with them. Ends with 1 when one is missing or "
+     "Compares the spoken clips with the manifest that was shipped with them. Ends with 1 when one is missing or "
      "another, with 3 when there is no manifest.",
      "clips verify\nclips verify --language ja_JP --json"},
 }};

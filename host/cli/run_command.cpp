@@ -79,8 +79,8 @@ ExitCode findSubjects(const CommandLine &line, Subjects &subjects, Console &cons
 void tellOfVirtualDevices(const Subjects &subjects, Console &console)
 {
     for (const Device &device : subjects.devices) {
-        if (subjects.refused.contains(device.name))
-            console.complain(reasonWords("REASON_VIRTUAL_DEVICE", {device.name}) +
+        if (const char *refusal = virtualRefusal(subjects.refused, device.name))
+            console.complain(reasonWords(refusal, {device.name}) +
                              QStringLiteral(" (--allow-virtual tests it nevertheless)"));
     }
 }
@@ -138,9 +138,9 @@ bool writeLanguage(const QString &folder, const QString &code)
 
 ExitCode performOne(const CommandLine &line, const Subjects &subjects, const PlannedRun &run, Console &console)
 {
-    if (subjects.refused.contains(run.device)) {
+    if (const char *refusal = virtualRefusal(subjects.refused, run.device)) {
         reportRefusal(line, run, subjects.devices[run.deviceNumber - 1], subjects.testNames.value(run.test),
-                      reasonWords("REASON_VIRTUAL_DEVICE", {run.device}), console);
+                      reasonWords(refusal, {run.device}), console);
         return ExitCode::cannotBePerformed;
     }
     if (run.language.isEmpty())

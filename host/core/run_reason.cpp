@@ -21,12 +21,19 @@ struct KnownReason {
 
 // In the words that the operator, the check of the channels and the programs of both say them with. The first that fits is
 // meant.
-constexpr std::array<KnownReason, 42> knownReasons{{
+constexpr std::array<KnownReason, 49> knownReasons{{
     {"REASON_STOPPED", "the run was stopped"},
     {"REASON_TOOK_TOO_LONG", "the run took longer than five minutes"},
     {"REASON_VIRTUAL_DEVICE", "'%1' is a virtual device: a verdict on it says nothing about this machine"},
     {"PRECHECK_CLIPS_MISSING", "clips: those of the language %1 are missing"},
     {"PRECHECK_CLIP_DAMAGED", "clips: %1 is missing or is not the one that was supplied"},
+    {"REASON_VIRTUAL_UNKNOWN", "the sound server does not answer: whether '%1' is a virtual device is not known"},
+    {"PRECHECK_MICROPHONE_BLOCKED", "the privacy settings of the system keep programs from the microphone"},
+    {"PRECHECK_SOURCE_MUTED", "the capture source '%1' is muted"},
+    {"PRECHECK_SOURCE_AT_ZERO", "the volume of the capture source '%1' is 0"},
+    {"REASON_ZEROS_ONLY", "'%1' delivers nothing but zeros: it is switched off, blocked or not connected"},
+    {"REASON_SOURCE_TURNED_DOWN", "the capture source was muted or turned down"},
+    {"REASON_SENTENCE_NOT_HEARD", "the sentence was not heard when it was spoken"},
     {"REASON_VOLUMES_HELD", "Another run is holding the volumes."},
     {"REASON_VOLUMES_HELD", "Another run is holding the volumes (guardian process %1)."},
     {"REASON_LISTENER_LOST", "listener lost"},

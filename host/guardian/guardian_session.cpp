@@ -13,44 +13,12 @@ namespace host {
 
 namespace {
 
-// A guardian whose host has just crashed is done within this time.
-constexpr std::chrono::milliseconds lockBound{1500};
-
-// The owner of a lock file of this age is asked for by the system's own lock on the file, so that the file of a dead owner is
-// taken over even where its process number is in use, or the file was never filled before the power went.
-constexpr std::chrono::milliseconds staleLockAge{1000};
-
 // What a killed host has sent to the sound server may still be on its way there.
 constexpr std::chrono::milliseconds settlingTime{300};
 
-QString reasonWhyLocked(const QLockFile &lock)
-{
-    if (lock.error() != QLockFile::LockFailedError)
-        return QStringLiteral("The folder for the note of the volumes cannot be used.");
-    qint64 process = 0;
-    QString computer;
-    QString program;
-    if (!lock.getLockInfo(&process, &computer, &program))
-        return QStringLiteral("Another run is holding the volumes.");
-    return QStringLiteral("Another run is holding the volumes (guardian process %1).").arg(process);
-}
-
 } // namespace
 
-GuardianSession::GuardianSession(const QString &stateFolder)
-    : note_(stateFolder), lock_(lockFilePath(stateFolder)), folder_(stateFolder)
-{
-    lock_.setStaleLockTime(static_cast<int>(staleLockAge.count()));
-}
-
-bool GuardianSession::lock()
-{
-    if (QDir().mkpath(folder_) && lock_.tryLock(static_cast<int>(lockBound.count())))
-        return true;
-    isHeldByAnother_ = lock_.error() == QLockFile::LockFailedError;
-    errorText_ = reasonWhyLocked(lock_);
-    return false;
-}
+GuardianSession::GuardianSession(const QString &stateFolder) : note_(stateFolder), lock_(stateFolder), folder_(stateFolder) {}
 
 bool GuardianSession::readVolumes()
 {
@@ -63,10 +31,12 @@ bool GuardianSession::readVolumes()
 
 bool GuardianSession::begin()
 {
-    if (!lock())
+    if (!lock_.take()) {
+        errorText_ = lock_.errorText();
         return false;
+    }
     if (!noteVolumes())
-        lock_.unlock();
+        lock_.giveBack();
     return errorText_.isEmpty();
 }
 
@@ -100,7 +70,7 @@ PutBack GuardianSession::end(Ending ending)
     }
     if (result.isDone)
         note_.remove();
-    lock_.unlock();
+    lock_.giveBack();
     return result;
 }
 
@@ -110,10 +80,9 @@ PutBack putBackLeftovers(const QString &stateFolder, QString &complaint)
     const QFileInfo info(note.path());
     if (!info.exists() && !info.isSymLink())
         return {true, {}};
-    QLockFile lock(lockFilePath(stateFolder));
-    lock.setStaleLockTime(static_cast<int>(staleLockAge.count()));
-    if (!lock.tryLock()) {
-        complaint = reasonWhyLocked(lock);
+    VolumeLock lock(stateFolder);
+    if (!lock.take(std::chrono::milliseconds::zero())) {
+        complaint = lock.errorText();
         return {};
     }
     const std::optional<EndpointVolumes> volumes = note.read();

@@ -3,8 +3,8 @@
 
 #include "host/guardian/note_file.h"
 #include "host/guardian/put_back.h"
+#include "host/guardian/volume_lock.h"
 
-#include <QLockFile>
 #include <QString>
 
 namespace host {
@@ -25,7 +25,7 @@ public:
     bool begin();
     const QString &errorText() const noexcept { return errorText_; }
     /// Whether that was because another guardian is at work.
-    bool isHeldByAnother() const noexcept { return isHeldByAnother_; }
+    bool isHeldByAnother() const noexcept { return lock_.isHeldByAnother(); }
     /// Endpoints that a former run had left at another volume.
     const QStringList &leftovers() const noexcept { return leftovers_; }
 
@@ -33,15 +33,13 @@ public:
     PutBack end(Ending ending);
 
 private:
-    bool lock();
     bool noteVolumes();
     bool readVolumes();
 
     NoteFile note_;
-    QLockFile lock_;
+    VolumeLock lock_;
     QString folder_;
     QString errorText_;
-    bool isHeldByAnother_ = false;
     QStringList leftovers_;
     ostra::audio::EndpointVolumes saved_;
 };

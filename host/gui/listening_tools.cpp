@@ -44,6 +44,12 @@ void ListeningTools::checkChannels()
     const QString device = window_.chosenDevice();
     if (session_.isRunning() || device.isEmpty())
         return;
+    QString reason;
+    const std::unique_ptr<VolumeLock> lock = session_.holdVolumes(reason);
+    if (lock == nullptr) {
+        window_.log(hostText("REASON_VOLUMES_HELD"));
+        return;
+    }
     const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
     ChannelDialog dialog({device, source(), clips, language_.code()}, &window_);
     dialog.exec();

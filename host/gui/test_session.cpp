@@ -29,7 +29,8 @@ QList<OfferedTest> offeredTests(const ostra::ModuleInterface &module)
 } // namespace
 
 TestSession::TestSession(ostra::ModuleInterface &module, Prompter &prompter, const QString &stateFolder, QObject *parent)
-    : QObject(parent), module_(module), prompter_(prompter), guardian_(stateFolder), tests_(offeredTests(module))
+    : QObject(parent), module_(module), prompter_(prompter), stateFolder_(stateFolder), guardian_(stateFolder),
+      tests_(offeredTests(module))
 {
     quiet_.setSingleShot(true);
     quiet_.setInterval(quietTime);
@@ -98,6 +99,16 @@ std::optional<RunRecord> TestSession::refuse(qsizetype test, qsizetype device, c
         finish(record);
     end(record);
     return record;
+}
+
+// A folder that cannot be used keeps nobody from a run either.
+std::unique_ptr<VolumeLock> TestSession::holdVolumes(QString &reason) const
+{
+    auto lock = std::make_unique<VolumeLock>(stateFolder_);
+    if (lock->take() || !lock->isHeldByAnother())
+        return lock;
+    reason = lock->errorText();
+    return nullptr;
 }
 
 void TestSession::complainOfVolumes(RunRecord &record)

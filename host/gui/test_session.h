@@ -5,6 +5,7 @@
 #include "host/core/device_list.h"
 #include "host/core/run_record.h"
 #include "host/guardian/guardian_client.h"
+#include "host/guardian/volume_lock.h"
 
 #include <QHash>
 #include <QList>
@@ -15,6 +16,7 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace ostra {
@@ -78,6 +80,9 @@ public:
     /// way or for a position that does not exist.
     std::optional<RunRecord> refuse(qsizetype test, qsizetype device, const QString &language, const QString &reason,
                                     const std::function<void(RunRecord &)> &finish = {});
+    /// Whatever plays without being a run holds this meanwhile: another host that listens would take it for its device's. Null
+    /// with `reason` while another host has a run under way. To be given up before `run`.
+    std::unique_ptr<VolumeLock> holdVolumes(QString &reason) const;
     /// Notes what a check of a device's channels came to: later runs on the device of that name have it in their records.
     void noteChannels(const QString &device, const ChannelCheck &check) { channels_.insert(device, check); }
     /// Ends the run under way as soon as the test asks.
@@ -116,6 +121,7 @@ private:
 
     ostra::ModuleInterface &module_;
     Prompter &prompter_;
+    QString stateFolder_;
     GuardianClient guardian_;
     QList<OfferedTest> tests_;
     DeviceList devices_;

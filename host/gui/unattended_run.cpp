@@ -7,8 +7,12 @@
 #include "host/core/verdict.h"
 #include "host/gui/console_output.h"
 #include "host/gui/key_text.h"
+#include "host/operator/capture_probe.h"
 #include "host/operator/channel_listener.h"
 #include "host/operator/test_operator.h"
+#include "host/precheck/capture_devices.h"
+#include "host/precheck/clip_check.h"
+#include "host/precheck/listening_sources.h"
 #include "host/precheck/precheck.h"
 #include "host/reports/run_report.h"
 #include "host/reports/writable_folder.h"
@@ -19,6 +23,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <memory>
 #include <utility>
 
 namespace host {
@@ -34,16 +39,6 @@ UnattendedRun::UnattendedRun(TestSession &session, const Options &options, QStri
     : session_(session), options_(options), language_(std::move(language))
 {}
 
-// The listed device whose monitor that source is by its name; empty when it is none of them.
-QString UnattendedRun::deviceOfMonitor(const QString &source) const
-{
-    for (const Device &device : session_.deviceList().devices()) {
-        if (source == QStringLiteral("Monitor of ") + device.name)
-            return device.name;
-    }
-    return {};
-}
-
 QString UnattendedRun::deviceName() const { return session_.deviceList().devices()[device_].name; }
 
 bool UnattendedRun::prepare(QString &problem)
@@ -55,8 +50,9 @@ bool UnattendedRun::prepare(QString &problem)
         problem = QStringLiteral("the module has no test '%1'").arg(options_.test);
     else if (device_ < 0)
         problem = unknownDevice(options_.device, session_.deviceList().devices());
-    else if (const QString other = deviceOfMonitor(options_.source); !other.isEmpty() && other != deviceName())
-        problem = QStringLiteral("'%1' hears another device than '%2', which would be blamed for its silence")
+    else if (hearsAnotherOutput(readListeningSources(), options_.source, deviceName()))
+        problem = QStringLiteral("'%1' hears another device than '%2', which would be blamed for its silence: of the monitors "
+                                 "only that device's own may be listened to")
                       .arg(options_.source, deviceName());
     for (const QString &file : options_.reportFiles) {
         if (problem.isEmpty() && !canWriteBeside(file))
@@ -80,16 +76,10 @@ int UnattendedRun::run()
 
 std::optional<RunRecord> UnattendedRun::perform()
 {
-    const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
-    const auto findings = checkBeforeRun({deviceName(), clips, language_, isRecording()});
-    for (const PrecheckFinding &finding : findings)
-        complain(precheckText(finding));
-    for (const PrecheckFinding &finding : findings) {
-        if (finding.isBlocking())
-            return unheard(reasonWords(precheckKey(finding.what), {finding.subject}));
-    }
-    if (options_.isChannelCheck && !checkChannels())
-        return stopped();
+    if (const QString reason = whyNotBeforehand(); !reason.isEmpty())
+        return unheard(reason);
+    if (auto early = prepareEars())
+        return early;
     TestOperator person(operatorSettings());
     if (meter_)
         QObject::connect(&person, &TestOperator::metered, meter_);
@@ -109,7 +99,64 @@ std::optional<RunRecord> UnattendedRun::perform()
     });
 }
 
-bool UnattendedRun::isRecording() const { return options_.test == QLatin1String("m") || !isMonitor(options_.source); }
+QString UnattendedRun::whyNotBeforehand() const
+{
+    const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
+    const auto findings = checkBeforeRun({deviceName(), clips, language_, isRecording(), options_.source, isMicrophoneTest()});
+    for (const PrecheckFinding &finding : findings)
+        complain(precheckText(finding));
+    for (const PrecheckFinding &finding : findings) {
+        if (finding.isBlocking())
+            return reasonWords(precheckKey(finding.what), {finding.subject});
+    }
+    return {};
+}
+
+// Before the run: whether the microphones deliver anything, and which side is which. A record where it ends here.
+std::optional<RunRecord> UnattendedRun::prepareEars()
+{
+    bool isStopped = false;
+    QString dead;
+    {
+        session_.setPreparing(true);
+        const auto over = qScopeGuard([this] { session_.setPreparing(false); });
+        const auto stop = QObject::connect(&session_, &TestSession::stopRequested, [&isStopped] { isStopped = true; });
+        const auto forget = qScopeGuard([&stop] { QObject::disconnect(stop); });
+        dead = deadMicrophone();
+    }
+    if (isStopped)
+        return stopped();
+    if (!dead.isEmpty())
+        return unheard(reasonWords("REASON_ZEROS_ONLY", {dead}));
+    if (!options_.isChannelCheck)
+        return std::nullopt;
+    QString reason;
+    const std::unique_ptr<VolumeLock> lock = session_.holdVolumes(reason);
+    if (lock == nullptr)
+        return notCompleted(reason, false);
+    return checkChannels() ? std::nullopt : stopped();
+}
+
+// The ear and, in its own test, the microphone: zeros of either would be taken for the silence of a device.
+QString UnattendedRun::deadMicrophone() const
+{
+    QStringList names{options_.source};
+    if (isMicrophoneTest()) {
+        const QList<CaptureDevice> inputs = readCaptureDevices();
+        names.append(options_.microphone.isEmpty() && !inputs.isEmpty() ? inputs.first().name : options_.microphone);
+    }
+    const std::optional<QList<ListeningSource>> sources = readListeningSources();
+    for (qsizetype index = 0; sources && index < names.size(); ++index) {
+        const ListeningSource *source = findListeningSource(*sources, names[index]);
+        if (source != nullptr && mustDeliverNoise(*source) && probeCapture(names[index]) == Delivery::zerosOnly)
+            return names[index];
+    }
+    return {};
+}
+
+bool UnattendedRun::isMicrophoneTest() const { return options_.test == QLatin1String("m"); }
+
+bool UnattendedRun::isRecording() const { return isMicrophoneTest() || !isMonitor(options_.source); }
 
 OperatorSettings UnattendedRun::operatorSettings() const
 {
@@ -122,9 +169,9 @@ OperatorSettings UnattendedRun::operatorSettings() const
     settings.mistypedSequences = options_.mistypedSequences;
     settings.device = deviceName();
     settings.recordFile = options_.keptAudio;
-    if (options_.test != QLatin1String("m"))
+    if (!isMicrophoneTest())
         return settings;
-    settings.sentence = clips + QStringLiteral("operator/sentence_en_US.wav");
+    settings.sentence = clips + QLatin1String(sentenceClip);
     settings.microphone = options_.microphone;
     settings.speakThrough = options_.speakThrough.isEmpty() ? deviceName() : options_.speakThrough;
     return settings;
@@ -144,12 +191,14 @@ std::optional<RunRecord> UnattendedRun::unheard(const QString &reason)
     return session_.refuse(test_, device_, language_, reason, [this](RunRecord &record) { describe(record); });
 }
 
-std::optional<RunRecord> UnattendedRun::stopped()
+std::optional<RunRecord> UnattendedRun::stopped() { return notCompleted(reasonWords("REASON_STOPPED"), true); }
+
+std::optional<RunRecord> UnattendedRun::notCompleted(const QString &reason, bool wasStopped)
 {
-    return session_.refuse(test_, device_, language_, reasonWords("REASON_STOPPED"), [this](RunRecord &record) {
+    return session_.refuse(test_, device_, language_, reason, [this, wasStopped](RunRecord &record) {
         describe(record);
         record.code = ostra::result::notCompleted;
-        record.wasStopped = true;
+        record.wasStopped = wasStopped;
     });
 }
 

@@ -34,11 +34,15 @@ public:
 
 private:
     QString deviceName() const; ///< once it is known
-    QString deviceOfMonitor(const QString &source) const;
+    bool isMicrophoneTest() const;
     bool isRecording() const;
+    QString whyNotBeforehand() const;
+    std::optional<RunRecord> prepareEars();
+    QString deadMicrophone() const;
     OperatorSettings operatorSettings() const;
     std::optional<RunRecord> unheard(const QString &reason);
     std::optional<RunRecord> stopped();
+    std::optional<RunRecord> notCompleted(const QString &reason, bool wasStopped);
     bool checkChannels();
     void describe(RunRecord &record) const;
     bool writeReports(const RunRecord &record) const;

@@ -207,6 +207,7 @@ void MicrophoneWorker::speak()
         // What was not spoken would be missed in the playback, and what is spoken now would be taken for it.
         if (!speaker_->hasFinished())
             return exit_.close(QStringLiteral("the sentence was not spoken in time"));
+        recordEndedMs_ = playBeganMs_;
         return enter(Step::playing);
     }
     if (inStepMs() > jobLimitMs)
@@ -256,7 +257,16 @@ QString MicrophoneWorker::whyNotMissing(const HeardRecording &heard) const
     const bool isDead = !isMonitor(speech_.source) && log_.loudestBetween(playBeganMs_, playEndedMs_) <= digitalSilenceDbfs;
     if (isDead)
         return QStringLiteral("the capture source delivers nothing");
-    return !volumes_ || volumes_->wereRaised() ? QString() : QStringLiteral("the volume could not be raised");
+    if (volumes_ && !volumes_->complaint().isEmpty())
+        return volumes_->complaint();
+    return wasSpeechHeard() ? QString() : QStringLiteral("the sentence was not heard when it was spoken");
+}
+
+// What never sounded no microphone can have recorded: by the ear that judges the playback, as there is no other.
+bool MicrophoneWorker::wasSpeechHeard() const
+{
+    const std::optional<HeardPlace> place = log_.bestPlaceBetween(recordPressedMs_, recordEndedMs_);
+    return place && place->isFound;
 }
 
 // A busy machine may have torn the playback apart, as it would not a person's attention.

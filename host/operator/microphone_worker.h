@@ -75,6 +75,7 @@ private:
 
     HeardRecording measured() const;
     QString whyNotMissing(const HeardRecording &heard) const;
+    bool wasSpeechHeard() const;
     void measureLevels(HeardRecording &heard) const;
     std::optional<double> latencyTo(qint64 startMs) const;
 
@@ -92,6 +93,7 @@ private:
     qint64 recordPressedMs_ = 0;
     bool hasSpoken_ = false;
     bool hasRepeated_ = false;
+    qint64 recordEndedMs_ = 0;
     qint64 playBeganMs_ = 0;
     qint64 playEndedMs_ = 0;
     std::optional<HeardRecording> heard_;

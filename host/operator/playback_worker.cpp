@@ -139,6 +139,7 @@ void PlaybackWorker::wait()
     } else if (step_ == Step::playing && isIdle) {
         playEndMs_ = steadyNowMs();
         plays_.append({listenFromMs_, playEndMs_});
+        volumes_.lookAtSources();
         enter(Step::deciding);
     } else if (inStepMs() > (step_ == Step::waiting ? waitLimitMs : playLimitMs)) {
         exit_.close(QStringLiteral("the dialog did not play its sequence"));
@@ -214,7 +215,7 @@ QString PlaybackWorker::whyNotSilent() const
     });
     if (isDead)
         return QStringLiteral("the capture source delivers nothing");
-    return volumes_.wereRaised() ? QString() : QStringLiteral("the volume could not be raised");
+    return volumes_.complaint();
 }
 
 void PlaybackWorker::type()

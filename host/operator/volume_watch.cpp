@@ -2,6 +2,7 @@
 #include "host/operator/volume_watch.h"
 
 #include "host/operator/heard_log.h"
+#include "host/precheck/listening_sources.h"
 
 #include <algorithm>
 #include <iterator>
@@ -38,17 +39,39 @@ bool areRaised(const EndpointVolumes &volumes, const EndpointNames &names, const
     return areAllRaised(chosen.empty() ? volumes : chosen);
 }
 
-// The names are asked for only where they matter.
 void VolumeWatch::look()
 {
-    if (!wereRaised_ || steadyNowMs() - lookedMs_ < lookIntervalMs)
+    if (!wereRaised() || steadyNowMs() - lookedMs_ < lookIntervalMs)
         return;
     lookedMs_ = steadyNowMs();
+    lookAtEndpoints();
+    lookAtSources();
+}
+
+// The names are asked for only where they matter.
+void VolumeWatch::lookAtEndpoints()
+{
     EndpointVolumes volumes;
     EndpointNames names;
     if (ostra::audio::readEndpointVolumes(volumes) != 0 || areAllRaised(volumes))
         return;
     wereRaised_ = ostra::audio::readEndpointNames(names) == 0 && areRaised(volumes, names, wanted_);
+}
+
+QString VolumeWatch::complaint() const
+{
+    if (!wereRaised_)
+        return QStringLiteral("the volume could not be raised");
+    return wasSourceTurnedDown_ ? QStringLiteral("the capture source was muted or turned down") : QString();
+}
+
+void VolumeWatch::lookAtSources()
+{
+    const std::optional<QList<ListeningSource>> sources = readListeningSources();
+    for (qsizetype index = 0; sources && index < wanted_.size(); ++index) {
+        const ListeningSource *source = findListeningSource(*sources, wanted_[index]);
+        wasSourceTurnedDown_ = wasSourceTurnedDown_ || (source != nullptr && !source->isOpen());
+    }
 }
 
 } // namespace host

@@ -52,23 +52,32 @@ std::optional<ClipFault> faultOf(const QString &path, const QString &name, const
     return manifest->value(name) == *hash ? std::nullopt : std::optional(ClipFault::differs);
 }
 
-} // namespace
-
-ClipCheck checkClips(const QString &folder, const QStringList &languages)
+ClipCheck checkFiles(const QString &folder, const QStringList &names)
 {
     const QDir clips(folder);
     const std::optional<Manifest> manifest = readManifest(clips.filePath(QStringLiteral("manifest.sha256")));
     ClipCheck check{manifest.has_value(), 0, {}};
-    for (const QString &language : languages) {
-        for (int digit = 0; digit < clipsPerLanguage; ++digit) {
-            const QString name = QStringLiteral("%1/%2_%1.wav").arg(language).arg(digit);
-            if (const auto fault = faultOf(clips.filePath(name), name, manifest))
-                check.faults.append({name, *fault});
-            else
-                ++check.intactCount;
-        }
+    for (const QString &name : names) {
+        if (const auto fault = faultOf(clips.filePath(name), name, manifest))
+            check.faults.append({name, *fault});
+        else
+            ++check.intactCount;
     }
     return check;
 }
+
+} // namespace
+
+ClipCheck checkClips(const QString &folder, const QStringList &languages)
+{
+    QStringList names;
+    for (const QString &language : languages) {
+        for (int digit = 0; digit < clipsPerLanguage; ++digit)
+            names.append(QStringLiteral("%1/%2_%1.wav").arg(language).arg(digit));
+    }
+    return checkFiles(folder, names);
+}
+
+ClipCheck checkSentence(const QString &folder) { return checkFiles(folder, {QLatin1String(sentenceClip)}); }
 
 } // namespace host

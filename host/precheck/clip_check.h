@@ -33,4 +33,10 @@ inline constexpr int clipsPerLanguage = 10;
 /// blanks and a path below `folder`. Reads 120 kB a clip; any thread.
 ClipCheck checkClips(const QString &folder, const QStringList &languages);
 
+/// The sentence that is spoken in a microphone run with nobody there, below the folder of the clips.
+inline constexpr auto sentenceClip = "operator/sentence_en_US.wav";
+
+/// Compares it in the same way.
+ClipCheck checkSentence(const QString &folder);
+
 } // namespace host

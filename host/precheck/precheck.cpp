@@ -5,6 +5,7 @@
 #include "audio/endpoints/endpoint_volume.h"
 #include "host/precheck/clip_check.h"
 #include "host/precheck/device_names.h"
+#include "host/precheck/listening_sources.h"
 #include "host/precheck/microphone_privacy.h"
 
 #include <QCoreApplication>
@@ -62,7 +63,42 @@ void checkLanguage(const PrecheckQuestion &question, QList<PrecheckFinding> &fin
         findings.append({Precheck::clipsUnchecked, {}});
 }
 
+// A source that was turned down hears nothing, however well the device plays.
+void checkSource(const QString &name, QList<PrecheckFinding> &findings)
+{
+    const std::optional<QList<ListeningSource>> sources = readListeningSources();
+    const ListeningSource *source = sources ? findListeningSource(*sources, name) : nullptr;
+    if (source == nullptr)
+        return;
+    if (source->isMuted)
+        findings.append({Precheck::sourceMuted, name});
+    else if (source->level <= 0.0F)
+        findings.append({Precheck::sourceAtZero, name});
+}
+
+void checkSpeech(const PrecheckQuestion &question, QList<PrecheckFinding> &findings)
+{
+    const ClipCheck check = checkSentence(question.clipsFolder);
+    for (const FaultyClip &clip : check.faults)
+        findings.append({Precheck::clipDamaged, clip.file});
+}
+
 } // namespace
+
+bool PrecheckFinding::isBlocking() const
+{
+    switch (what) {
+    case Precheck::clipsMissing:
+    case Precheck::clipDamaged:
+    case Precheck::sourceMuted:
+    case Precheck::sourceAtZero:
+        return true;
+    case Precheck::microphoneBlocked: // a person may still open it
+        return isUnattended;
+    default:
+        return false;
+    }
+}
 
 QList<PrecheckFinding> checkBeforeRun(const PrecheckQuestion &question)
 {
@@ -70,8 +106,14 @@ QList<PrecheckFinding> checkBeforeRun(const PrecheckQuestion &question)
     checkLevels(question.device, findings);
     if (!question.language.isEmpty())
         checkLanguage(question, findings);
+    if (question.isSpeaking)
+        checkSpeech(question, findings);
+    if (!question.source.isEmpty())
+        checkSource(question.source, findings);
     if (question.isRecording && isMicrophoneBlocked())
         findings.append({Precheck::microphoneBlocked, {}});
+    for (PrecheckFinding &finding : findings)
+        finding.isUnattended = !question.source.isEmpty();
     return findings;
 }
 
@@ -90,6 +132,10 @@ const char *precheckKey(Precheck what) noexcept
         return "PRECHECK_CLIP_DAMAGED";
     case Precheck::clipsUnchecked:
         return "PRECHECK_CLIPS_UNCHECKED";
+    case Precheck::sourceMuted:
+        return "PRECHECK_SOURCE_MUTED";
+    case Precheck::sourceAtZero:
+        return "PRECHECK_SOURCE_AT_ZERO";
     case Precheck::microphoneBlocked:
         break;
     }

@@ -16,16 +16,25 @@ struct Look {
     VirtualDevices devices;
 };
 
-// Called by C code: what memory could not be had for is left out.
-void addSink(pa_context * /*context*/, const pa_sink_info *sink, int endOfList, void *user) noexcept
-try {
-    if (endOfList != 0 || sink == nullptr)
-        return;
-    auto &look = *static_cast<Look *>(user);
-    const QString name = look.names.next(QString::fromUtf8(sink->description));
-    if (sink->card == PA_INVALID_INDEX && (sink->flags & PA_SINK_HARDWARE) == 0)
+void addIfVirtual(const pa_sink_info &sink, Look &look)
+{
+    const QString name = look.names.next(QString::fromUtf8(sink.description));
+    if (sink.card == PA_INVALID_INDEX && (sink.flags & PA_SINK_HARDWARE) == 0)
         look.devices.names.append(name);
-} catch (...) {
+}
+
+// Called by C code: an answer that cannot be stored makes the list unknown instead of being thrown.
+void addSink(pa_context * /*context*/, const pa_sink_info *sink, int endOfList, void *user) noexcept
+{
+    auto &look = *static_cast<Look *>(user);
+    try {
+        if (endOfList == 0)
+            addIfVirtual(*sink, look);
+    } catch (...) {
+        endOfList = -1;
+    }
+    if (endOfList < 0)
+        look.devices.isKnown = false;
 }
 
 } // namespace
@@ -37,8 +46,8 @@ VirtualDevices readVirtualDevices()
         return {{}, true};
     Look look;
     ostra::audio::PulseConnection connection(ostra::audio::passBound);
-    if (connection.open())
-        connection.finish(pa_context_get_sink_info_list(connection.context(), addSink, &look));
+    if (!connection.open() || !connection.finish(pa_context_get_sink_info_list(connection.context(), addSink, &look)))
+        look.devices.isKnown = false;
     return look.devices;
 }
 

@@ -60,6 +60,14 @@
         <translation>Die Datenschutzeinstellungen des Systems sperren das Mikrofon für Programme: Es würde nur Stille aufnehmen.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOURCE_MUTED</source>
+        <translation>Die Aufnahmequelle „%1“ ist stummgeschaltet. Der Test kann nicht ausgeführt werden: Der Fehler würde dem Gerät angelastet.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_SOURCE_AT_ZERO</source>
+        <translation>Die Lautstärke der Aufnahmequelle „%1“ ist 0. Der Test kann nicht ausgeführt werden: Der Fehler würde dem Gerät angelastet.</translation>
+    </message>
+    <message>
         <source>REASON_STOPPED</source>
         <translation>Der Durchlauf wurde gestoppt.</translation>
     </message>
@@ -70,6 +78,10 @@
     <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>„%1“ ist ein virtuelles Gerät: Ein Ergebnis darauf sagt nichts über diesen Computer aus.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_UNKNOWN</source>
+        <translation>Der Soundserver antwortet nicht: Ob „%1“ ein virtuelles Gerät ist, ist nicht bekannt.</translation>
     </message>
     <message>
         <source>REASON_VOLUMES_HELD</source>
@@ -88,8 +100,16 @@
         <translation>Die Aufnahmequelle liefert überhaupt nichts.</translation>
     </message>
     <message>
+        <source>REASON_ZEROS_ONLY</source>
+        <translation>„%1“ liefert nur Nullen: Es ist ausgeschaltet, gesperrt oder nicht angeschlossen.</translation>
+    </message>
+    <message>
         <source>REASON_VOLUME_NOT_RAISED</source>
         <translation>Die Lautstärke konnte nicht erhöht werden.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_TURNED_DOWN</source>
+        <translation>Die Aufnahmequelle wurde stummgeschaltet oder leiser gestellt.</translation>
     </message>
     <message>
         <source>REASON_NO_SUCH_SOURCE</source>
@@ -106,6 +126,10 @@
     <message>
         <source>REASON_SPEECH_DID_NOT_BEGIN</source>
         <translation>Der aufzunehmende Satz konnte nicht gesprochen werden.</translation>
+    </message>
+    <message>
+        <source>REASON_SENTENCE_NOT_HEARD</source>
+        <translation>Der aufzunehmende Satz war nicht zu hören, als er gesprochen wurde.</translation>
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>

@@ -60,6 +60,14 @@
         <translation>The privacy settings of the system keep programs from the microphone: it would record only silence.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOURCE_MUTED</source>
+        <translation>The capture source “%1” is muted. The test cannot be run: the device would be blamed for it.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_SOURCE_AT_ZERO</source>
+        <translation>The volume of the capture source “%1” is 0. The test cannot be run: the device would be blamed for it.</translation>
+    </message>
+    <message>
         <source>REASON_STOPPED</source>
         <translation>The run was stopped.</translation>
     </message>
@@ -70,6 +78,10 @@
     <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>“%1” is a virtual device: a result on it says nothing about this computer.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_UNKNOWN</source>
+        <translation>The sound server does not answer: whether “%1” is a virtual device is not known.</translation>
     </message>
     <message>
         <source>REASON_VOLUMES_HELD</source>
@@ -88,8 +100,16 @@
         <translation>The capture source delivers nothing at all.</translation>
     </message>
     <message>
+        <source>REASON_ZEROS_ONLY</source>
+        <translation>“%1” delivers nothing but zeros: it is switched off, blocked or not connected.</translation>
+    </message>
+    <message>
         <source>REASON_VOLUME_NOT_RAISED</source>
         <translation>The volume could not be raised.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_TURNED_DOWN</source>
+        <translation>The capture source was muted or turned down.</translation>
     </message>
     <message>
         <source>REASON_NO_SUCH_SOURCE</source>
@@ -106,6 +126,10 @@
     <message>
         <source>REASON_SPEECH_DID_NOT_BEGIN</source>
         <translation>The sentence to be recorded could not be spoken.</translation>
+    </message>
+    <message>
+        <source>REASON_SENTENCE_NOT_HEARD</source>
+        <translation>The sentence to be recorded was not heard when it was spoken.</translation>
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>

@@ -60,6 +60,14 @@
         <translation>La configuración de privacidad del sistema impide que los programas usen el micrófono: solo grabaría silencio.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOURCE_MUTED</source>
+        <translation>La fuente de captura «%1» está silenciada. La prueba no se puede ejecutar: se culparía al dispositivo.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_SOURCE_AT_ZERO</source>
+        <translation>El volumen de la fuente de captura «%1» es 0. La prueba no se puede ejecutar: se culparía al dispositivo.</translation>
+    </message>
+    <message>
         <source>REASON_STOPPED</source>
         <translation>La ejecución se ha detenido.</translation>
     </message>
@@ -70,6 +78,10 @@
     <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>«%1» es un dispositivo virtual: un resultado en él no dice nada sobre este equipo.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_UNKNOWN</source>
+        <translation>El servidor de sonido no responde: no se sabe si «%1» es un dispositivo virtual.</translation>
     </message>
     <message>
         <source>REASON_VOLUMES_HELD</source>
@@ -88,8 +100,16 @@
         <translation>La fuente de captura no entrega nada.</translation>
     </message>
     <message>
+        <source>REASON_ZEROS_ONLY</source>
+        <translation>«%1» solo entrega ceros: está apagado, bloqueado o desconectado.</translation>
+    </message>
+    <message>
         <source>REASON_VOLUME_NOT_RAISED</source>
         <translation>No se ha podido subir el volumen.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_TURNED_DOWN</source>
+        <translation>La fuente de captura se ha silenciado o se ha bajado su volumen.</translation>
     </message>
     <message>
         <source>REASON_NO_SUCH_SOURCE</source>
@@ -106,6 +126,10 @@
     <message>
         <source>REASON_SPEECH_DID_NOT_BEGIN</source>
         <translation>No se ha podido pronunciar la frase que se iba a grabar.</translation>
+    </message>
+    <message>
+        <source>REASON_SENTENCE_NOT_HEARD</source>
+        <translation>La frase que se iba a grabar no se ha oído al pronunciarse.</translation>
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>

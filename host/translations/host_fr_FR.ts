@@ -60,6 +60,14 @@
         <translation>Les paramètres de confidentialité du système interdisent le microphone aux programmes : il n’enregistrerait que du silence.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOURCE_MUTED</source>
+        <translation>Le son de la source de capture « %1 » est coupé. Le test ne peut pas être exécuté : le périphérique serait mis en cause à tort.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_SOURCE_AT_ZERO</source>
+        <translation>Le volume de la source de capture « %1 » est à 0. Le test ne peut pas être exécuté : le périphérique serait mis en cause à tort.</translation>
+    </message>
+    <message>
         <source>REASON_STOPPED</source>
         <translation>L’exécution a été arrêtée.</translation>
     </message>
@@ -70,6 +78,10 @@
     <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>« %1 » est un périphérique virtuel : un résultat sur celui-ci ne dit rien de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_UNKNOWN</source>
+        <translation>Le serveur audio ne répond pas : on ne sait pas si « %1 » est un périphérique virtuel.</translation>
     </message>
     <message>
         <source>REASON_VOLUMES_HELD</source>
@@ -88,8 +100,16 @@
         <translation>La source de capture ne fournit rien du tout.</translation>
     </message>
     <message>
+        <source>REASON_ZEROS_ONLY</source>
+        <translation>« %1 » ne fournit que des zéros : il est éteint, bloqué ou débranché.</translation>
+    </message>
+    <message>
         <source>REASON_VOLUME_NOT_RAISED</source>
         <translation>Le volume n’a pas pu être augmenté.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_TURNED_DOWN</source>
+        <translation>La source de capture a été coupée ou son volume a été baissé.</translation>
     </message>
     <message>
         <source>REASON_NO_SUCH_SOURCE</source>
@@ -106,6 +126,10 @@
     <message>
         <source>REASON_SPEECH_DID_NOT_BEGIN</source>
         <translation>La phrase à enregistrer n’a pas pu être prononcée.</translation>
+    </message>
+    <message>
+        <source>REASON_SENTENCE_NOT_HEARD</source>
+        <translation>La phrase à enregistrer n’a pas été entendue lorsqu’elle a été prononcée.</translation>
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>

@@ -60,6 +60,14 @@
         <translation>Le impostazioni di privacy del sistema negano il microfono ai programmi: registrerebbe solo silenzio.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOURCE_MUTED</source>
+        <translation>L’audio della sorgente di acquisizione «%1» è disattivato. Non è possibile eseguire il test: la colpa verrebbe attribuita al dispositivo.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_SOURCE_AT_ZERO</source>
+        <translation>Il volume della sorgente di acquisizione «%1» è a 0. Non è possibile eseguire il test: la colpa verrebbe attribuita al dispositivo.</translation>
+    </message>
+    <message>
         <source>REASON_STOPPED</source>
         <translation>L’esecuzione è stata interrotta.</translation>
     </message>
@@ -70,6 +78,10 @@
     <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>«%1» è un dispositivo virtuale: un risultato su di esso non dice nulla su questo computer.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_UNKNOWN</source>
+        <translation>Il server audio non risponde: non si sa se «%1» sia un dispositivo virtuale.</translation>
     </message>
     <message>
         <source>REASON_VOLUMES_HELD</source>
@@ -88,8 +100,16 @@
         <translation>La sorgente di acquisizione non fornisce alcun segnale.</translation>
     </message>
     <message>
+        <source>REASON_ZEROS_ONLY</source>
+        <translation>«%1» fornisce solo zeri: è spento, bloccato o non collegato.</translation>
+    </message>
+    <message>
         <source>REASON_VOLUME_NOT_RAISED</source>
         <translation>Impossibile alzare il volume.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_TURNED_DOWN</source>
+        <translation>La sorgente di acquisizione è stata disattivata o abbassata.</translation>
     </message>
     <message>
         <source>REASON_NO_SUCH_SOURCE</source>
@@ -106,6 +126,10 @@
     <message>
         <source>REASON_SPEECH_DID_NOT_BEGIN</source>
         <translation>Impossibile pronunciare la frase da registrare.</translation>
+    </message>
+    <message>
+        <source>REASON_SENTENCE_NOT_HEARD</source>
+        <translation>La frase da registrare non è stata udita quando è stata pronunciata.</translation>
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>

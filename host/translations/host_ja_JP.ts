@@ -60,6 +60,14 @@
         <translation>システムのプライバシー設定により、プログラムはマイクを使用できません。無音しか録音されません。</translation>
     </message>
     <message>
+        <source>PRECHECK_SOURCE_MUTED</source>
+        <translation>録音元「%1」はミュートされています。デバイスの不具合と誤って判定されるため、テストを実行できません。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_SOURCE_AT_ZERO</source>
+        <translation>録音元「%1」の音量は0です。デバイスの不具合と誤って判定されるため、テストを実行できません。</translation>
+    </message>
+    <message>
         <source>REASON_STOPPED</source>
         <translation>実行が停止されました。</translation>
     </message>
@@ -70,6 +78,10 @@
     <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>「%1」は仮想デバイスです。このデバイスでの結果からは、このコンピューターについて何も分かりません。</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_UNKNOWN</source>
+        <translation>サウンドサーバーが応答しません。「%1」が仮想デバイスかどうか分かりません。</translation>
     </message>
     <message>
         <source>REASON_VOLUMES_HELD</source>
@@ -88,8 +100,16 @@
         <translation>録音元から何も届きません。</translation>
     </message>
     <message>
+        <source>REASON_ZEROS_ONLY</source>
+        <translation>「%1」からはゼロしか届きません。オフになっているか、ブロックされているか、接続されていません。</translation>
+    </message>
+    <message>
         <source>REASON_VOLUME_NOT_RAISED</source>
         <translation>音量を上げることができませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_TURNED_DOWN</source>
+        <translation>録音元がミュートされたか、音量を下げられました。</translation>
     </message>
     <message>
         <source>REASON_NO_SUCH_SOURCE</source>
@@ -106,6 +126,10 @@
     <message>
         <source>REASON_SPEECH_DID_NOT_BEGIN</source>
         <translation>録音する文を読み上げることができませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_SENTENCE_NOT_HEARD</source>
+        <translation>録音する文が読み上げられたとき、その音は聞こえませんでした。</translation>
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>

@@ -60,6 +60,14 @@
         <translation>De privacyinstellingen van het systeem blokkeren de microfoon voor programma’s: er zou alleen stilte worden opgenomen.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOURCE_MUTED</source>
+        <translation>De opnamebron ‘%1’ is gedempt. De test kan niet worden uitgevoerd: het apparaat zou ten onrechte de schuld krijgen.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_SOURCE_AT_ZERO</source>
+        <translation>Het volume van de opnamebron ‘%1’ is 0. De test kan niet worden uitgevoerd: het apparaat zou ten onrechte de schuld krijgen.</translation>
+    </message>
+    <message>
         <source>REASON_STOPPED</source>
         <translation>De uitvoering is gestopt.</translation>
     </message>
@@ -70,6 +78,10 @@
     <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>‘%1’ is een virtueel apparaat: een resultaat daarop zegt niets over deze computer.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_UNKNOWN</source>
+        <translation>De geluidsserver antwoordt niet: het is niet bekend of ‘%1’ een virtueel apparaat is.</translation>
     </message>
     <message>
         <source>REASON_VOLUMES_HELD</source>
@@ -88,8 +100,16 @@
         <translation>De opnamebron levert helemaal niets.</translation>
     </message>
     <message>
+        <source>REASON_ZEROS_ONLY</source>
+        <translation>‘%1’ levert alleen nullen: de opnamebron is uitgeschakeld, geblokkeerd of niet aangesloten.</translation>
+    </message>
+    <message>
         <source>REASON_VOLUME_NOT_RAISED</source>
         <translation>Het volume kon niet worden verhoogd.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_TURNED_DOWN</source>
+        <translation>De opnamebron is gedempt of zachter gezet.</translation>
     </message>
     <message>
         <source>REASON_NO_SUCH_SOURCE</source>
@@ -106,6 +126,10 @@
     <message>
         <source>REASON_SPEECH_DID_NOT_BEGIN</source>
         <translation>De op te nemen zin kon niet worden uitgesproken.</translation>
+    </message>
+    <message>
+        <source>REASON_SENTENCE_NOT_HEARD</source>
+        <translation>De op te nemen zin was niet te horen toen deze werd uitgesproken.</translation>
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>

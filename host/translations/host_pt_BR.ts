@@ -60,6 +60,14 @@
         <translation>As configurações de privacidade do sistema impedem os programas de usar o microfone: ele gravaria apenas silêncio.</translation>
     </message>
     <message>
+        <source>PRECHECK_SOURCE_MUTED</source>
+        <translation>A fonte de captura “%1” está silenciada. O teste não pode ser executado: a culpa recairia sobre o dispositivo.</translation>
+    </message>
+    <message>
+        <source>PRECHECK_SOURCE_AT_ZERO</source>
+        <translation>O volume da fonte de captura “%1” está em 0. O teste não pode ser executado: a culpa recairia sobre o dispositivo.</translation>
+    </message>
+    <message>
         <source>REASON_STOPPED</source>
         <translation>A execução foi parada.</translation>
     </message>
@@ -70,6 +78,10 @@
     <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>“%1” é um dispositivo virtual: um resultado nele não diz nada sobre este computador.</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_UNKNOWN</source>
+        <translation>O servidor de som não responde: não se sabe se “%1” é um dispositivo virtual.</translation>
     </message>
     <message>
         <source>REASON_VOLUMES_HELD</source>
@@ -88,8 +100,16 @@
         <translation>A fonte de captura não fornece nada.</translation>
     </message>
     <message>
+        <source>REASON_ZEROS_ONLY</source>
+        <translation>“%1” fornece somente zeros: está desligado, bloqueado ou desconectado.</translation>
+    </message>
+    <message>
         <source>REASON_VOLUME_NOT_RAISED</source>
         <translation>Não foi possível aumentar o volume.</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_TURNED_DOWN</source>
+        <translation>A fonte de captura foi silenciada ou teve o volume reduzido.</translation>
     </message>
     <message>
         <source>REASON_NO_SUCH_SOURCE</source>
@@ -106,6 +126,10 @@
     <message>
         <source>REASON_SPEECH_DID_NOT_BEGIN</source>
         <translation>Não foi possível falar a frase a ser gravada.</translation>
+    </message>
+    <message>
+        <source>REASON_SENTENCE_NOT_HEARD</source>
+        <translation>A frase a ser gravada não foi ouvida quando foi falada.</translation>
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>

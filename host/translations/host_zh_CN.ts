@@ -60,6 +60,14 @@
         <translation>系统的隐私设置禁止程序使用麦克风：只会录到静音。</translation>
     </message>
     <message>
+        <source>PRECHECK_SOURCE_MUTED</source>
+        <translation>采集源“%1”已静音。无法运行测试：否则会误判为设备故障。</translation>
+    </message>
+    <message>
+        <source>PRECHECK_SOURCE_AT_ZERO</source>
+        <translation>采集源“%1”的音量为 0。无法运行测试：否则会误判为设备故障。</translation>
+    </message>
+    <message>
         <source>REASON_STOPPED</source>
         <translation>运行已停止。</translation>
     </message>
@@ -70,6 +78,10 @@
     <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>“%1”是虚拟设备：其测试结果不能说明本计算机的状况。</translation>
+    </message>
+    <message>
+        <source>REASON_VIRTUAL_UNKNOWN</source>
+        <translation>声音服务器没有响应：无法得知“%1”是否为虚拟设备。</translation>
     </message>
     <message>
         <source>REASON_VOLUMES_HELD</source>
@@ -88,8 +100,16 @@
         <translation>采集源没有提供任何数据。</translation>
     </message>
     <message>
+        <source>REASON_ZEROS_ONLY</source>
+        <translation>“%1”只提供零值：它已关闭、被禁用或未连接。</translation>
+    </message>
+    <message>
         <source>REASON_VOLUME_NOT_RAISED</source>
         <translation>无法调高音量。</translation>
+    </message>
+    <message>
+        <source>REASON_SOURCE_TURNED_DOWN</source>
+        <translation>采集源被静音或调低了音量。</translation>
     </message>
     <message>
         <source>REASON_NO_SUCH_SOURCE</source>
@@ -106,6 +126,10 @@
     <message>
         <source>REASON_SPEECH_DID_NOT_BEGIN</source>
         <translation>无法播放要录制的语句。</translation>
+    </message>
+    <message>
+        <source>REASON_SENTENCE_NOT_HEARD</source>
+        <translation>播放要录制的语句时没有听到它。</translation>
     </message>
     <message>
         <source>REASON_NO_SPEAKER</source>

@@ -44,6 +44,7 @@ private slots:
     void leavesNothingWhereItCannotWrite();
     void findsTheOwnClipsIntact();
     void findsADamagedClip();
+    void findsAnotherSentence();
     void needsAManifest();
     void tellsWhatIsLacking();
     void refusesVirtualDevices_data();
@@ -152,6 +153,25 @@ void TestCliCommands::findsADamagedClip()
     const QJsonValue language = parsed(json.output).value(QLatin1String("languages"))[0];
     QCOMPARE(language[QLatin1String("intact")].toInt(), 8);
     QCOMPARE(language[QLatin1String("faults")][1][QLatin1String("file")].toString(), QStringLiteral("nl_NL/9_nl_NL.wav"));
+}
+
+void TestCliCommands::findsAnotherSentence()
+{
+    const QTemporaryDir folder;
+    const QString own = bundleFolder() + QStringLiteral("/audio_files/");
+    const QString sentence = QStringLiteral("operator/sentence_en_US.wav");
+    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("operator")));
+    QVERIFY(QFile::copy(own + QStringLiteral("manifest.sha256"), folder.filePath(QStringLiteral("manifest.sha256"))));
+    QVERIFY(write(folder.filePath(sentence), read(own + sentence) + "x"));
+    const QStringList arguments{QStringLiteral("clips"), QStringLiteral("verify"), QStringLiteral("--folder"), folder.path()};
+    const CliRun run = runCli(arguments);
+    QCOMPARE(run.code, 1);
+    QVERIFY2(run.output.endsWith("operator  0 of 1 clips are as supplied\n"
+                                 "  operator/sentence_en_US.wav: not the one that was supplied\n"),
+             run.output.constData());
+    const QJsonObject json = parsed(runCli(arguments + QStringList{QStringLiteral("--json")}).output);
+    QCOMPARE(json[QLatin1String("operator")][QLatin1String("faults")][0][QLatin1String("file")].toString(), sentence);
+    QCOMPARE(json[QLatin1String("languages")].toArray().size(), 9);
 }
 
 void TestCliCommands::needsAManifest()

@@ -117,6 +117,7 @@ private slots:
     void keepsASourceThatIsGone();
     void offersRunsAloneOnlyWithASource();
     void notesTheCheckForLaterRuns();
+    void playsNothingDuringAnotherHostsRun();
 };
 
 void TestListeningDialogs::asksOnlyForWhatWasPlayed()
@@ -461,6 +462,27 @@ void TestListeningDialogs::notesTheCheckForLaterRuns()
     QVERIFY(program.find<QPlainTextEdit>("host_log")
                 ->toPlainText()
                 .contains(host::hostText("LOG_CHANNELS").arg(QStringLiteral("Headphones"), host::hostText("CHANNELS_MIXED"))));
+}
+
+// Its digits would get into that run's ear.
+void TestListeningDialogs::playsNothingDuringAnotherHostsRun()
+{
+    ShownProgram program;
+    const host::ListeningTools tools(program.window, program.session, program.language, program.folder.path(), {});
+    host::VolumeLock other(program.folder.path());
+    QVERIFY(other.take());
+    program.window.choose(0, 1);
+    bool hasAsked = false;
+    QTimer::singleShot(0, &program.window, [&hasAsked] {
+        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+            hasAsked = true;
+            dialog->reject();
+        }
+    });
+    program.find<QAction>("host_check_channels")->trigger();
+    QCoreApplication::processEvents();
+    QVERIFY(!hasAsked);
+    QVERIFY(program.find<QPlainTextEdit>("host_log")->toPlainText().contains(host::hostText("REASON_VOLUMES_HELD")));
 }
 
 QTEST_MAIN(TestListeningDialogs)

@@ -56,6 +56,7 @@ private slots:
     void forgetsTheScheduleOfARunThatIsOver();
     void keepsAHistory();
     void letsTheCallerAddToTheRecord();
+    void holdsTheVolumesAgainstOtherHosts();
 };
 
 void TestTestSession::offersTheTestsOfTheModule()
@@ -262,6 +263,20 @@ void TestTestSession::letsTheCallerAddToTheRecord()
     host.session.run(0, 0, language, [](host::RunRecord &record) { record.listenedTo = QStringLiteral("ear"); });
     QCOMPARE(ended[0][0].value<host::RunRecord>().listenedTo, QStringLiteral("ear"));
     QCOMPARE(host.session.history()[0].listenedTo, QStringLiteral("ear"));
+}
+
+// A lock is held against other objects of the same process, too.
+void TestTestSession::holdsTheVolumesAgainstOtherHosts()
+{
+    Session host;
+    host::TestSession other(host.module.interface(), host.prompter, host.folder.path());
+    QString reason;
+    std::unique_ptr<host::VolumeLock> lock = host.session.holdVolumes(reason);
+    QVERIFY(lock != nullptr && reason.isEmpty());
+    QVERIFY(other.holdVolumes(reason) == nullptr);
+    QVERIFY2(reason.startsWith(QStringLiteral("Another run is holding the volumes")), qPrintable(reason));
+    lock.reset();
+    QVERIFY(other.holdVolumes(reason) != nullptr);
 }
 
 QTEST_MAIN(TestTestSession)

@@ -32,6 +32,9 @@ void clip(ListenerScript &script, double score, bool isFound)
                R"(,"levelDbfs":-21.5,"clipped":true,"startMs":)" + now() + '}');
 }
 
+// The ear hears the sentence while it is spoken.
+void speech(ListenerScript &script) { clip(script, 0.99, true); }
+
 void moment(ListenerScript &script, double left, double right, double difference)
 {
     script.say(R"({"event":"meter","peakDbfs":-4,"rmsDbfs":-20,"channelDbfs":[)" + QByteArray::number(left) + ',' +
@@ -48,6 +51,8 @@ private slots:
     void saysYesWhereTheSentenceIsPlayedBack();
     void saysNoWhereNothingIsPlayedBack();
     void saysNoWhereSomethingElseIsPlayedBack();
+    void blamesNobodyWhereTheSentenceWasNotHeard_data();
+    void blamesNobodyWhereTheSentenceWasNotHeard();
     void closesWhereOnlyPartOfItIsPlayedBack();
     void listensOnceMoreToATornPlayback();
     void takesTheDialogsOwnChoice();
@@ -118,7 +123,9 @@ void TestMicrophoneOperator::saysNoWhereSomethingElseIsPlayedBack()
     ListenerScript script;
     Question question;
     StandInMicrophone dialog(microphones(), [&script](Moment moment) {
-        if (moment == Moment::playing)
+        if (moment == Moment::recording)
+            speech(script);
+        else if (moment == Moment::playing)
             clip(script, 0.12, false);
         else if (moment == Moment::played)
             script.level(-20);
@@ -128,6 +135,35 @@ void TestMicrophoneOperator::saysNoWhereSomethingElseIsPlayedBack()
     QVERIFY(record.recording && !record.recording->isFound && !record.recording->isSilent);
     QCOMPARE(record.recording->score, 0.12);
     QCOMPARE(dialog.playCount(), 2);
+}
+
+void TestMicrophoneOperator::blamesNobodyWhereTheSentenceWasNotHeard_data()
+{
+    QTest::addColumn<double>("scoreOfSpeech");
+    QTest::addColumn<double>("playedDbfs");
+    QTest::newRow("silence is played back") << 0.0 << -120.0;
+    QTest::newRow("noise is played back") << 0.0 << -20.0;
+    QTest::newRow("something like it was spoken") << 0.3 << -120.0;
+}
+
+// A loudspeaker that does not speak leaves every microphone without a sentence.
+void TestMicrophoneOperator::blamesNobodyWhereTheSentenceWasNotHeard()
+{
+    QFETCH(const double, scoreOfSpeech);
+    QFETCH(const double, playedDbfs);
+    ListenerScript script;
+    Question question;
+    StandInMicrophone dialog(microphones(), [&](Moment moment) {
+        if (moment == Moment::recording && scoreOfSpeech > 0)
+            clip(script, scoreOfSpeech, false);
+        else if (moment == Moment::played)
+            script.level(playedDbfs);
+    });
+    const RunRecord record = runMicrophone(dialog, question, microphoneSettings());
+    QCOMPARE(dialog.outcome(), Outcome::closed);
+    QCOMPARE(question.answer(), QString());
+    QCOMPARE(record.reason, QStringLiteral("the sentence was not heard when it was spoken"));
+    QVERIFY(!record.recording);
 }
 
 void TestMicrophoneOperator::closesWhereOnlyPartOfItIsPlayedBack()
@@ -172,7 +208,9 @@ void TestMicrophoneOperator::takesTheDialogsOwnChoice()
     ListenerScript script;
     Question question;
     StandInMicrophone dialog(microphones(), [&script](Moment moment) {
-        if (moment == Moment::played)
+        if (moment == Moment::recording)
+            speech(script);
+        else if (moment == Moment::played)
             script.level(-120);
     });
     OperatorSettings given = microphoneSettings();
@@ -305,12 +343,14 @@ void TestMicrophoneOperator::tellsBothChannelsApart()
     ListenerScript script;
     Question question;
     StandInMicrophone dialog(microphones(), [&](Moment step) {
-        if (step == Moment::recording)
+        if (step == Moment::recording) {
+            speech(script);
             moment(script, -3, -40, -3); // before the playback
-        else if (step == Moment::playing)
+        } else if (step == Moment::playing) {
             moment(script, -20, right, difference);
-        else
+        } else {
             script.level(-20);
+        }
     });
     const RunRecord record = runMicrophone(dialog, question, microphoneSettings());
     QVERIFY(record.recording);
@@ -361,7 +401,9 @@ void TestMicrophoneOperator::photographsEachStep()
     OperatorSettings given = microphoneSettings();
     given.screenshotsFolder = folder.path();
     StandInMicrophone dialog(microphones(), [&script](Moment moment) {
-        if (moment == Moment::played)
+        if (moment == Moment::recording)
+            speech(script);
+        else if (moment == Moment::played)
             script.level(-120);
     });
     const RunRecord record = runMicrophone(dialog, question, given);

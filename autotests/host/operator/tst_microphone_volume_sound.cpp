@@ -91,8 +91,11 @@ void TestMicrophoneVolumeSound::saysNoWhereAnotherDeviceIsMuted()
     ListenerScript script;
     Question question;
     StandInMicrophone dialog(microphones(), [&](Moment now) {
-        if (now == Moment::recording)
+        if (now == Moment::recording) {
             setVolume(sink, QStringLiteral("sink3"), full, true);
+            script.say(R"({"event":"clip","score":0.9,"found":true,"levelDbfs":-21.5,"clipped":false,"startMs":)" +
+                       QByteArray::number(host::steadyNowMs()) + '}');
+        }
         if (now == Moment::played)
             script.level(-120);
     });

@@ -19,6 +19,8 @@ private slots:
     void init();
     void seesWhatIsNotRaised_data();
     void seesWhatIsNotRaised();
+    void seesATurnedDownSource_data();
+    void seesATurnedDownSource();
     void seesNothingWithoutASoundServer();
 };
 
@@ -26,7 +28,8 @@ void TestVolumeWatchSound::init()
 {
     for (const char *sink : {"sink1", "sink2"})
         pulse_truth::set(QStringLiteral("sink"), QLatin1String(sink), {full, full}, false);
-    pulse_truth::set(QStringLiteral("source"), QStringLiteral("mic1"), {full, full}, false);
+    for (const char *source : {"mic1", "sink1.monitor"})
+        pulse_truth::set(QStringLiteral("source"), QLatin1String(source), {full, full}, false);
 }
 
 void TestVolumeWatchSound::seesWhatIsNotRaised_data()
@@ -50,6 +53,36 @@ void TestVolumeWatchSound::seesWhatIsNotRaised()
     host::VolumeWatch watch({QStringLiteral("Speakers"), QStringLiteral("Mic")});
     watch.look();
     QTEST(watch.wereRaised(), "wereRaised");
+}
+
+void TestVolumeWatchSound::seesATurnedDownSource_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<unsigned>("volume");
+    QTest::addColumn<bool>("isMuted");
+    QTest::addColumn<bool>("isTurnedDown");
+    QTest::newRow("all open") << QStringLiteral("sink1.monitor") << full << false << false;
+    QTest::newRow("muted") << QStringLiteral("sink1.monitor") << full << true << true;
+    QTest::newRow("lowered") << QStringLiteral("sink1.monitor") << full / 3 << false << true;
+    QTest::newRow("another one muted") << QStringLiteral("mic1") << full << true << false;
+}
+
+// Nobody raises a monitor.
+void TestVolumeWatchSound::seesATurnedDownSource()
+{
+    QFETCH(const QString, source);
+    QFETCH(const unsigned, volume);
+    QFETCH(const bool, isMuted);
+    QFETCH(const bool, isTurnedDown);
+    pulse_truth::set(QStringLiteral("source"), source, {volume, volume}, isMuted);
+    host::VolumeWatch watch({QStringLiteral("Speakers"), QStringLiteral("Monitor of Speakers")});
+    watch.look();
+    QCOMPARE(watch.wasSourceTurnedDown(), isTurnedDown);
+    QCOMPARE(watch.wereRaised(), !isTurnedDown);
+    QCOMPARE(watch.complaint(), isTurnedDown ? QStringLiteral("the capture source was muted or turned down") : QString());
+    host::VolumeWatch later({QStringLiteral("Monitor of Speakers")});
+    later.lookAtSources();
+    QCOMPARE(later.wasSourceTurnedDown(), isTurnedDown);
 }
 
 void TestVolumeWatchSound::seesNothingWithoutASoundServer()

@@ -60,6 +60,7 @@ private slots:
     void findsWhatTheManifestDoesNotName();
     void findsALanguageWithoutClips();
     void checksEveryLanguage();
+    void checksTheSentence();
     void tellsThatThereIsNoManifest();
     void readsALongManifestOfAnotherMaking();
 };
@@ -119,6 +120,20 @@ void TestClipCheck::checksEveryLanguage()
     QCOMPARE(check.intactCount, 10);
     QCOMPARE(check.faults.size(), 10);
     QCOMPARE(check.faults[0].file, QStringLiteral("ja_JP/0_ja_JP.wav"));
+}
+
+void TestClipCheck::checksTheSentence()
+{
+    const ClipFolder clips;
+    const QString sentence = QDir(clips.path()).filePath(QLatin1String(host::sentenceClip));
+    QVERIFY(host::checkSentence(clips.path()).faults.first().fault == ClipFault::missing);
+    QVERIFY(QDir(clips.path()).mkpath(QStringLiteral("operator")) && write(sentence, "spoken"));
+    QVERIFY(host::checkSentence(clips.path()).faults.first().fault == ClipFault::unlisted);
+    const QByteArray hash = QCryptographicHash::hash("spoken", QCryptographicHash::Sha256).toHex();
+    QVERIFY(write(clips.manifest(), hash + "  operator/sentence_en_US.wav\n"));
+    QVERIFY(host::checkSentence(clips.path()).isIntact());
+    QVERIFY(write(sentence, "silent"));
+    QVERIFY(host::checkSentence(clips.path()).faults.first().fault == ClipFault::differs);
 }
 
 void TestClipCheck::tellsThatThereIsNoManifest()

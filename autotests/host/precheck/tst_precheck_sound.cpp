@@ -54,6 +54,7 @@ private slots:
     void tellsThatTheServerIsSilent();
     void marksNullSinks();
     void refusesALanguageWithoutClips();
+    void refusesAnotherSentence();
     void everyFindingHasASentence_data();
     void everyFindingHasASentence();
 };
@@ -101,10 +102,11 @@ void TestPrecheckSound::tellsThatTheServerIsSilent()
     const QByteArray server = qgetenv("PULSE_SERVER");
     qputenv("PULSE_SERVER", "unix:/no/such/server");
     const QStringList keys = lookAt("Speakers");
-    const bool isNothingVirtual = !host::readVirtualDevices().contains(QStringLiteral("Speakers"));
+    const host::VirtualDevices devices = host::readVirtualDevices();
     qputenv("PULSE_SERVER", server);
     QCOMPARE(keys, QStringList{QStringLiteral("PRECHECK_SOUND_SERVER_SILENT")});
-    QVERIFY(isNothingVirtual);
+    QVERIFY(!devices.isKnown);
+    QCOMPARE(host::virtualRefusal(devices, QStringLiteral("Speakers")), "REASON_VIRTUAL_UNKNOWN");
 }
 
 void TestPrecheckSound::marksNullSinks()
@@ -112,7 +114,7 @@ void TestPrecheckSound::marksNullSinks()
     const host::VirtualDevices devices = host::readVirtualDevices();
     for (const char *name : {"Speakers", "Speakers (2)", "Quiet"})
         QVERIFY2(devices.contains(QLatin1String(name)), name);
-    QVERIFY(!devices.contains(QStringLiteral("Headset")));
+    QVERIFY(devices.isKnown && !devices.contains(QStringLiteral("Headset")));
 }
 
 void TestPrecheckSound::refusesALanguageWithoutClips()
@@ -121,6 +123,15 @@ void TestPrecheckSound::refusesALanguageWithoutClips()
     const auto findings = host::checkBeforeRun({QStringLiteral("Speakers"), folder.path(), QStringLiteral("it_IT"), false});
     QCOMPARE(keysOf(findings), QStringList{QStringLiteral("PRECHECK_CLIPS_MISSING")});
     QVERIFY(findings.first().isBlocking());
+}
+
+void TestPrecheckSound::refusesAnotherSentence()
+{
+    const QTemporaryDir folder;
+    const auto findings = host::checkBeforeRun({QStringLiteral("Speakers"), folder.path(), {}, false, {}, true});
+    QCOMPARE(keysOf(findings), QStringList{QStringLiteral("PRECHECK_CLIP_DAMAGED")});
+    QVERIFY(findings.first().isBlocking());
+    QCOMPARE(findings.first().subject, QStringLiteral("operator/sentence_en_US.wav"));
 }
 
 void TestPrecheckSound::everyFindingHasASentence_data()
@@ -134,7 +145,7 @@ void TestPrecheckSound::everyFindingHasASentence()
 {
     QFETCH(const QString, language);
     QVERIFY(host::installTranslators(language));
-    for (int what = 0; what <= static_cast<int>(Precheck::microphoneBlocked); ++what) {
+    for (int what = 0; what <= static_cast<int>(Precheck::sourceAtZero); ++what) {
         const QString text = host::precheckText({static_cast<Precheck>(what), QStringLiteral("X1")});
         QVERIFY2(!text.contains(QStringLiteral("PRECHECK")) && !text.contains(QStringLiteral("%1")), qPrintable(text));
     }
