@@ -20,7 +20,7 @@ struct KnownReason {
 };
 
 // In the words that the operator and the programs of a run say them with. The first that fits is meant.
-constexpr std::array<KnownReason, 33> knownReasons{{
+constexpr std::array<KnownReason, 39> knownReasons{{
     {"REASON_STOPPED", "the run was stopped"},
     {"REASON_TOOK_TOO_LONG", "the run took longer than five minutes"},
     {"REASON_VIRTUAL_DEVICE", "'%1' is a virtual device: a verdict on it says nothing about this machine"},
@@ -52,6 +52,12 @@ constexpr std::array<KnownReason, 33> knownReasons{{
     {"VERDICT_INVALID_CALL", "the test was not called properly"},
     {"REASON_ENDED_EARLY", "the test ended before it had a verdict"},
     {"REASON_NONE_GIVEN", "the test did not tell why"},
+    {"REASON_RUN_NOT_TAKEN", "the run could not begin: another one is under way, or the device is gone"},
+    {"REASON_HOST_BROKE_DOWN", "the graphical host ended without a verdict (has it a display?)"},
+    {"REASON_HOST_HUNG", "the graphical host did not come to an end"},
+    {"REASON_HOST_NOT_STARTED", "the graphical host cannot be started: %1"},
+    {"REASON_NO_MODULE", "the graphical host cannot use the audio module"},
+    {"REASON_DEVICE_GONE", "the device '%1' is no longer there"},
     {"REASON_SERVER_SILENT", "audio_listener: no sound server: %1"},
     {"REASON_TOLD", "%1"},
 }};
