@@ -22,7 +22,7 @@ struct KnownOption {
     bool isUnattendedOnly;
 };
 
-constexpr std::array<KnownOption, 19> knownOptions{{
+constexpr std::array<KnownOption, 20> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
@@ -30,6 +30,7 @@ constexpr std::array<KnownOption, 19> knownOptions{{
     {"microphone", "NAME", "the microphone that test m chooses (the first one)", true},
     {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
     {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},
+    {"verdict-file", "FILE", "write the exit code there last: where it is missing, the run has not come to one", true},
     {"keep-audio", "FILE", "keep all that is heard, voices too, in FILE (.wav); without it no sound is kept", true},
     {"channel-check", nullptr, "check left and right before the run, at the present volume; no part of the verdict", true},
     {"screenshots", "DIR", "photograph the windows into that folder", true},
@@ -163,6 +164,7 @@ Options readValues(const QCommandLineParser &parser)
     const QStringList reports = parser.values(QStringLiteral("report"));
     for (const QString &file : reports)
         options.reportFiles.append(absolute(file));
+    options.verdictFile = absolute(parser.value(QStringLiteral("verdict-file")));
     options.keptAudio = absolute(parser.value(QStringLiteral("keep-audio")));
     options.isChannelCheck = parser.isSet(QStringLiteral("channel-check"));
     options.screenshotsFolder = absolute(parser.value(QStringLiteral("screenshots")));
@@ -217,8 +219,8 @@ QString optionsHelp()
                "recording is judged by what --listen hears of it.\n"
                "While a test runs, Ctrl+Shift+S stops it in whichever window; with --developer, Ctrl+Shift+F1 to F10\n"
                "simulate the events 0 to 9.\n"
-               "Exit codes: 0 passed, 1 failed, 2 wrong usage, 3 cannot be performed, 4 not completed, 6 no module or\n"
-               "an invalid call, 130 and 143 interrupted.\n");
+               "Exit codes: 0 passed, 1 failed, 2 wrong usage, 3 cannot be performed, 4 not completed, as when the display\n"
+               "is lost, 6 no module or an invalid call, 130 and 143 interrupted.\n");
 }
 
 } // namespace host
