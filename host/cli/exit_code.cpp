@@ -11,8 +11,9 @@ namespace {
 
 std::ptrdiff_t badnessOf(ExitCode code)
 {
-    constexpr std::array order{ExitCode::success, ExitCode::cannotBePerformed, ExitCode::notCompleted, ExitCode::noModule,
-                               ExitCode::failed};
+    constexpr std::array order{ExitCode::success,      ExitCode::cannotBePerformed,
+                               ExitCode::notCompleted, ExitCode::noModule,
+                               ExitCode::usage,        ExitCode::failed};
     return std::find(order.begin(), order.end(), code) - order.begin();
 }
 

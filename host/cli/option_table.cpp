@@ -73,7 +73,7 @@ constexpr std::array<CommandRow, 5> commands{{
     {"run", nullptr, Completion::none, nullptr,
      "Runs tests with nobody there: starts the graphical host, which needs a display, once for each test, device and language. "
      "Ends with "
-     "the worst of their codes; 1 is worse than 6, 4, 3 and 0, in this order.",
+     "the worst of their codes; 1 is worse than 2, 6, 4, 3 and 0, in this order.",
      "run --device \"USB Headset\" --listen \"Room Microphone\" --report headset.html\n"
      "run --test p --test m --device Speakers --microphone Headset --all-languages --reports results\n"
      "run --test p --device 0 --device 1 --report result.json --report result.xml --gnu-exit"},
@@ -90,7 +90,7 @@ constexpr std::array<ExitCodeRow, 8> exitCodes{{
     {1, "a test failed, or a clip is not the one that was supplied"},
     {2, "wrong usage: unknown command, option, diagnostic, test, device or file"},
     {3, "cannot be performed: refused, not supported on the command line, or something is lacking"},
-    {4, "not completed: interrupted by an event, no memory, or the output could not be written"},
+    {4, "not completed: interrupted by an event, no memory, no output, or the graphical host broke down or hung"},
     {6, "the audio module or the graphical host cannot be used"},
     {130, "ended by Ctrl-C during run"},
     {143, "asked to end during run"},

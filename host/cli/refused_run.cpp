@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/cli/refused_run.h"
 
-#include "contract/result_codes.h"
 #include "host/cli/console.h"
 #include "host/core/language_setting.h"
 #include "host/reports/run_report.h"
@@ -23,18 +22,19 @@ QString ownFolder()
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Tamrex/TamrexDiagnostics");
 }
 
-RunRecord refusedRecord(const CommandLine &line, const PlannedRun &run, const Device &device, const QString &testNameKey)
+RunRecord recordOf(const CommandLine &line, const PlannedRun &run, const MissedRun &missed)
 {
     RunRecord record;
     record.testLetter = run.test;
-    record.testNameKey = testNameKey;
-    record.device = device;
+    record.testNameKey = missed.testNameKey;
+    record.device = missed.device;
     record.microphone = run.test == QLatin1String("m") ? line.last("microphone") : QString();
     record.language = languageOf(line, run);
     record.startedUtc = QDateTime::currentDateTimeUtc();
     record.endedUtc = record.startedUtc;
     record.wasModuleCalled = false;
-    record.code = ostra::result::cannotBePerformed;
+    record.code = static_cast<std::uint32_t>(missed.end.code);
+    record.reason = missed.end.reason;
     record.isUnattended = true;
     record.listenedTo = sourceOf(line, run);
     return record;
@@ -56,14 +56,12 @@ QString languageOf(const CommandLine &line, const PlannedRun &run)
     return setting.code();
 }
 
-void reportRefusal(const CommandLine &line, const PlannedRun &run, const Device &device, const QString &testNameKey,
-                   const QString &reason, Console &console)
+void reportWithoutHost(const CommandLine &line, const PlannedRun &run, const MissedRun &missed, Console &console)
 {
     const QStringList files = reportsOf(line, run);
     if (files.isEmpty())
         return;
-    RunRecord record = refusedRecord(line, run, device, testNameKey);
-    record.reason = reason;
+    const RunRecord record = recordOf(line, run, missed);
     installTranslators(record.language);
     for (const QString &file : files) {
         QString problem;

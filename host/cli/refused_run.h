@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/cli/command_line.h"
+#include "host/cli/host_process.h"
 #include "host/cli/run_plan.h"
 #include "host/core/device_list.h"
 
@@ -9,10 +10,16 @@ namespace host {
 
 class Console;
 
-/// Writes the reports of a run that does not take place: code 3, why, and nothing about what was played or heard. A file that
-/// cannot be written is complained of. \param testNameKey such as "AUDIO_PLAYBACK_TEST"
-void reportRefusal(const CommandLine &line, const PlannedRun &run, const Device &device, const QString &testNameKey,
-                   const QString &reason, Console &console);
+/// What the graphical host would have known.
+struct MissedRun {
+    Device device;
+    QString testNameKey; ///< such as "AUDIO_PLAYBACK_TEST"
+    HostEnd end;
+};
+
+/// Writes the reports of a run that did not take place or broke down: its code, why, and nothing about what was played or
+/// heard. They take the place of reports that are there. A file that cannot be written is complained of.
+void reportWithoutHost(const CommandLine &line, const PlannedRun &run, const MissedRun &missed, Console &console);
 
 /// The language in which the graphical host would perform that run.
 QString languageOf(const CommandLine &line, const PlannedRun &run);

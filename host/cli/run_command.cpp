@@ -2,6 +2,7 @@
 #include "host/cli/run_command.h"
 
 #include "host/cli/console.h"
+#include "host/cli/host_process.h"
 #include "host/cli/interrupt.h"
 #include "host/cli/refused_run.h"
 #include "host/cli/run_plan.h"
@@ -16,18 +17,13 @@
 #include <QDir>
 #include <QFile>
 #include <QHash>
-#include <QProcess>
 #include <QTemporaryDir>
 
-#include <optional>
+#include <algorithm>
 
 namespace host {
 
 namespace {
-
-constexpr int pollMs = 100;
-/// The host gives back the volumes before it ends.
-constexpr int endLimitMs = 20'000;
 
 ExitCode refuse(Console &console, const QString &message, ExitCode code = ExitCode::usage)
 {
@@ -40,6 +36,8 @@ struct Subjects {
     QList<Device> devices;             ///< in the order in which the user named them
     QHash<QString, QString> testNames; ///< key of the name by the test's letter
     VirtualDevices refused;
+
+    const Device &of(const PlannedRun &run) const { return devices[run.deviceNumber - 1]; }
 };
 
 void noteTests(const ModuleLibrary &library, Subjects &subjects)
@@ -85,49 +83,6 @@ void tellOfVirtualDevices(const Subjects &subjects, Console &console)
     }
 }
 
-std::optional<ExitCode> interruption()
-{
-    const int number = caughtSignal();
-    if (number == 0)
-        return std::nullopt;
-    return number == interruptSignal ? ExitCode::interrupted : ExitCode::terminated;
-}
-
-ExitCode codeOf(const QProcess &process, Console &console)
-{
-    if (process.exitStatus() == QProcess::NormalExit)
-        return static_cast<ExitCode>(process.exitCode());
-    return refuse(console, QStringLiteral("the graphical host broke down (has it a display?)"), ExitCode::notCompleted);
-}
-
-// The terminal has sent the interrupt to the host as well; a request to this process alone is passed on.
-ExitCode endEarly(QProcess &process, ExitCode code)
-{
-    process.terminate();
-    if (!process.waitForFinished(endLimitMs)) {
-        process.kill();
-        process.waitForFinished(endLimitMs);
-    }
-    return code;
-}
-
-ExitCode perform(const QStringList &arguments, Console &console)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/TamrexDiagnostics"), arguments);
-    if (!process.waitForStarted())
-        return refuse(console, QStringLiteral("the graphical host cannot be started: %1").arg(process.errorString()),
-                      ExitCode::noModule);
-    while (process.state() != QProcess::NotRunning) {
-        process.waitForFinished(pollMs);
-        if (const auto code = interruption())
-            return endEarly(process, *code);
-    }
-    return codeOf(process, console);
-}
-
 // A language for this run alone: the user's own stays as it is.
 bool writeLanguage(const QString &folder, const QString &code)
 {
@@ -136,40 +91,65 @@ bool writeLanguage(const QString &folder, const QString &code)
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
 }
 
-ExitCode performOne(const CommandLine &line, const Subjects &subjects, const PlannedRun &run, Console &console)
+// The graphical host reads the devices anew before each run.
+bool isGone(const QString &device)
 {
-    if (const char *refusal = virtualRefusal(subjects.refused, run.device)) {
-        reportRefusal(line, run, subjects.devices[run.deviceNumber - 1], subjects.testNames.value(run.test),
-                      reasonWords(refusal, {run.device}), console);
-        return ExitCode::cannotBePerformed;
-    }
+    ModuleLibrary library;
+    DeviceList list;
+    if (!library.open() || library.module()->componentManager() == nullptr)
+        return false;
+    list.refresh(*library.module()->componentManager());
+    const QList<Device> &devices = list.devices();
+    return std::none_of(devices.begin(), devices.end(), [&device](const Device &other) { return other.name == device; });
+}
+
+HostEnd performHere(const CommandLine &line, const PlannedRun &run, const QString &configFolder, Console &console)
+{
+    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/TamrexDiagnostics");
+    const HostEnd end = performHost(program, argumentsOf(line, run, configFolder), console);
+    if (end.code != ExitCode::usage || !isGone(run.device))
+        return end;
+    const QString reason = reasonWords("REASON_DEVICE_GONE", {run.device});
+    console.complain(reason);
+    return {ExitCode::cannotBePerformed, reason};
+}
+
+HostEnd performOne(const CommandLine &line, const Subjects &subjects, const PlannedRun &run, Console &console)
+{
+    if (const char *refusal = virtualRefusal(subjects.refused, run.device))
+        return {ExitCode::cannotBePerformed, reasonWords(refusal, {run.device})};
     if (run.language.isEmpty())
-        return perform(argumentsOf(line, run, line.last("config")), console);
+        return performHere(line, run, line.last("config"), console);
     const QTemporaryDir folder;
-    if (!folder.isValid() || !writeLanguage(folder.path(), run.language))
-        return refuse(console, QStringLiteral("the run's language cannot be written: %1").arg(folder.errorString()),
-                      ExitCode::notCompleted);
-    return perform(argumentsOf(line, run, folder.path()), console);
+    if (folder.isValid() && writeLanguage(folder.path(), run.language))
+        return performHere(line, run, folder.path(), console);
+    const QString reason = QStringLiteral("the run's language cannot be written: %1").arg(folder.errorString());
+    console.complain(reason);
+    return {ExitCode::notCompleted, reason};
 }
 
 void printOutcome(const PlannedRun &run, ExitCode code, Console &console)
 {
-    console.print(QStringLiteral("%1  %2  %3  '%4'  %5\n")
-                      .arg(QString::number(run.number).rightJustified(3), run.test,
-                           run.language.isEmpty() ? QStringLiteral("-") : run.language, run.device,
-                           resultName(static_cast<std::uint32_t>(code))));
+    console.print(
+        QStringLiteral("%1  %2  %3  '%4'  %5\n")
+            .arg(QString::number(run.number).rightJustified(3), run.test,
+                 run.language.isEmpty() ? QStringLiteral("-") : run.language, run.device,
+                 code == ExitCode::usage ? QStringLiteral("wrong usage") : resultName(static_cast<std::uint32_t>(code))));
 }
 
+// A run that cannot be, or that comes to no end, keeps none of the others from being.
 ExitCode performAll(const CommandLine &line, const Subjects &subjects, const QList<PlannedRun> &runs, Console &console)
 {
     ExitCode worst = ExitCode::success;
     QList<ExitCode> codes;
     for (const PlannedRun &run : runs) {
-        const ExitCode code = performOne(line, subjects, run, console);
-        worst = worseOf(worst, code);
-        codes.append(code);
-        if (interruption() || code == ExitCode::usage)
-            return code;
+        const HostEnd end = performOne(line, subjects, run, console);
+        if (!end.reason.isEmpty())
+            reportWithoutHost(line, run, {subjects.of(run), subjects.testNames.value(run.test), end}, console);
+        if (const auto code = interruption())
+            return *code;
+        worst = worseOf(worst, end.code);
+        codes.append(end.code);
     }
     for (qsizetype index = 0; runs.size() > 1 && index < runs.size(); ++index)
         printOutcome(runs[index], codes[index], console);

@@ -21,7 +21,7 @@ struct KnownReason {
 
 // In the words that the operator, the check of the channels and the programs of both say them with. The first that fits is
 // meant.
-constexpr std::array<KnownReason, 49> knownReasons{{
+constexpr std::array<KnownReason, 55> knownReasons{{
     {"REASON_STOPPED", "the run was stopped"},
     {"REASON_TOOK_TOO_LONG", "the run took longer than five minutes"},
     {"REASON_VIRTUAL_DEVICE", "'%1' is a virtual device: a verdict on it says nothing about this machine"},
@@ -69,6 +69,12 @@ constexpr std::array<KnownReason, 49> knownReasons{{
     {"REASON_SOURCE_DEAD", "the source delivered no sound"},
     {"REASON_DEVICE_NOT_OPENED", "the device could not be opened"},
     {"REASON_DEVICE_DID_NOT_PLAY", "the device did not play"},
+    {"REASON_RUN_NOT_TAKEN", "the run could not begin: another one is under way, or the device is gone"},
+    {"REASON_HOST_BROKE_DOWN", "the graphical host ended without a verdict (has it a display?)"},
+    {"REASON_HOST_HUNG", "the graphical host did not come to an end"},
+    {"REASON_HOST_NOT_STARTED", "the graphical host cannot be started: %1"},
+    {"REASON_NO_MODULE", "the graphical host cannot use the audio module"},
+    {"REASON_DEVICE_GONE", "the device '%1' is no longer there"},
     {"REASON_SERVER_SILENT", "audio_listener: no sound server: %1"},
     {"REASON_TOLD", "%1"},
 }};

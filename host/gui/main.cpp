@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/core/sound_environment.h"
 #include "host/gui/console_output.h"
+#include "host/gui/process_end.h"
 #include "host/gui/program.h"
 #include "host/gui/window_check.h"
 
@@ -30,6 +31,19 @@ QString printedText(const host::Options &options)
     return options.isCompletion ? host::completionOfHost() : QString();
 }
 
+int runWindows(int argc, char *argv[], const host::Options &options)
+{
+    const QApplication application(argc, argv);
+    if (options.isSelfCheck) {
+        host::print(QString::fromUtf8(host::windowCheckLine(host::checkWindows())));
+        return 0;
+    }
+    QCoreApplication::setOrganizationName(QStringLiteral("Tamrex"));
+    QCoreApplication::setApplicationName(QStringLiteral("TamrexDiagnostics"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(HOST_VERSION));
+    return host::runGuiProgram(options);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -47,13 +61,8 @@ int main(int argc, char *argv[])
     }
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0"); // the module's dialogs scale themselves
     host::keepInterruptSignals();
-    const QApplication application(argc, argv);
-    if (options.isSelfCheck) {
-        host::print(QString::fromUtf8(host::windowCheckLine(host::checkWindows())));
-        return 0;
-    }
-    QCoreApplication::setOrganizationName(QStringLiteral("Tamrex"));
-    QCoreApplication::setApplicationName(QStringLiteral("TamrexDiagnostics"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(HOST_VERSION));
-    return host::runGuiProgram(options);
+    host::guardProcessEnd();
+    const int code = runWindows(argc, argv, options);
+    host::releaseProcessEnd();
+    return code;
 }

@@ -18,7 +18,7 @@ constexpr std::array<HostExitCode, 8> exitCodes{{
     {1, "failed"},
     {2, "wrong usage"},
     {3, "cannot be performed"},
-    {4, "not completed"},
+    {4, "not completed, as when the display is lost"},
     {6, "no module or an invalid call"},
     {130, "interrupted by Ctrl-C"},
     {143, "asked to end"},

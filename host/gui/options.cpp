@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-constexpr std::array<OptionOfHost, 21> knownOptions{{
+constexpr std::array<OptionOfHost, 22> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
@@ -23,6 +23,7 @@ constexpr std::array<OptionOfHost, 21> knownOptions{{
     {"microphone", "NAME", "the microphone that test m chooses (the first one)", true},
     {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
     {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},
+    {"verdict-file", "FILE", "write the exit code there last: where it is missing, the run has not come to one", true},
     {"keep-audio", "FILE", "keep all that is heard, voices too, in FILE (.wav); without it no sound is kept", true},
     {"channel-check", nullptr, "check left and right before the run, at the present volume; no part of the verdict", true},
     {"screenshots", "DIR", "photograph the windows into that folder", true},
@@ -160,6 +161,7 @@ Options readValues(const QCommandLineParser &parser)
     const QStringList reports = parser.values(QStringLiteral("report"));
     for (const QString &file : reports)
         options.reportFiles.append(absolute(file));
+    options.verdictFile = absolute(parser.value(QStringLiteral("verdict-file")));
     options.keptAudio = absolute(parser.value(QStringLiteral("keep-audio")));
     options.isChannelCheck = parser.isSet(QStringLiteral("channel-check"));
     options.screenshotsFolder = absolute(parser.value(QStringLiteral("screenshots")));

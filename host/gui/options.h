@@ -26,7 +26,8 @@ struct Options {
     QString microphone;   ///< empty for the first one
     QString speakThrough; ///< output; empty for the tested device
     QStringList reportFiles;
-    QString keptAudio; ///< file for what is heard; empty: no sound is kept
+    QString verdictFile; ///< file for the exit code alone; empty: none
+    QString keptAudio;   ///< file for what is heard; empty: no sound is kept
     QString language;
     bool isChannelCheck = false; ///< left and right are checked before the run
     QString screenshotsFolder;

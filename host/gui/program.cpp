@@ -13,6 +13,7 @@
 #include "host/gui/listening_tools.h"
 #include "host/gui/main_window.h"
 #include "host/gui/plot_view.h"
+#include "host/gui/process_end.h"
 #include "host/gui/run_bar.h"
 #include "host/gui/run_keys.h"
 #include "host/gui/unattended_run.h"
@@ -142,6 +143,7 @@ private:
         session_.refresh();
         if (!options_.isUnattended)
             return;
+        guardProcessEnd(); // again: the module's libraries are there now
         UnattendedRun unattended(session_, options_, language_.code());
         unattended.setMeter([this](const MeteredMoment &moment) { levels_.take(moment); });
         QString problem;
@@ -151,7 +153,9 @@ private:
             return;
         }
         window_.choose(unattended.test(), unattended.device());
-        window_.quit(unattended.run());
+        const int code = unattended.run();
+        noteVerdict(code);
+        window_.quit(code);
     }
 
     Options options_;

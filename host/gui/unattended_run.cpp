@@ -19,6 +19,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QFile>
 #include <QScopeGuard>
 #include <QTimer>
 
@@ -46,7 +47,9 @@ bool UnattendedRun::prepare(QString &problem)
     problem.clear();
     test_ = session_.findTest(options_.test);
     device_ = session_.deviceList().find(options_.device);
-    if (test_ < 0)
+    if (!clearVerdict())
+        problem = QStringLiteral("the verdict cannot be written into '%1'").arg(options_.verdictFile);
+    else if (test_ < 0)
         problem = QStringLiteral("the module has no test '%1'").arg(options_.test);
     else if (device_ < 0)
         problem = unknownDevice(options_.device, session_.deviceList().devices());
@@ -65,13 +68,12 @@ bool UnattendedRun::prepare(QString &problem)
 
 int UnattendedRun::run()
 {
-    const std::optional<RunRecord> record = perform();
-    if (!record)
-        return static_cast<int>(ostra::result::notCompleted);
-    print(runSummary(*record));
-    const std::uint32_t code = codeOf(verdictOf(*record));
-    const bool isReported = writeReports(*record);
-    return static_cast<int>(isReported || code != ostra::result::passed ? code : ostra::result::notCompleted);
+    const RunRecord record = perform().value_or(notTaken());
+    print(runSummary(record));
+    const std::uint32_t code = codeOf(verdictOf(record));
+    const bool isReported = writeReports(record);
+    const bool isCodeKept = isReported || code != ostra::result::passed;
+    return writeVerdict(static_cast<int>(isCodeKept ? code : ostra::result::notCompleted));
 }
 
 std::optional<RunRecord> UnattendedRun::perform()
@@ -191,6 +193,22 @@ std::optional<RunRecord> UnattendedRun::unheard(const QString &reason)
     return session_.refuse(test_, device_, language_, reason, [this](RunRecord &record) { describe(record); });
 }
 
+// The session takes one run at a time, and a device that is there.
+RunRecord UnattendedRun::notTaken() const
+{
+    RunRecord record;
+    record.testLetter = options_.test;
+    record.testNameKey = session_.tests()[test_].nameKey;
+    record.device = session_.deviceList().devices().value(device_);
+    record.language = language_;
+    record.startedUtc = QDateTime::currentDateTimeUtc();
+    record.endedUtc = record.startedUtc;
+    record.wasModuleCalled = false;
+    record.reason = reasonWords("REASON_RUN_NOT_TAKEN");
+    describe(record);
+    return record;
+}
+
 std::optional<RunRecord> UnattendedRun::stopped() { return notCompleted(reasonWords("REASON_STOPPED"), true); }
 
 std::optional<RunRecord> UnattendedRun::notCompleted(const QString &reason, bool wasStopped)
@@ -233,6 +251,23 @@ bool UnattendedRun::writeReports(const RunRecord &record) const
         isWritten = false;
     }
     return isWritten;
+}
+
+// An earlier run's would be taken for this one's.
+bool UnattendedRun::clearVerdict() const
+{
+    const QString &file = options_.verdictFile;
+    return file.isEmpty() || ((!QFile::exists(file) || QFile::remove(file)) && canWriteBeside(file));
+}
+
+// After all else: where it is, the run is complete.
+int UnattendedRun::writeVerdict(int exitCode) const
+{
+    QString problem;
+    if (options_.verdictFile.isEmpty() || writeReportFile(QByteArray::number(exitCode) + '\n', options_.verdictFile, &problem))
+        return exitCode;
+    complain(problem);
+    return static_cast<int>(ostra::result::notCompleted);
 }
 
 } // namespace host

@@ -27,7 +27,8 @@ public:
     /// What is heard goes there, ten times a second.
     void setMeter(std::function<void(const MeteredMoment &)> meter) { meter_ = std::move(meter); }
 
-    /// Runs it, writes the reports, prints verdict and digits on standard output, and returns the program's exit code.
+    /// Runs it, writes the reports and last the verdict's file, prints verdict and digits on standard output, and returns the
+    /// program's exit code.
     int run();
     /// Runs it without a word on standard output, and without reports.
     std::optional<RunRecord> perform();
@@ -43,9 +44,12 @@ private:
     std::optional<RunRecord> unheard(const QString &reason);
     std::optional<RunRecord> stopped();
     std::optional<RunRecord> notCompleted(const QString &reason, bool wasStopped);
+    RunRecord notTaken() const;
     bool checkChannels();
     void describe(RunRecord &record) const;
     bool writeReports(const RunRecord &record) const;
+    bool clearVerdict() const;
+    int writeVerdict(int exitCode) const; ///< the program's exit code
 
     TestSession &session_;
     Options options_;

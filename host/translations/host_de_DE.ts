@@ -76,6 +76,30 @@
         <translation>Der Durchlauf dauerte länger als fünf Minuten.</translation>
     </message>
     <message>
+        <source>REASON_RUN_NOT_TAKEN</source>
+        <translation>Der Durchlauf konnte nicht beginnen: Ein anderer läuft gerade, oder das Gerät ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_BROKE_DOWN</source>
+        <translation>Das grafische Programm endete ohne Ergebnis, wie es bei einem Verlust der Anzeige geschieht.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_HUNG</source>
+        <translation>Das grafische Programm kam zu keinem Ende.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_NOT_STARTED</source>
+        <translation>Das grafische Programm lässt sich nicht starten: %1</translation>
+    </message>
+    <message>
+        <source>REASON_NO_MODULE</source>
+        <translation>Das grafische Programm kann das Audiomodul nicht verwenden.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>Das Gerät „%1“ ist nicht mehr da.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>„%1“ ist ein virtuelles Gerät: Ein Ergebnis darauf sagt nichts über diesen Computer aus.</translation>
     </message>

@@ -76,6 +76,30 @@
         <translation>The run took longer than five minutes.</translation>
     </message>
     <message>
+        <source>REASON_RUN_NOT_TAKEN</source>
+        <translation>The run could not begin: another one is under way, or the device is gone.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_BROKE_DOWN</source>
+        <translation>The graphical program ended without a verdict, as it does when its display is lost.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_HUNG</source>
+        <translation>The graphical program did not come to an end.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_NOT_STARTED</source>
+        <translation>The graphical program cannot be started: %1</translation>
+    </message>
+    <message>
+        <source>REASON_NO_MODULE</source>
+        <translation>The graphical program cannot use the audio module.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>The device “%1” is no longer there.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>“%1” is a virtual device: a result on it says nothing about this computer.</translation>
     </message>

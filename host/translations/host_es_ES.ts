@@ -76,6 +76,30 @@
         <translation>La ejecución ha durado más de cinco minutos.</translation>
     </message>
     <message>
+        <source>REASON_RUN_NOT_TAKEN</source>
+        <translation>La ejecución no pudo comenzar: hay otra en curso o el dispositivo ya no está.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_BROKE_DOWN</source>
+        <translation>El programa gráfico terminó sin resultado, como ocurre cuando se pierde la pantalla.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_HUNG</source>
+        <translation>El programa gráfico no llegó a terminar.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_NOT_STARTED</source>
+        <translation>No se puede iniciar el programa gráfico: %1</translation>
+    </message>
+    <message>
+        <source>REASON_NO_MODULE</source>
+        <translation>El programa gráfico no puede usar el módulo de audio.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>El dispositivo «%1» ya no está.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>«%1» es un dispositivo virtual: un resultado en él no dice nada sobre este equipo.</translation>
     </message>

@@ -76,6 +76,30 @@
         <translation>L’exécution a duré plus de cinq minutes.</translation>
     </message>
     <message>
+        <source>REASON_RUN_NOT_TAKEN</source>
+        <translation>L’exécution n’a pas pu commencer : une autre est en cours ou le périphérique n’est plus là.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_BROKE_DOWN</source>
+        <translation>Le programme graphique s’est terminé sans résultat, comme lors de la perte de l’affichage.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_HUNG</source>
+        <translation>Le programme graphique ne s’est pas terminé.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_NOT_STARTED</source>
+        <translation>Impossible de démarrer le programme graphique : %1</translation>
+    </message>
+    <message>
+        <source>REASON_NO_MODULE</source>
+        <translation>Le programme graphique ne peut pas utiliser le module audio.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>Le périphérique « %1 » n’est plus là.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>« %1 » est un périphérique virtuel : un résultat sur celui-ci ne dit rien de cet ordinateur.</translation>
     </message>

@@ -76,6 +76,30 @@
         <translation>L’esecuzione è durata più di cinque minuti.</translation>
     </message>
     <message>
+        <source>REASON_RUN_NOT_TAKEN</source>
+        <translation>L’esecuzione non è potuta iniziare: ne è in corso un’altra o il dispositivo non c’è più.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_BROKE_DOWN</source>
+        <translation>Il programma grafico è terminato senza un esito, come accade quando si perde lo schermo.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_HUNG</source>
+        <translation>Il programma grafico non è giunto al termine.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_NOT_STARTED</source>
+        <translation>Impossibile avviare il programma grafico: %1</translation>
+    </message>
+    <message>
+        <source>REASON_NO_MODULE</source>
+        <translation>Il programma grafico non può usare il modulo audio.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>Il dispositivo «%1» non c’è più.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>«%1» è un dispositivo virtuale: un risultato su di esso non dice nulla su questo computer.</translation>
     </message>

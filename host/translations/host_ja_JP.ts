@@ -76,6 +76,30 @@
         <translation>実行に5分以上かかりました。</translation>
     </message>
     <message>
+        <source>REASON_RUN_NOT_TAKEN</source>
+        <translation>実行を開始できませんでした。別の実行が進行中か、デバイスがなくなっています。</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_BROKE_DOWN</source>
+        <translation>グラフィカルプログラムが結果を出さずに終了しました（ディスプレイが失われた場合など）。</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_HUNG</source>
+        <translation>グラフィカルプログラムが終了しませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_NOT_STARTED</source>
+        <translation>グラフィカルプログラムを起動できません: %1</translation>
+    </message>
+    <message>
+        <source>REASON_NO_MODULE</source>
+        <translation>グラフィカルプログラムがオーディオモジュールを使用できません。</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>デバイス「%1」はもうありません。</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>「%1」は仮想デバイスです。このデバイスでの結果からは、このコンピューターについて何も分かりません。</translation>
     </message>

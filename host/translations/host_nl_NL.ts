@@ -76,6 +76,30 @@
         <translation>De uitvoering duurde langer dan vijf minuten.</translation>
     </message>
     <message>
+        <source>REASON_RUN_NOT_TAKEN</source>
+        <translation>De uitvoering kon niet beginnen: er is een andere bezig of het apparaat is er niet meer.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_BROKE_DOWN</source>
+        <translation>Het grafische programma eindigde zonder resultaat, zoals bij het wegvallen van het beeldscherm.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_HUNG</source>
+        <translation>Het grafische programma kwam niet tot een einde.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_NOT_STARTED</source>
+        <translation>Het grafische programma kan niet worden gestart: %1</translation>
+    </message>
+    <message>
+        <source>REASON_NO_MODULE</source>
+        <translation>Het grafische programma kan de audiomodule niet gebruiken.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>Het apparaat ‘%1’ is er niet meer.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>‘%1’ is een virtueel apparaat: een resultaat daarop zegt niets over deze computer.</translation>
     </message>

@@ -76,6 +76,30 @@
         <translation>A execução demorou mais de cinco minutos.</translation>
     </message>
     <message>
+        <source>REASON_RUN_NOT_TAKEN</source>
+        <translation>A execução não pôde começar: há outra em andamento ou o dispositivo não está mais presente.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_BROKE_DOWN</source>
+        <translation>O programa gráfico terminou sem resultado, como ocorre quando a tela é perdida.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_HUNG</source>
+        <translation>O programa gráfico não chegou ao fim.</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_NOT_STARTED</source>
+        <translation>Não é possível iniciar o programa gráfico: %1</translation>
+    </message>
+    <message>
+        <source>REASON_NO_MODULE</source>
+        <translation>O programa gráfico não consegue usar o módulo de áudio.</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>O dispositivo “%1” não está mais presente.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>“%1” é um dispositivo virtual: um resultado nele não diz nada sobre este computador.</translation>
     </message>

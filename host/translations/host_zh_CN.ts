@@ -76,6 +76,30 @@
         <translation>运行时间超过五分钟。</translation>
     </message>
     <message>
+        <source>REASON_RUN_NOT_TAKEN</source>
+        <translation>无法开始运行：另一个运行正在进行，或者设备已不存在。</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_BROKE_DOWN</source>
+        <translation>图形程序未给出结果就结束了，例如在显示器丢失时。</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_HUNG</source>
+        <translation>图形程序没有结束。</translation>
+    </message>
+    <message>
+        <source>REASON_HOST_NOT_STARTED</source>
+        <translation>无法启动图形程序：%1</translation>
+    </message>
+    <message>
+        <source>REASON_NO_MODULE</source>
+        <translation>图形程序无法使用音频模块。</translation>
+    </message>
+    <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>设备“%1”已不存在。</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>“%1”是虚拟设备：其测试结果不能说明本计算机的状况。</translation>
     </message>

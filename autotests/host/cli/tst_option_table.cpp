@@ -106,7 +106,7 @@ void TestOptionTable::ordersExitCodes()
 {
     const std::array order{ExitCode::success,      ExitCode::cannotBePerformed,
                            ExitCode::notCompleted, ExitCode::noModule,
-                           ExitCode::failed,       ExitCode::usage};
+                           ExitCode::usage,        ExitCode::failed};
     for (std::size_t better = 0; better < order.size(); ++better) {
         for (std::size_t worse = better; worse < order.size(); ++worse) {
             QCOMPARE(host::worseOf(order[better], order[worse]), order[worse]);

@@ -105,7 +105,7 @@ void TestHostOptions::readsSeveralEvents()
 void TestHostOptions::makesPathsAbsolute()
 {
     const auto result = read(QStringLiteral("--unattended --test m --device 0 --listen x --report r.json --report r.HTML "
-                                            "--screenshots pictures --keep-audio h.wav --config ."));
+                                            "--screenshots pictures --keep-audio h.wav --config . --verdict-file v"));
     const auto *options = std::get_if<host::Options>(&result);
     QVERIFY(options != nullptr);
     const QDir current = QDir::current();
@@ -113,6 +113,7 @@ void TestHostOptions::makesPathsAbsolute()
                                                 current.absoluteFilePath(QStringLiteral("r.HTML"))}));
     QCOMPARE(options->screenshotsFolder, QDir::current().absoluteFilePath(QStringLiteral("pictures")));
     QCOMPARE(options->keptAudio, current.absoluteFilePath(QStringLiteral("h.wav")));
+    QCOMPARE(options->verdictFile, current.absoluteFilePath(QStringLiteral("v")));
     QVERIFY(QDir::isAbsolutePath(options->configFolder));
 }
 
