@@ -175,7 +175,7 @@ void TestLoopbackTimeline::followsAClockThatDrifts()
     Capture capture;
     for (int look = 0; look < 60'000; ++look) // ten minutes of a device that is 0.2 % slow
         capture.look(10ms, packetFrameCount - (look % 2 == 0 ? 1 : 0));
-    QCOMPARE(capture.frameCount(), capture.soundFrameCount());
+    QVERIFY(capture.frameCount() - capture.soundFrameCount() <= 1); // before the first packet
     QVERIFY(capture.stretches().back().end == capture.now());
 }
 
