@@ -21,7 +21,11 @@ constexpr std::array<OptionRow, 23> options{{
      "the test to run, p: audio playback, m: microphone; p without it", true},
     {"device", nullptr, "NAME", "run", Completion::none, nullptr, "the device to test: its exact name or its number", true},
     {"listen", nullptr, "SOURCE", "run", Completion::none, nullptr,
-     "the capture source that hears the device; without it \"Monitor of \" and the device's name", false},
+     "the capture source that hears the device: an input's name, or \"loopback:\" and the device's own name for what it is "
+     "given "
+     "to play, which proves the way to the system's mixer only; without it the device's monitor or, where there is none, its "
+     "loopback",
+     false},
     {"microphone", nullptr, "NAME", "run", Completion::none, nullptr,
      "the microphone that test m chooses; the first one without it", false},
     {"speak-through", nullptr, "OUTPUT", "run", Completion::none, nullptr,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/cli/run_plan.h"
 
+#include "host/cli/default_source.h"
+#include "host/core/capture_source.h"
 #include "host/reports/report_formats.h"
 #include "host/reports/writable_folder.h"
 #include "host/translations/translators.h"
@@ -101,7 +103,7 @@ std::optional<UsageError> checkRun(const CommandLine &line)
 
 QString sourceOf(const CommandLine &line, const PlannedRun &run)
 {
-    return line.isSet("listen") ? line.last("listen") : QStringLiteral("Monitor of ") + run.device;
+    return line.isSet("listen") ? systemSource(line.last("listen")) : defaultSource(run.device);
 }
 
 QStringList reportsOf(const CommandLine &line, const PlannedRun &run)

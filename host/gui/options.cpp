@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/gui/options.h"
 
+#include "host/core/capture_source.h"
 #include "host/core/language_setting.h"
 #include "host/reports/report_formats.h"
 
@@ -19,7 +20,7 @@ constexpr std::array<OptionOfHost, 22> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
-    {"listen", "SOURCE", "the capture source that hears the device; test m shows its level", false},
+    {"listen", "SOURCE", "the source that hears the device: an input, or loopback:DEVICE; test m shows its level", false},
     {"microphone", "NAME", "the microphone that test m chooses (the first one)", true},
     {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
     {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},
@@ -154,7 +155,7 @@ Options readValues(const QCommandLineParser &parser)
     options.isDeveloper = parser.isSet(QStringLiteral("developer"));
     options.test = parser.value(QStringLiteral("test"));
     options.device = parser.value(QStringLiteral("device"));
-    options.source = parser.value(QStringLiteral("listen"));
+    options.source = systemSource(parser.value(QStringLiteral("listen")));
     options.microphone = parser.value(QStringLiteral("microphone"));
     options.speakThrough = parser.value(QStringLiteral("speak-through"));
     options.language = parser.value(QStringLiteral("language"));

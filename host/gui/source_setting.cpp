@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/gui/source_setting.h"
 
+#include "host/core/capture_source.h"
+
 #include <QDir>
 #include <QSettings>
 
@@ -17,7 +19,7 @@ QString fileIn(const QString &folder) { return QDir(folder).filePath(QStringLite
 } // namespace
 
 SourceSetting::SourceSetting(QString folder)
-    : folder_(std::move(folder)), source_(QSettings(fileIn(folder_), QSettings::IniFormat).value(key).toString())
+    : folder_(std::move(folder)), source_(systemSource(QSettings(fileIn(folder_), QSettings::IniFormat).value(key).toString()))
 {}
 
 bool SourceSetting::change(const QString &source)

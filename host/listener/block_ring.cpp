@@ -5,18 +5,18 @@
 
 namespace host {
 
-void BlockRing::write(std::span<const float> interleaved, SteadyTime end) noexcept
+void BlockRing::write(std::span<const float> interleaved, SteadyTime end, bool isHeard) noexcept
 {
     constexpr std::size_t maxSampleCount = SoundBlock::maxFrameCount * captureChannelCount;
     while (!interleaved.empty()) {
         const auto part = interleaved.first(std::min(interleaved.size(), maxSampleCount));
         interleaved = interleaved.subspan(part.size());
         const auto framesAfter = static_cast<std::int64_t>(interleaved.size() / captureChannelCount);
-        writeBlock(part, end - std::chrono::microseconds(framesAfter * 1'000'000 / captureRate));
+        writeBlock(part, end - std::chrono::microseconds(framesAfter * 1'000'000 / captureRate), isHeard);
     }
 }
 
-void BlockRing::writeBlock(std::span<const float> interleaved, SteadyTime end) noexcept
+void BlockRing::writeBlock(std::span<const float> interleaved, SteadyTime end, bool isHeard) noexcept
 {
     const std::uint64_t written = written_.load(std::memory_order_relaxed);
     if (written - read_.load(std::memory_order_acquire) >= blockCount) {
@@ -25,6 +25,7 @@ void BlockRing::writeBlock(std::span<const float> interleaved, SteadyTime end) n
     }
     SoundBlock &block = (*blocks_)[written % blockCount];
     block.end = end;
+    block.isHeard = isHeard;
     block.frameCount = interleaved.size() / captureChannelCount;
     std::copy(interleaved.begin(), interleaved.end(), block.samples.begin());
     written_.store(written + 1, std::memory_order_release);

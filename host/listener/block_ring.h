@@ -20,7 +20,8 @@ constexpr std::size_t captureChannelCount = 2;
 struct SoundBlock {
     static constexpr std::size_t maxFrameCount = 1024;
 
-    SteadyTime end; ///< when its last frame arrived
+    SteadyTime end;      ///< when its last frame arrived
+    bool isHeard = true; ///< false for silence that stands for time of which nothing is known
     std::size_t frameCount = 0;
     std::array<float, maxFrameCount * captureChannelCount> samples{}; ///< interleaved
 
@@ -31,8 +32,8 @@ struct SoundBlock {
 /// allocates. Holds 5.4 s at least; what comes while it is full is counted and dropped.
 class BlockRing {
 public:
-    /// Writing thread: copies interleaved frames that ended at `end`.
-    void write(std::span<const float> interleaved, SteadyTime end) noexcept;
+    /// Writing thread: copies interleaved frames that ended at `end`. `isHeard` as in `SoundBlock`.
+    void write(std::span<const float> interleaved, SteadyTime end, bool isHeard = true) noexcept;
 
     /// Reading thread: the oldest block, or null when there is none. Valid until `release`.
     const SoundBlock *oldest() const noexcept;
@@ -43,7 +44,7 @@ public:
 private:
     static constexpr std::size_t blockCount = 256;
 
-    void writeBlock(std::span<const float> interleaved, SteadyTime end) noexcept;
+    void writeBlock(std::span<const float> interleaved, SteadyTime end, bool isHeard) noexcept;
 
     std::unique_ptr<std::array<SoundBlock, blockCount>> blocks_ = std::make_unique<std::array<SoundBlock, blockCount>>();
     std::atomic<std::uint64_t> written_{0};

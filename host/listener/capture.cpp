@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/listener/capture.h"
 
+#include "host/core/capture_source.h"
+
 #include <SDL.h>
 
 #include <cstdint>
@@ -55,11 +57,23 @@ QStringList Capture::sources() const
         if (const char *name = SDL_GetAudioDeviceName(index, SDL_TRUE))
             names.append(QString::fromUtf8(name));
     }
+    for (const QString &device : LoopbackCapture::devices())
+        names.append(loopbackPrefix + device);
     return names;
+}
+
+bool Capture::openLoopback(const QString &device)
+{
+    const bool isOpen = loopback_.open(device, ring_);
+    errorText_ = loopback_.errorText();
+    sourceChannelCount_ = loopback_.channelCount();
+    return isOpen;
 }
 
 bool Capture::open(const QString &source)
 {
+    if (const QString device = loopbackDevice(source); !device.isEmpty())
+        return openLoopback(device);
     SDL_AudioSpec wanted{};
     wanted.freq = static_cast<int>(captureRate);
     wanted.format = AUDIO_F32SYS;
@@ -77,6 +91,9 @@ bool Capture::open(const QString &source)
     return true;
 }
 
-bool Capture::isLost() const { return SDL_GetAudioDeviceStatus(device_) == SDL_AUDIO_STOPPED; }
+bool Capture::isLost() const
+{
+    return device_ == 0 ? loopback_.isLost() : SDL_GetAudioDeviceStatus(device_) == SDL_AUDIO_STOPPED;
+}
 
 } // namespace host

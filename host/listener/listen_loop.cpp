@@ -62,7 +62,7 @@ private:
     {
         while (const SoundBlock *block = capture_.ring().oldest()) {
             ear_->feed(block->frames(), block->end);
-            arrivedFrameCount_ += block->frameCount;
+            arrivedFrameCount_ += block->isHeard ? block->frameCount : 0;
             if (recording_.isOpen() && isReady_)
                 recording_.append(block->frames());
             if (meter_ && isReady_) // the first event is "ready"

@@ -76,7 +76,7 @@ QString listenerHelp()
 Listens to a capture source and tells which spoken digits it hears, or where it hears a given clip, one JSON object a line.
 
   --list           names the capture sources, also those that hear what a device plays
-  --source NAME    listen to this one: its exact name
+  --source NAME    listen to this one: its exact name, or "loopback:" and the name of an output
   --clips DIR      folder with one folder of ten clips a language
   --language CODE  language of the digits, such as en_US
   --find FILE      look for this clip of up to 5 s (16-bit WAVE) instead of digits

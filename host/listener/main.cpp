@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "host/core/capture_source.h"
 #include "host/listener/event_lines.h"
 #include "host/listener/listen_loop.h"
 #include "host/measure/digit_clips.h"
@@ -84,10 +85,13 @@ ListenerExit listenTo(Capture &capture, const ListenerOptions &options)
     const host::EarMaker makeEar = earFor(options);
     if (!makeEar)
         return refuseClips(options);
-    const QStringList known = capture.sources();
-    if (!known.contains(options.source))
-        return refuseSource(options.source, known);
-    if (!capture.open(options.source))
+    const QString source = host::systemSource(options.source);
+    if (host::loopbackDevice(source).isEmpty()) {
+        const QStringList known = capture.sources();
+        if (!known.contains(source))
+            return refuseSource(options.source, known);
+    }
+    if (!capture.open(source))
         return refuse(ListenerExit::noSource,
                       QStringLiteral("'%1' cannot be opened: %2").arg(options.source, capture.errorText()));
     return host::listen(capture, makeEar, options);

@@ -18,6 +18,16 @@ QStringList limitsOfMonitor()
             QStringLiteral("The levels are those of the digital signal, not of a sound.")};
 }
 
+bool isLoopback(const QString &source) { return !loopbackDevice(source).isEmpty(); }
+
+QStringList limitsOfLoopback()
+{
+    return {
+        QStringLiteral("A loopback hears what the system's mixer hands to the device: this run proves the digital path up to "
+                       "that mixer, not the device's own volume, the amplifier, the plug, the cable or the loudspeaker."),
+        QStringLiteral("The levels are those of the digital signal, not of a sound.")};
+}
+
 QStringList limitsOfMicrophone()
 {
     return {
@@ -45,7 +55,9 @@ QStringList limitsOfSilence()
 
 QStringList limitsOfListening(const RunRecord &record)
 {
-    QStringList limits = isMonitor(record.listenedTo) ? limitsOfMonitor() : limitsOfMicrophone();
+    QStringList limits = isLoopback(record.listenedTo)  ? limitsOfLoopback()
+                         : isMonitor(record.listenedTo) ? limitsOfMonitor()
+                                                        : limitsOfMicrophone();
     if (wasSilent(record))
         limits.append(limitsOfSilence());
     limits.append(
@@ -83,6 +95,19 @@ QStringList limitsOfPlayback(const RunRecord &record)
     return limits;
 }
 
+QString limitOfPlaybackEar(const QString &source)
+{
+    if (isLoopback(source))
+        return QStringLiteral(
+            "A loopback heard the playback: this run proves the digital path up to the system's mixer, not the "
+            "device's own volume, the amplifier, the plug, the cable or the loudspeaker.");
+    return isMonitor(source)
+               ? QStringLiteral("A monitor heard the playback: this run proves the digital path up to the sound server, "
+                                "not the amplifier, the cable or the loudspeaker.")
+               : QStringLiteral("A microphone heard the playback: what it heard may have come from another "
+                                "loudspeaker, and its levels depend on its distance.");
+}
+
 QStringList limitsOfMicrophoneTest(const RunRecord &record)
 {
     QStringList limits{QStringLiteral("One microphone was tested: the machine's other inputs were not."),
@@ -94,11 +119,7 @@ QStringList limitsOfMicrophoneTest(const RunRecord &record)
     limits.append(QStringLiteral("The sentence was spoken by a loudspeaker: a recording without it can be the fault of that "
                                  "loudspeaker, of its volume or of its distance."));
     limits.append(QStringLiteral("Only the first five seconds of what the microphone hears were recorded."));
-    limits.append(isMonitor(record.listenedTo)
-                      ? QStringLiteral("A monitor heard the playback: this run proves the digital path up to the sound server, "
-                                       "not the amplifier, the cable or the loudspeaker.")
-                      : QStringLiteral("A microphone heard the playback: what it heard may have come from another "
-                                       "loudspeaker, and its levels depend on its distance."));
+    limits.append(limitOfPlaybackEar(record.listenedTo));
     limits.append(QStringLiteral("The sentence was compared below 4 kHz: what happens to higher tones is not known."));
     limits.append(QStringLiteral("The latency is the delay of the playback beyond that of the recording; a sound server works "
                                  "a tenth of a second ahead or behind, so it can be below zero."));

@@ -17,6 +17,17 @@ HANDLE openForChild(const std::filesystem::path &file)
                        nullptr);
 }
 
+// The child's end; ours must not reach it, or its input would have no end.
+HANDLE openPipe(HANDLE &ours)
+{
+    SECURITY_ATTRIBUTES inheritable{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
+    HANDLE theirs = nullptr;
+    if (!CreatePipe(&theirs, &ours, &inheritable, 0))
+        return nullptr;
+    SetHandleInformation(ours, HANDLE_FLAG_INHERIT, 0);
+    return theirs;
+}
+
 } // namespace
 
 ChildProcess::ChildProcess(const std::wstring &command, const std::filesystem::path &folder,
@@ -26,16 +37,27 @@ ChildProcess::ChildProcess(const std::wstring &command, const std::filesystem::p
     STARTUPINFOW start{};
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdInput = openPipe(input_);
     start.hStdOutput = output_;
     start.hStdError = output_;
     std::wstring changeable = command;
     if (!CreateProcessW(nullptr, changeable.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr, folder.c_str(), &start,
                         &process_))
         process_ = {};
+    if (start.hStdInput != nullptr)
+        CloseHandle(start.hStdInput);
+}
+
+void ChildProcess::endInput()
+{
+    if (input_ != nullptr)
+        CloseHandle(input_);
+    input_ = nullptr;
 }
 
 ChildProcess::~ChildProcess()
 {
+    endInput();
     if (process_.hProcess != nullptr) {
         if (isRunning())
             TerminateProcess(process_.hProcess, 1);

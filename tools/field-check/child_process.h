@@ -11,7 +11,7 @@
 
 namespace field_check {
 
-/// A program that was started, with what it prints kept. Ended with this object at the latest.
+/// A program that was started, with what it prints kept and an input without an end. Ended with this object at the latest.
 class ChildProcess {
 public:
     /// Starts the command in that current folder; its output goes to the file.
@@ -20,6 +20,8 @@ public:
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;
 
+    /// Ends its input, which asks a listener to end.
+    void endInput();
     bool isRunning() const;
     DWORD id() const noexcept { return process_.dwProcessId; }
     /// The exit code; nothing when it did not start or is still running after that time.
@@ -29,6 +31,7 @@ public:
 
 private:
     PROCESS_INFORMATION process_{};
+    HANDLE input_ = nullptr; ///< our end of its input
     HANDLE output_ = INVALID_HANDLE_VALUE;
 };
 

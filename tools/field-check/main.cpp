@@ -19,7 +19,7 @@ constexpr const char *usage =
     R"(Usage: field-check [--nobody] [--results FOLDER]
 
 Looks at what only a real Windows can show: COM on worker threads, the volume up and back, hot-plug, the drivers'
-versions, scales of 100 to 300 %, the four contrast themes, planted libraries, capture from an output, the installer.
+versions, scales of 100 to 300 %, the four contrast themes, planted libraries, the loopback of an output, the installer.
 It lies beside the zip and the installer, unpacks the zip itself, and takes about five minutes. It plays spoken digits
 at full volume, changes the contrast theme and the volume, and puts both back.
 

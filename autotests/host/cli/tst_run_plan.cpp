@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/cli/run_plan.h"
 
+#include "host/cli/default_source.h"
+#include "host/core/capture_source.h"
+
 #include <QDir>
 #include <QObject>
 #include <QTest>
@@ -114,7 +117,10 @@ void TestRunPlan::passesOnWhatTheRunNeeds()
     QVERIFY(microphone.contains(QStringLiteral("--report=./1-A-m.html")));
     const CommandLine plain = lineOf(QStringLiteral("--device 0"));
     const PlannedRun run = host::planRuns(plain, {QStringLiteral("A")})[0];
-    QVERIFY(host::argumentsOf(plain, run, {}).contains(QStringLiteral("--listen=Monitor of A")));
+    QVERIFY(host::argumentsOf(plain, run, {}).contains(QStringLiteral("--listen=") + host::defaultSource(QStringLiteral("A"))));
+    const QString loopback = QStringLiteral("loopback:B");
+    QVERIFY(host::argumentsOf(lineOf(QStringLiteral("--device 0 --listen ") + loopback), run, {})
+                .contains(QStringLiteral("--listen=") + host::systemSource(loopback)));
     const QString check = QStringLiteral("--channel-check");
     QVERIFY(!host::argumentsOf(plain, run, {}).contains(check));
     QVERIFY(host::argumentsOf(lineOf(QStringLiteral("--device 0 --channel-check")), run, {}).contains(check));

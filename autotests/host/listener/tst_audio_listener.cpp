@@ -70,6 +70,9 @@ private slots:
     void hearsWhatADevicePlays_data();
     void hearsWhatADevicePlays();
     void hearsSilenceWhileNothingPlays();
+    void hearsALoopbackOrSaysWhyNot();
+    void knowsNoLoopbackOfAnUnknownOutput_data();
+    void knowsNoLoopbackOfAnUnknownOutput();
     void endsWithItsParent();
     void namesTheSourcesWhereItDoesNotFindOne();
     void refusesAWrongCommandLine_data();
@@ -141,6 +144,45 @@ void TestAudioListener::hearsSilenceWhileNothingPlays()
         const double frameCount = level.value(QLatin1String("frames")).toDouble(0);
         QVERIFY2(count == 0 || (frameCount > 36000 && frameCount < 60000), qPrintable(QString::number(frameCount)));
     }
+}
+
+// Where the system lets an output be heard, it has sound and the listener offers it; else that is told, and nothing is heard.
+void TestAudioListener::hearsALoopbackOrSaysWhyNot()
+{
+    const QString loopback = QStringLiteral("loopback:Speakers");
+    ListenerProcess listener(listeningArguments(loopback, QStringLiteral("en_US")));
+    const QJsonObject ready = listener.waitFor(QStringLiteral("ready"));
+    QCOMPARE(!ready.isEmpty(), HEARS_LOOPBACK);
+    if (HEARS_LOOPBACK) {
+        QCOMPARE(textOf(ready, "source"), loopback);
+        QVERIFY(Player("en_US").play(4) > 0);
+        QCOMPARE(listener.waitFor(QStringLiteral("digit")).value(QLatin1String("digit")).toInt(-1), 4);
+        return;
+    }
+    QVERIFY(listener.waitForEnd());
+    QCOMPARE(listener.process().exitCode(), 3);
+    const QString message = QString::fromUtf8(listener.process().readAllStandardError());
+    QVERIFY2(message.contains(QStringLiteral("'loopback:Speakers' cannot be opened: the system does not let it be heard")),
+             qPrintable(message));
+}
+
+void TestAudioListener::knowsNoLoopbackOfAnUnknownOutput_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::newRow("unknown") << QStringLiteral("loopback:Speaker");
+    QTest::newRow("an input") << QStringLiteral("loopback:Monitor of Speakers");
+    QTest::newRow("nothing") << QStringLiteral("loopback:");
+}
+
+void TestAudioListener::knowsNoLoopbackOfAnUnknownOutput()
+{
+    QFETCH(const QString, source);
+    ListenerProcess listener(listeningArguments(source, QStringLiteral("en_US")));
+    QVERIFY(listener.waitForEnd());
+    QCOMPARE(listener.process().exitCode(), 3);
+    const QString message = QString::fromUtf8(listener.process().readAllStandardError());
+    QVERIFY2(message.contains(u'\'' + source + u'\''), qPrintable(message));
+    QVERIFY(listener.events().isEmpty());
 }
 
 void TestAudioListener::endsWithItsParent()

@@ -31,6 +31,7 @@ private slots:
     void isEmptyAtFirst();
     void handsBlocksOverInOrder();
     void splitsWhatIsTooLongForABlock();
+    void tellsHeardSilenceFromUnheard();
     void countsWhatItCannotHold();
     void losesNothingBetweenTwoThreads();
 };
@@ -53,6 +54,18 @@ void TestBlockRing::handsBlocksOverInOrder()
     QCOMPARE(ring.oldest()->frames()[0], 100.0F);
     ring.release();
     QVERIFY(ring.oldest() == nullptr);
+}
+
+void TestBlockRing::tellsHeardSilenceFromUnheard()
+{
+    BlockRing ring;
+    ring.write(frames(3, 0), host::SteadyTime(5s));
+    ring.write(frames(SoundBlock::maxFrameCount + 1, 0), host::SteadyTime(6s), false);
+    ring.write(frames(3, 0), host::SteadyTime(7s), true);
+    for (const bool isHeard : {true, false, false, true}) {
+        QCOMPARE(ring.oldest()->isHeard, isHeard);
+        ring.release();
+    }
 }
 
 void TestBlockRing::splitsWhatIsTooLongForABlock()

@@ -35,6 +35,10 @@ void TestRunLimits::choosesTheLimits_data()
     const QString person = QStringLiteral("A person");
     QTest::newRow("monitor") << QStringLiteral("p") << QStringLiteral("Monitor of X") << server << room;
     QTest::newRow("monitor by its name") << QStringLiteral("p") << QStringLiteral("sink1.monitor") << server << room;
+    const QString mixer = QStringLiteral("digital path up to that mixer, not the device's own volume");
+    QTest::newRow("loopback") << QStringLiteral("p") << QStringLiteral("loopback:X") << mixer << server;
+    QTest::newRow("microphone test at a loopback")
+        << QStringLiteral("m") << QStringLiteral("loopback:X") << QStringLiteral("up to the system's mixer") << server;
     QTest::newRow("microphone") << QStringLiteral("p") << QStringLiteral("Webcam") << room << server;
     QTest::newRow("attended") << QStringLiteral("p") << QString() << person << room;
     QTest::newRow("microphone test at a monitor")
