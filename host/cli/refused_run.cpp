@@ -4,6 +4,9 @@
 #include "contract/result_codes.h"
 #include "host/cli/console.h"
 #include "host/core/language_setting.h"
+#include "host/core/module_library.h"
+#include "host/precheck/endpoint_look.h"
+#include "host/precheck/machine.h"
 #include "host/reports/run_report.h"
 #include "host/translations/key_sentences.h"
 #include "host/translations/translators.h"
@@ -33,6 +36,11 @@ RunRecord refusedRecord(const CommandLine &line, const PlannedRun &run, const De
     record.language = languageOf(line, run);
     record.startedUtc = QDateTime::currentDateTimeUtc();
     record.endedUtc = record.startedUtc;
+    record.machine = readMachine();
+    record.machine.programVersion = QStringLiteral(HOST_VERSION);
+    if (ModuleLibrary module; module.load())
+        record.machine.moduleVersion = module.productVersion();
+    noteVolumes(record, lookAtEndpoints());
     record.wasModuleCalled = false;
     record.code = ostra::result::cannotBePerformed;
     record.isUnattended = true;

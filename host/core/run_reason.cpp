@@ -21,7 +21,7 @@ struct KnownReason {
 
 // In the words that the operator, the check of the channels and the programs of both say them with. The first that fits is
 // meant.
-constexpr std::array<KnownReason, 42> knownReasons{{
+constexpr std::array<KnownReason, 43> knownReasons{{
     {"REASON_STOPPED", "the run was stopped"},
     {"REASON_TOOK_TOO_LONG", "the run took longer than five minutes"},
     {"REASON_VIRTUAL_DEVICE", "'%1' is a virtual device: a verdict on it says nothing about this machine"},
@@ -29,6 +29,7 @@ constexpr std::array<KnownReason, 42> knownReasons{{
     {"PRECHECK_CLIP_DAMAGED", "clips: %1 is missing or is not the one that was supplied"},
     {"REASON_VOLUMES_HELD", "Another run is holding the volumes."},
     {"REASON_VOLUMES_HELD", "Another run is holding the volumes (guardian process %1)."},
+    {"REASON_DEVICE_GONE", "the device '%1' disappeared"},
     {"REASON_LISTENER_LOST", "listener lost"},
     {"REASON_NOT_RECOGNISED", "not recognised"},
     {"REASON_SOURCE_DEAD", "the capture source delivers nothing"},
