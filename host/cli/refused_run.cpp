@@ -3,6 +3,9 @@
 
 #include "host/cli/console.h"
 #include "host/core/language_setting.h"
+#include "host/core/module_library.h"
+#include "host/precheck/endpoint_look.h"
+#include "host/precheck/machine.h"
 #include "host/reports/run_report.h"
 #include "host/translations/key_sentences.h"
 #include "host/translations/translators.h"
@@ -32,6 +35,11 @@ RunRecord recordOf(const CommandLine &line, const PlannedRun &run, const MissedR
     record.language = languageOf(line, run);
     record.startedUtc = QDateTime::currentDateTimeUtc();
     record.endedUtc = record.startedUtc;
+    record.machine = readMachine();
+    record.machine.programVersion = QStringLiteral(HOST_VERSION);
+    if (ModuleLibrary module; module.load())
+        record.machine.moduleVersion = module.productVersion();
+    noteVolumes(record, lookAtEndpoints());
     record.wasModuleCalled = false;
     record.code = static_cast<std::uint32_t>(missed.end.code);
     record.reason = missed.end.reason;

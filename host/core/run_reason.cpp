@@ -36,6 +36,7 @@ constexpr std::array<KnownReason, 55> knownReasons{{
     {"REASON_SENTENCE_NOT_HEARD", "the sentence was not heard when it was spoken"},
     {"REASON_VOLUMES_HELD", "Another run is holding the volumes."},
     {"REASON_VOLUMES_HELD", "Another run is holding the volumes (guardian process %1)."},
+    {"REASON_DEVICE_GONE", "the device '%1' disappeared"},
     {"REASON_LISTENER_LOST", "listener lost"},
     {"REASON_NOT_RECOGNISED", "not recognised"},
     {"REASON_SOURCE_DEAD", "the capture source delivers nothing"},
@@ -74,7 +75,6 @@ constexpr std::array<KnownReason, 55> knownReasons{{
     {"REASON_HOST_HUNG", "the graphical host did not come to an end"},
     {"REASON_HOST_NOT_STARTED", "the graphical host cannot be started: %1"},
     {"REASON_NO_MODULE", "the graphical host cannot use the audio module"},
-    {"REASON_DEVICE_GONE", "the device '%1' is no longer there"},
     {"REASON_SERVER_SILENT", "audio_listener: no sound server: %1"},
     {"REASON_TOLD", "%1"},
 }};

@@ -62,6 +62,29 @@ struct HeardRecording {
     std::optional<bool> answer;  ///< yes or no to the question; nothing when it was not asked
 };
 
+/// What the system told of the volume of a loudspeaker or a microphone.
+struct EndpointState {
+    int percent = 0; ///< of full volume, 0 to 100
+    bool isMuted = false;
+};
+
+/// The same before and after a run; nothing where the system did not tell, or knows no such endpoint.
+struct EndpointChange {
+    std::optional<EndpointState> before;
+    std::optional<EndpointState> after;
+};
+
+/// Where a run took place and by which programs; a text that is not known is empty.
+struct Machine {
+    QString hostName;
+    QString system; ///< name and version of the operating system
+    QString kernel; ///< name and version
+    QString architecture;
+    QString soundServer; ///< name and version; of Windows the name of its interface
+    QString programVersion;
+    QString moduleVersion;
+};
+
 /// One run of one test on one device, as it happened; what a report is written from.
 struct RunRecord {
     QString testLetter;  ///< "p" or "m"
@@ -89,6 +112,9 @@ struct RunRecord {
     QStringList screenshots;                 ///< files, absolute paths
     QStringList restoredVolumes;             ///< endpoints whose level the guardian had to put back
     QString volumeComplaint;                 ///< what the guardian could not do; empty when all went well
+    EndpointChange deviceVolume;
+    EndpointChange microphoneVolume; ///< of the microphone that the test took
+    Machine machine;
 };
 
 } // namespace host

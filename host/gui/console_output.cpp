@@ -2,6 +2,7 @@
 #include "host/gui/console_output.h"
 
 #include "contract/result_codes.h"
+#include "host/core/run_warning.h"
 #include "host/core/verdict.h"
 #include "host/gui/key_text.h"
 #include "host/reports/run_report.h"
@@ -119,7 +120,11 @@ QString runSummary(const RunRecord &record)
     }
     if (record.recording)
         text += recordingLines(*record.recording);
-    return text + digitTableText(QJsonDocument::fromJson(runReport(record)).object());
+    text += digitTableText(QJsonDocument::fromJson(runReport(record)).object());
+    const QList<RunReason> warnings = warningsOf(record);
+    for (const RunReason &warning : warnings) // last: what a passed run must not hide
+        text += QStringLiteral("warning: %1 (%2)\n").arg(readable(shownReason(warning)), warning.key);
+    return text;
 }
 
 QString unknownDevice(const QString &name, const QList<Device> &devices)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/gui/key_text.h"
 
-#include "host/core/run_reason.h"
 #include "host/translations/key_sentences.h"
 
 #include <QCoreApplication>
@@ -18,10 +17,8 @@ QStringList shownSentences(const QString &keyOrComposite) { return keySentences(
 
 QString shownText(const QString &keyOrComposite) { return shownSentences(keyOrComposite).join(u' '); }
 
-QString shownReason(const QString &words)
-{
-    const RunReason reason = reasonOf(words);
-    return withArguments(shownText(reason.key), reason.arguments);
-}
+QString shownReason(const RunReason &reason) { return withArguments(shownText(reason.key), reason.arguments); }
+
+QString shownReason(const QString &words) { return shownReason(reasonOf(words)); }
 
 } // namespace host

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "host/core/run_reason.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -17,6 +19,8 @@ QString shownText(const QString &keyOrComposite);
 /// The same, one sentence ("|") each; no empty ones.
 QStringList shownSentences(const QString &keyOrComposite);
 
+/// Text of a reason or a warning.
+QString shownReason(const RunReason &reason);
 /// Why a run has no verdict of the module's own, from the words that its record has for it.
 QString shownReason(const QString &words);
 

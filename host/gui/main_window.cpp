@@ -3,6 +3,7 @@
 
 #include "contract/result_codes.h"
 #include "host/core/run_reason.h"
+#include "host/core/run_warning.h"
 #include "host/guardian/guardian_client.h"
 #include "host/gui/device_table.h"
 #include "host/gui/event_menu.h"
@@ -127,6 +128,7 @@ void MainWindow::makeMenus(bool hasEvents)
     quitAction_ = fileMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
     testMenu_ = menuBar()->addMenu(QString());
     runAction_ = testMenu_->addAction(QString(), QKeySequence(Qt::CTRL | Qt::Key_R), this, &MainWindow::runChosen);
+    testMenu_->setToolTipsVisible(true);
     runAloneAction_ = testMenu_->addAction(QString(), this, &MainWindow::runAloneChosen);
     stopAction_ = testMenu_->addAction(QString(), this, &MainWindow::stopPressed);
     stopAction_->setShortcut(RunKeys::stopKeys());
@@ -367,6 +369,9 @@ void MainWindow::showEnded(const RunRecord &record)
     history_->add(record);
     const QString ended = hostText("LOG_RUN_ENDED").arg(shownText(record.testNameKey), record.device.name, verdictText(record));
     log(record.microphone.isEmpty() ? ended : hostText("WITH_MICROPHONE").arg(ended, record.microphone));
+    const QList<RunReason> warnings = warningsOf(record);
+    for (const RunReason &warning : warnings)
+        log(shownReason(warning));
     if (!record.reason.isEmpty())
         log(shownReason(record.reason));
     if (!record.wasModuleCalled)
@@ -414,6 +419,7 @@ void MainWindow::enableTools()
 {
     const bool canPlay = !session_.isRunning() && devices_->chosen() >= 0;
     runAloneAction_->setEnabled(canPlay && isListening_);
+    explainRunAlone();
     channelsAction_->setEnabled(canPlay);
     sourceAction_->setEnabled(!session_.isRunning());
 }

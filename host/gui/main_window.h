@@ -94,6 +94,7 @@ private:
     void logMessage(const QString &text, std::uint32_t level);
     void setRunning(bool isRunning);
     void enableTools();
+    void explainRunAlone();
     void showAbout();
     void retranslate();
     void retranslateMenus();

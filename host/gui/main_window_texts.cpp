@@ -58,6 +58,7 @@ void MainWindow::retranslateMenus()
     runAction_->setText(test[0]);
     stopAction_->setText(test[1]);
     runAloneAction_->setText(test[2]);
+    explainRunAlone();
     channelsAction_->setText(test[3]);
     sourceAction_->setText(test[4]);
     aboutAction_->setText(withMnemonics({hostText("ABOUT")}).first());
@@ -67,6 +68,14 @@ void MainWindow::retranslateMenus()
     }
     if (eventMenu_ != nullptr)
         retranslateEventMenu(*eventMenu_);
+}
+
+// A grey entry with no reason looks like a fault.
+void MainWindow::explainRunAlone()
+{
+    const QString why = isListening_ ? QString() : hostText("RUN_UNATTENDED_NO_SOURCE");
+    runAloneAction_->setToolTip(why);
+    runAloneAction_->setStatusTip(why);
 }
 
 // The menus and the buttons share the letters of the window.

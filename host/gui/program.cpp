@@ -86,6 +86,7 @@ public:
           tools_(window_, session_, language, LanguageSetting::defaultFolder(), options.source),
           levels_(&window_, tools_.source()), keys_(options.isDeveloper)
     {
+        session_.setModuleVersion(library.productVersion());
         session_.setSchedule(options.schedule);
         window_.setPrecheck([&language](const QString &letter, const QString &device) {
             const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");

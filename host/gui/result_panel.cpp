@@ -2,6 +2,7 @@
 #include "host/gui/result_panel.h"
 
 #include "contract/result_codes.h"
+#include "host/core/run_warning.h"
 #include "host/core/verdict.h"
 #include "host/gui/key_text.h"
 
@@ -105,6 +106,9 @@ void ResultPanel::showVerdict()
     icon_->setPixmap(style()->standardIcon(iconOf(verdictOf(*record_))).pixmap(side, side));
     verdict_->setText(verdictText(*record_));
     subject_->setText(subjectOf(*record_));
+    const QList<RunReason> warnings = warningsOf(*record_);
+    for (const RunReason &warning : warnings)
+        messages_->addItem(new QListWidgetItem(style()->standardIcon(QStyle::SP_MessageBoxWarning), shownReason(warning)));
     if (!record_->reason.isEmpty())
         messages_->addItem(
             new QListWidgetItem(style()->standardIcon(QStyle::SP_MessageBoxInformation), shownReason(record_->reason)));

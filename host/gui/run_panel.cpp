@@ -40,6 +40,11 @@ RunPanel::RunPanel(QList<OfferedTest> tests, QWidget *parent)
     progress_->setObjectName(QStringLiteral("host_progress"));
     progress_->setRange(0, 100);
     progress_->setValue(0);
+    // Beside a verdict it would tell of a run that has not begun: not every test reports how far it is.
+    QSizePolicy policy = progress_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    progress_->setSizePolicy(policy);
+    progress_->hide();
     for (qsizetype index = 0; index < tests_.size(); ++index)
         list_->addItem(QString());
     list_->setCurrentRow(0);
@@ -78,6 +83,7 @@ void RunPanel::setRunning(bool isRunning)
 {
     isRunning_ = isRunning;
     isStopping_ = false;
+    progress_->setVisible(isRunning);
     if (isRunning)
         showProgress(0, {});
     enableButtons();

@@ -4,7 +4,10 @@
 #include "contract/module_interface.h"
 #include "contract/result_codes.h"
 #include "host/core/run_context.h"
+#include "host/core/run_reason.h"
+#include "host/core/verdict.h"
 #include "host/gui/microphone_watch.h"
+#include "host/precheck/machine.h"
 
 #include <QScopeGuard>
 
@@ -78,8 +81,11 @@ std::optional<RunRecord> TestSession::run(qsizetype test, qsizetype device, cons
     if (!guardian_.errorText().isEmpty() && record.volumeComplaint.isEmpty())
         complainOfVolumes(record);
     record.endedUtc = QDateTime::currentDateTimeUtc();
+    const EndpointLook after = lookAtEndpoints();
+    tellOfLostDevice(record, after);
     if (finish)
         finish(record);
+    noteVolumes(record, before_, after);
     context_ = nullptr;
     end(record);
     return record;
@@ -97,6 +103,7 @@ std::optional<RunRecord> TestSession::refuse(qsizetype test, qsizetype device, c
     record.reason = reason;
     if (finish)
         finish(record);
+    noteVolumes(record, lookAtEndpoints());
     end(record);
     return record;
 }
@@ -117,12 +124,22 @@ void TestSession::complainOfVolumes(RunRecord &record)
     emit volumesUnprotected(record.volumeComplaint);
 }
 
+// Before anybody else explains the end by what followed from it.
+void TestSession::tellOfLostDevice(RunRecord &record, const EndpointLook &after) const
+{
+    const Verdict verdict = verdictOf(record);
+    const bool isOpen = verdict == Verdict::notCompleted || verdict == Verdict::cannotBePerformed;
+    if (isOpen && record.wasModuleCalled && record.reason.isEmpty() && hasGone(record.device.name, before_, after))
+        record.reason = reasonWords("REASON_DEVICE_GONE", {record.device.name});
+}
+
 void TestSession::perform(ostra::Test &test, RunContext &context, RunRecord &record)
 {
     connect(&context, &RunContext::progressed, this, &TestSession::progressed);
     connect(&context, &RunContext::messageAdded, this, &TestSession::messageAdded);
     if (!guardian_.start())
         complainOfVolumes(record);
+    before_ = lookAtEndpoints(); // what an earlier run had left raised is back where it was
     if (guardian_.isHeldByAnother()) {
         record.wasModuleCalled = false;
         record.reason = record.volumeComplaint;
@@ -202,7 +219,7 @@ ostra::Test *TestSession::testAt(qsizetype test) const
     return nullptr;
 }
 
-RunRecord TestSession::begin(qsizetype test, qsizetype device, const QString &language) const
+RunRecord TestSession::begin(qsizetype test, qsizetype device, const QString &language)
 {
     RunRecord record;
     record.testLetter = tests_[test].letter;
@@ -211,8 +228,17 @@ RunRecord TestSession::begin(qsizetype test, qsizetype device, const QString &la
     record.language = language;
     if (const auto check = channels_.constFind(record.device.name); check != channels_.constEnd())
         record.channels = *check;
+    record.machine = machine();
     record.startedUtc = QDateTime::currentDateTimeUtc();
     return record;
+}
+
+const Machine &TestSession::machine()
+{
+    if (!machine_)
+        machine_ = readMachine();
+    machine_->moduleVersion = moduleVersion_;
+    return *machine_;
 }
 
 } // namespace host

@@ -6,6 +6,7 @@
 #include "host/core/run_record.h"
 #include "host/guardian/guardian_client.h"
 #include "host/guardian/volume_lock.h"
+#include "host/precheck/endpoint_look.h"
 
 #include <QHash>
 #include <QList>
@@ -90,6 +91,8 @@ public:
     /// Raises one event bit in the run under way.
     void raiseEvent(int bit);
 
+    /// Goes into the records.
+    void setModuleVersion(const QString &version) { moduleVersion_ = version; }
     void setSchedule(const RunSchedule &schedule) { schedule_ = schedule; }
     const QList<RunRecord> &history() const noexcept { return history_; }
 
@@ -113,9 +116,11 @@ signals:
 private:
     ostra::SystemComponent *componentAt(qsizetype device) const;
     ostra::Test *testAt(qsizetype test) const;
-    RunRecord begin(qsizetype test, qsizetype device, const QString &language) const;
+    RunRecord begin(qsizetype test, qsizetype device, const QString &language);
+    const Machine &machine();
     void perform(ostra::Test &test, RunContext &context, RunRecord &record);
     void complainOfVolumes(RunRecord &record);
+    void tellOfLostDevice(RunRecord &record, const EndpointLook &after) const;
     void schedule(RunContext &context);
     void end(const RunRecord &record);
 
@@ -132,6 +137,9 @@ private:
     bool isRefreshDue_ = false;
     QList<RunRecord> history_;
     QHash<QString, ChannelCheck> channels_;
+    EndpointLook before_; // of the run under way, when nothing was raised yet
+    QString moduleVersion_;
+    std::optional<Machine> machine_; // once it was asked for
 };
 
 } // namespace host

@@ -302,6 +302,20 @@ void PlaybackWorker::noteRows(const QList<HeardDigit> &rows)
     rows_.append(rows);
 }
 
+void PlaybackWorker::noteUnfinishedPlay()
+{
+    if (step_ != Step::playing && step_ != Step::deciding)
+        return;
+    if (step_ == Step::playing)
+        playEndMs_ = steadyNowMs();
+    QList<HeardDigit> rows = rowsOfPlay();
+    rows.removeIf([](const HeardDigit &row) { return row.playedAtMs < 0; });
+    const bool hasRows =
+        std::any_of(rows_.begin(), rows_.end(), [this](const HeardDigit &row) { return row.sequence == sequence_; });
+    if (!hasRows)
+        noteRows(rows);
+}
+
 // A repetition that was heard worse leaves the rows of the play before it.
 void PlaybackWorker::noteBetterRows()
 {

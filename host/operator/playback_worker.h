@@ -33,6 +33,8 @@ public:
     void advance(bool isListenerLost);
 
     bool works(const QWidget *dialog) const { return dialog_ == dialog; }
+    /// Of a dialog that ended in the middle of a sequence: what was heard of it until now goes into the rows.
+    void noteUnfinishedPlay();
     /// Rows of the sequences so far; moments on the steady clock.
     const QList<HeardDigit> &digits() const { return rows_; }
     /// Why it gave up; empty when it did not.

@@ -134,6 +134,7 @@ void TestOperator::Private::finishPlayback()
 {
     if (playback == nullptr)
         return;
+    playback->noteUnfinishedPlay();
     digits.append(playback->digits());
     if (reason.isEmpty())
         reason = playback->reason();

@@ -71,13 +71,19 @@ private:
     {
         open("h1");
         xml_.writeCharacters(QStringLiteral("Audio test report: "));
-        translated("span", view_.testName());
+        xml_.writeCharacters(view_.testName());
+        if (const QString name = view_.translatedTestName(); !name.isEmpty()) {
+            xml_.writeCharacters(QStringLiteral(" \u2013 "));
+            translated("span", name);
+        }
         close();
         writeVerdict();
-        writePairs("Run", "How the run went", view_.facts());
+        for (const QJsonValue warning : view_.list("warnings"))
+            element("p", QStringLiteral("Warning: ") + plainText(warning[QLatin1String("text")].toString()));
+        writeFacts("Run", "How the run went", view_.facts());
         writeMessages();
         view_.isMicrophoneTest() ? writeRecording() : writeDigits();
-        writePairs("Device", "What the device tells about itself", properties());
+        writeFacts("Device", "What the device tells about itself", view_.properties());
         writeLimits();
         const QString kept = view_.text("keptAudio");
         element("p", kept.isEmpty() ? QStringLiteral("No sound was kept.")
@@ -104,17 +110,17 @@ private:
         close();
     }
 
-    void writePairs(const char *title, const char *caption, const QList<std::pair<QString, QString>> &pairs)
+    void writeFacts(const char *title, const char *caption, const QList<ReportFact> &facts)
     {
-        if (pairs.isEmpty())
+        if (facts.isEmpty())
             return;
         element("h2", QLatin1String(title));
         open("table");
         element("caption", QLatin1String(caption));
-        for (const auto &[name, value] : pairs) {
+        for (const ReportFact &fact : facts) {
             open("tr");
-            heading(name, "row");
-            element("td", value);
+            heading(fact.title, "row");
+            fact.isTranslated ? translated("td", fact.value) : element("td", fact.value);
             close();
         }
         close();
@@ -128,16 +134,6 @@ private:
         close();
     }
 
-    QList<std::pair<QString, QString>> properties() const
-    {
-        QList<std::pair<QString, QString>> pairs;
-        const QJsonArray list = report_.value(QLatin1String("device"))[QLatin1String("properties")].toArray();
-        for (const QJsonValue property : list)
-            pairs.append(
-                {plainText(property[QLatin1String("key")].toString()), plainText(property[QLatin1String("value")].toString())});
-        return pairs;
-    }
-
     void writeMessages()
     {
         const QJsonArray messages = view_.list("messages");
@@ -148,10 +144,15 @@ private:
         }
         open("table");
         element("caption", QStringLiteral("What the test said"));
-        writeHeader({QStringLiteral("Kind"), QStringLiteral("Text"), QStringLiteral("Key")});
+        QStringList titles{QStringLiteral("Kind"), QStringLiteral("Text"), QStringLiteral("Key")};
+        if (!view_.isEnglish())
+            titles.insert(2, QStringLiteral("In the language of the run"));
+        writeHeader(titles);
         for (const QJsonValue message : messages)
             writeMessage(message.toObject());
         close();
+        if (view_.flag("unattended"))
+            element("p", QStringLiteral("\u201CThe user\u201D is the operator program: no person answered."));
     }
 
     void writeMessage(const QJsonObject &message)
@@ -159,7 +160,9 @@ private:
         open("tr");
         const bool isError = message.value(QLatin1String("level")).toInt() > 0;
         element("td", isError ? QStringLiteral("error") : QStringLiteral("note"));
-        translated("td", plainText(message.value(QLatin1String("translated")).toString()));
+        element("td", view_.messageText(message));
+        if (!view_.isEnglish())
+            translated("td", view_.translatedMessage(message));
         open("td");
         element("code", plainText(message.value(QLatin1String("text")).toString()));
         close();
@@ -214,7 +217,7 @@ private:
     void writeRecording()
     {
         const auto facts = view_.recordingFacts();
-        writePairs("Recording", "What was heard of the recording", facts);
+        writeFacts("Recording", "What was heard of the recording", facts);
         writeRecordingPlot(xml_, report_);
         if (!facts.isEmpty())
             return;

@@ -6,8 +6,8 @@
 
 namespace host {
 
-/// The report as one HTML file that needs no other and no network; also well-formed XML. Its own words are English; the texts
-/// of the module are in the language of the run, and marked so.
+/// The report as one HTML file that needs no other and no network; also well-formed XML. All of it is English; what
+/// stands beside it in the language of the run is marked so.
 QByteArray htmlReport(const QJsonObject &report);
 
 } // namespace host

@@ -55,15 +55,17 @@ void writeSuiteAttributes(QXmlStreamWriter &xml, const ReportView &view)
     xml.writeAttribute(QStringLiteral("skipped"), count("skipped"));
     xml.writeAttribute(QStringLiteral("time"), secondsOf(view));
     xml.writeAttribute(QStringLiteral("timestamp"), timestampOf(view));
+    if (const QString machine = view.hostName(); !machine.isEmpty())
+        xml.writeAttribute(QStringLiteral("hostname"), machine);
 }
 
 void writeProperties(QXmlStreamWriter &xml, const ReportView &view)
 {
     xml.writeStartElement(QStringLiteral("properties"));
-    for (const auto &[title, value] : view.facts() + view.recordingFacts()) {
+    for (const ReportFact &fact : view.facts() + view.recordingFacts()) {
         xml.writeEmptyElement(QStringLiteral("property"));
-        xml.writeAttribute(QStringLiteral("name"), title);
-        xml.writeAttribute(QStringLiteral("value"), value);
+        xml.writeAttribute(QStringLiteral("name"), fact.title);
+        xml.writeAttribute(QStringLiteral("value"), fact.value);
     }
     xml.writeEndElement();
 }

@@ -3,6 +3,7 @@
 
 #include "host/reports/html_report.h"
 #include "host/reports/junit_report.h"
+#include "host/reports/report_check.h"
 #include "host/reports/run_report.h"
 #include "host/reports/text_report.h"
 
@@ -43,6 +44,14 @@ QJsonObject upgraded(QJsonObject report)
     return report;
 }
 
+std::variant<QJsonObject, ReportError> checked(QJsonObject report)
+{
+    const QString fault = faultOf(report);
+    if (!fault.isEmpty())
+        return ReportError{QStringLiteral("it is no valid report: ") + fault};
+    return report;
+}
+
 } // namespace
 
 std::optional<ReportFormat> reportFormatOf(const QString &file)
@@ -68,9 +77,9 @@ std::variant<QJsonObject, ReportError> readReport(const QByteArray &bytes)
             QStringLiteral("it is no JSON: %1 at byte %2").arg(parsing.errorString(), QString::number(parsing.offset))};
     const int version = document.object().value(QLatin1String("formatVersion")).toInt();
     if (version == reportFormatVersion)
-        return document.object();
+        return checked(document.object());
     if (version == 1)
-        return upgraded(document.object());
+        return checked(upgraded(document.object()));
     return ReportError{version > reportFormatVersion ? QStringLiteral("its format is newer than this program")
                                                      : QStringLiteral("it is no report of a test")};
 }

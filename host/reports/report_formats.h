@@ -23,8 +23,8 @@ struct ReportError {
     QString message;
 };
 
-/// Reads a report that `runReport` wrote, also one of somebody else's making: beyond being a JSON object of a known
-/// "formatVersion" nothing is taken for granted, and what is missing is left out of a conversion.
+/// Reads a report that `runReport` wrote, also one of somebody else's making: it must keep to the published schema and must not
+/// contradict itself, see `faultOf`; what an older program did not write is left out of a conversion.
 std::variant<QJsonObject, ReportError> readReport(const QByteArray &bytes);
 
 /// The report in another format, UTF-8. Whatever text it holds is data: nothing of it becomes markup.

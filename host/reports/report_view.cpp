@@ -2,8 +2,11 @@
 #include "host/reports/report_view.h"
 
 #include "contract/result_codes.h"
+#include "host/translations/key_sentences.h"
 
 #include <QDateTime>
+
+#include <algorithm>
 
 namespace host {
 
@@ -33,14 +36,29 @@ QString latencyText(const QJsonObject &latency)
                                    .arg(number("medianMs"), number("lowestMs"), number("highestMs"), number("digitCount"));
 }
 
-// What the program says for itself is worded for logs: the sentence for people follows also in English.
+// What the program says for itself is worded for logs, without capitals and full stops: it is not said twice.
+bool isSame(const QString &one, const QString &other)
+{
+    const auto bare = [](QString text) {
+        while (text.endsWith(u'.'))
+            text.chop(1);
+        return text.toCaseFolded();
+    };
+    return bare(one) == bare(other);
+}
+
+QString withKeys(const QString &text, const QStringList &keys)
+{
+    return keys.isEmpty() || text.isEmpty() ? text : text + QStringLiteral(" (%1)").arg(keys.join(QStringLiteral("; ")));
+}
+
 QString reasonText(const QString &english, const QString &translated, const QStringList &keys)
 {
+    if (translated.isEmpty() || isSame(english, translated))
+        return withKeys(translated.isEmpty() ? english : translated, keys);
     QStringList parts{english, translated};
     parts.removeAll(QString());
-    parts.removeDuplicates();
-    const QString reason = parts.join(QStringLiteral(" \u2013 "));
-    return keys.isEmpty() ? reason : reason + QStringLiteral(" (%1)").arg(keys.join(QStringLiteral("; ")));
+    return withKeys(parts.join(QStringLiteral(" \u2013 ")), keys);
 }
 
 QString channelText(const QJsonObject &check)
@@ -135,9 +153,43 @@ QString ReportView::testKey() const
     return plainText(report_.value(QLatin1String("test"))[QLatin1String("nameKey")].toString());
 }
 
-QString ReportView::testName() const
+QString ReportView::testName() const { return plainText(keySentences(testKey(), englishText).join(u' ')); }
+
+QString ReportView::translatedTestName() const
 {
-    return plainText(report_.value(QLatin1String("test"))[QLatin1String("translated")].toString(testKey()));
+    const QString name = plainText(report_.value(QLatin1String("test"))[QLatin1String("translated")].toString());
+    return isEnglish() || isSame(name, testName()) ? QString() : name;
+}
+
+QString ReportView::hostName() const
+{
+    return plainText(report_.value(QLatin1String("machine"))[QLatin1String("hostName")].toString());
+}
+
+bool ReportView::isEnglish() const { return languageTag().startsWith(QLatin1String("en")); }
+
+QString ReportView::messageText(const QJsonValue &message) const
+{
+    return plainText(keySentences(message[QLatin1String("text")].toString(), englishText).join(u' '));
+}
+
+QString ReportView::translatedMessage(const QJsonValue &message) const
+{
+    const QString text = plainText(message[QLatin1String("translated")].toString());
+    return isEnglish() || isSame(text, messageText(message)) ? QString() : text;
+}
+
+QList<ReportFact> ReportView::properties() const
+{
+    QList<ReportFact> facts;
+    const QJsonArray list = report_.value(QLatin1String("device"))[QLatin1String("properties")].toArray();
+    for (const QJsonValue property : list) {
+        const QString key = plainText(property[QLatin1String("key")].toString());
+        const QString label = keySentences(key, englishText).join(u' ');
+        facts.append({label == key ? key : QStringLiteral("%1 (%2)").arg(label, key),
+                      plainText(property[QLatin1String("value")].toString())});
+    }
+    return facts;
 }
 
 QString ReportView::deviceName() const
@@ -145,7 +197,59 @@ QString ReportView::deviceName() const
     return plainText(report_.value(QLatin1String("device"))[QLatin1String("name")].toString());
 }
 
-QString ReportView::reason() const { return reasonText(text("reason"), text("reasonTranslated"), lines("reasonKeys")); }
+QString ReportView::reason() const
+{
+    const QString reason = reasonText(text("reason"), text("reasonTranslated"), lines("reasonKeys"));
+    const bool isAnswered = code() == static_cast<int>(ostra::result::failed) && flag("unattended");
+    return isAnswered ? reason + QStringLiteral(" [the operator program answered, no person]") : reason;
+}
+
+// Of an English run both forms are; the sentence for people comes first.
+QString ReportView::reasonInEnglish() const
+{
+    const QString words = text("reason");
+    const QString sentence = text("reasonTranslated");
+    const bool hasBoth = isEnglish() && !sentence.isEmpty();
+    return withKeys(hasBoth ? sentence : words,
+                    hasBoth && !isSame(words, sentence) ? QStringList{words} + lines("reasonKeys") : lines("reasonKeys"));
+}
+
+QString ReportView::volume(const char *key, const char *when) const
+{
+    const QJsonObject volume = report_.value(QLatin1String(key)).toObject();
+    const auto at = [&](const char *what) { return volume.value(QLatin1String(what) + QLatin1String(when)); };
+    QStringList words;
+    if (at("percent").isDouble())
+        words.append(numberText(at("percent"), 0) + QStringLiteral(" %"));
+    if (at("muted").isBool())
+        words.append(at("muted").toBool() ? QStringLiteral("muted") : QStringLiteral("not muted"));
+    return words.join(QStringLiteral(", "));
+}
+
+void ReportView::addWarnings(QList<ReportFact> &facts) const
+{
+    for (const QJsonValue warning : list("warnings")) {
+        const QString words = plainText(warning[QLatin1String("text")].toString());
+        const QString translated = plainText(warning[QLatin1String("translated")].toString());
+        facts.append({QStringLiteral("Warning"), withKeys(words, {plainText(warning[QLatin1String("key")].toString())})});
+        if (!isEnglish() && !isSame(words, translated))
+            facts.append({QStringLiteral("Warning (%1)").arg(languageTag()), translated, true});
+    }
+}
+
+void ReportView::addMachine(QList<ReportFact> &facts) const
+{
+    const QJsonObject machine = report_.value(QLatin1String("machine")).toObject();
+    const std::pair<const char *, const char *> titles[] = {{"Machine", "hostName"},
+                                                            {"System", "system"},
+                                                            {"Kernel", "kernel"},
+                                                            {"Architecture", "architecture"},
+                                                            {"Sound server", "soundServer"},
+                                                            {"Program's version", "programVersion"},
+                                                            {"Module's version", "moduleVersion"}};
+    for (const auto &[title, key] : titles)
+        facts.append({QLatin1String(title), plainText(machine.value(QLatin1String(key)).toString())});
+}
 
 QString ReportView::languageTag() const
 {
@@ -158,12 +262,15 @@ double ReportView::seconds() const
     const QDateTime started = QDateTime::fromString(text("startedUtc"), Qt::ISODateWithMs);
     const QDateTime ended = QDateTime::fromString(text("endedUtc"), Qt::ISODateWithMs);
     constexpr double msPerSecond = 1000.0;
-    return started.isValid() && ended.isValid() ? static_cast<double>(started.msecsTo(ended)) / msPerSecond : 0.0;
+    return started.isValid() && ended.isValid() ? std::max(0.0, static_cast<double>(started.msecsTo(ended)) / msPerSecond)
+                                                : 0.0;
 }
 
-QList<std::pair<QString, QString>> ReportView::facts() const
+QList<ReportFact> ReportView::facts() const
 {
-    QList<std::pair<QString, QString>> facts{
+    QList<ReportFact> facts;
+    addWarnings(facts);
+    facts += QList<ReportFact>{
         {QStringLiteral("Device"), deviceName()},
         {QStringLiteral("Microphone"), text("microphone")},
         {QStringLiteral("Language"), text("language")},
@@ -175,18 +282,25 @@ QList<std::pair<QString, QString>> ReportView::facts() const
         {QStringLiteral("Unattended"), yesOrNo(flag("unattended"))},
         {QStringLiteral("Stopped"), yesOrNo(flag("stopped"))},
         {QStringLiteral("Listened to"), text("listenedTo")},
-        {QStringLiteral("Reason"), reason()},
+        {QStringLiteral("Answered by"), text("answeredBy")},
+        {QStringLiteral("Reason"), reasonInEnglish()},
+        {QStringLiteral("Reason (%1)").arg(languageTag()), isEnglish() ? QString() : text("reasonTranslated"), true},
+        {QStringLiteral("Volume before"), volume("deviceVolume", "Before")},
+        {QStringLiteral("Volume after"), volume("deviceVolume", "After")},
+        {QStringLiteral("Microphone before"), volume("microphoneVolume", "Before")},
+        {QStringLiteral("Microphone after"), volume("microphoneVolume", "After")},
         {QStringLiteral("Latency (ms)"), latencyText(report_.value(QLatin1String("latency")).toObject())},
         {QStringLiteral("Channels before the run"), channelText(report_.value(QLatin1String("channelMapping")).toObject())},
         {QStringLiteral("Sound kept in"), text("keptAudio")},
         {QStringLiteral("Guardian put back"), lines("volumesPutBackByGuardian").join(QStringLiteral(", "))},
         {QStringLiteral("Volumes"), text("volumeComplaint")},
         {QStringLiteral("Pictures"), lines("screenshots").join(QStringLiteral(", "))}};
-    facts.removeIf([](const auto &fact) { return fact.second.isEmpty(); });
+    addMachine(facts);
+    facts.removeIf([](const ReportFact &fact) { return fact.value.isEmpty(); });
     return facts;
 }
 
-QList<std::pair<QString, QString>> ReportView::recordingFacts() const
+QList<ReportFact> ReportView::recordingFacts() const
 {
     const QJsonObject heard = report_.value(QLatin1String("recording")).toObject();
     if (heard.isEmpty())

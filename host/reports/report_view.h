@@ -11,6 +11,13 @@
 
 namespace host {
 
+/// One line of a report.
+struct ReportFact {
+    QString title;
+    QString value;
+    bool isTranslated = false; ///< the value is in the language of the run
+};
+
 /// What every written format says of a report, read from its JSON form. A value that is missing is an empty text.
 class ReportView {
 public:
@@ -26,20 +33,34 @@ public:
     QString verdictName() const;
     bool isMicrophoneTest() const;
     QString testKey() const;
-    QString testName() const; ///< translated
+    QString testName() const;           ///< English
+    QString translatedTestName() const; ///< in the language of the run; empty where that is English
     QString deviceName() const;
-    /// Why there is no pass: in English, in the language of the run where that is another, and the keys. Empty of a pass.
+    QString hostName() const; ///< of the machine; empty where it is not known
+    /// Why there is no pass: in English, in the language of the run where that is another, and the keys; of a failure also
+    /// that no person told it. Empty of a pass.
     QString reason() const;
+    /// A message in English, and in the language of the run where that is another; empty otherwise.
+    QString messageText(const QJsonValue &message) const;
+    QString translatedMessage(const QJsonValue &message) const;
+    bool isEnglish() const; ///< the language of the run
+    /// What the device tells about itself: English labels with their keys, and values.
+    QList<ReportFact> properties() const;
     QString languageTag() const; ///< as HTML wants it: "pt-BR"; "en" when there is none
     double seconds() const;
-    /// What else describes the run, as pairs of a title and a value; empty values left out.
-    QList<std::pair<QString, QString>> facts() const;
-    /// What an unattended run of the microphone test heard, in the same form; empty for another run.
-    QList<std::pair<QString, QString>> recordingFacts() const;
+    /// What else describes the run; empty values left out.
+    QList<ReportFact> facts() const;
+    /// What an unattended run of the microphone test heard; empty for another run.
+    QList<ReportFact> recordingFacts() const;
     /// The digits as a table, header first.
     QList<QStringList> digitRows() const;
 
 private:
+    QString reasonInEnglish() const;
+    QString volume(const char *key, const char *when) const;
+    void addWarnings(QList<ReportFact> &facts) const;
+    void addMachine(QList<ReportFact> &facts) const;
+
     QJsonObject report_;
 };
 

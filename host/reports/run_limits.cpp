@@ -127,11 +127,7 @@ QStringList limitsOfMicrophoneTest(const RunRecord &record)
     return limits;
 }
 
-// A run that was refused, or that ended before anything was played and heard.
-bool hasTestedNothing(const RunRecord &record)
-{
-    return !record.wasModuleCalled || (record.isUnattended && record.digits.isEmpty() && !record.recording);
-}
+bool hasHeardNothing(const RunRecord &record) { return record.isUnattended && record.digits.isEmpty() && !record.recording; }
 
 bool isJudged(const RunRecord &record)
 {
@@ -143,13 +139,18 @@ bool isJudged(const RunRecord &record)
 
 QStringList runLimits(const RunRecord &record)
 {
-    if (hasTestedNothing(record))
+    if (!record.wasModuleCalled)
         return {QStringLiteral("Nothing was played and heard: this run says nothing about the device.")};
+    if (isJudged(record) && hasHeardNothing(record))
+        return {QStringLiteral("Nothing was heard of what was played: this run says nothing about the device.")};
     if (!record.isUnattended && !isJudged(record))
         return {QStringLiteral("Nobody judged what was played: this run says nothing about the device.")};
+    const QString noVerdict = QStringLiteral("The run ended before a verdict: this run says nothing about the device.");
+    if (hasHeardNothing(record))
+        return {noVerdict};
     QStringList limits = record.testLetter == QLatin1String("m") ? limitsOfMicrophoneTest(record) : limitsOfPlayback(record);
-    if (record.wasStopped)
-        limits.append(QStringLiteral("The run was stopped: it says nothing about the device."));
+    if (!isJudged(record))
+        limits.prepend(noVerdict);
     return limits;
 }
 

@@ -3,6 +3,7 @@
 
 #include "contract/result_codes.h"
 #include "host/core/run_reason.h"
+#include "host/core/run_warning.h"
 #include "host/core/verdict.h"
 #include "host/reports/report_formats.h"
 #include "host/reports/run_limits.h"
@@ -187,6 +188,56 @@ QJsonValue channelsOf(const std::optional<ChannelCheck> &check, const TextLookup
                        {QStringLiteral("reasonTranslated"), translatedReason(reason, lookUp)}};
 }
 
+QJsonValue percentOf(const std::optional<EndpointState> &state) { return state ? QJsonValue(state->percent) : QJsonValue(); }
+
+QJsonValue muteOf(const std::optional<EndpointState> &state) { return state ? QJsonValue(state->isMuted) : QJsonValue(); }
+
+QJsonObject volumeOf(const EndpointChange &volume)
+{
+    return {{QStringLiteral("percentBefore"), percentOf(volume.before)},
+            {QStringLiteral("mutedBefore"), muteOf(volume.before)},
+            {QStringLiteral("percentAfter"), percentOf(volume.after)},
+            {QStringLiteral("mutedAfter"), muteOf(volume.after)}};
+}
+
+QJsonValue textOrNull(const QString &text) { return text.isEmpty() ? QJsonValue() : QJsonValue(text); }
+
+QJsonObject machineOf(const Machine &machine)
+{
+    return {{QStringLiteral("hostName"), textOrNull(machine.hostName)},
+            {QStringLiteral("system"), textOrNull(machine.system)},
+            {QStringLiteral("kernel"), textOrNull(machine.kernel)},
+            {QStringLiteral("architecture"), textOrNull(machine.architecture)},
+            {QStringLiteral("soundServer"), textOrNull(machine.soundServer)},
+            {QStringLiteral("programVersion"), textOrNull(machine.programVersion)},
+            {QStringLiteral("moduleVersion"), textOrNull(machine.moduleVersion)}};
+}
+
+QString wordsOf(const RunReason &reason)
+{
+    return reason.words.isEmpty() ? withArguments(keySentences(reason.key, englishText).join(u' '), reason.arguments)
+                                  : reason.words;
+}
+
+QJsonArray warningsIn(const RunRecord &record, const TextLookup &lookUp)
+{
+    QJsonArray list;
+    const QList<RunReason> warnings = warningsOf(record);
+    for (const RunReason &warning : warnings)
+        list.append(QJsonObject{{QStringLiteral("key"), warning.key},
+                                {QStringLiteral("text"), wordsOf(warning)},
+                                {QStringLiteral("translated"), translatedReason(warning, lookUp)}});
+    return list;
+}
+
+// Whoever worked the dialogs; nobody did where there were none.
+QJsonValue answererOf(const RunRecord &record)
+{
+    if (!record.wasModuleCalled)
+        return {};
+    return record.isUnattended ? QStringLiteral("operator program") : QStringLiteral("person");
+}
+
 QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
 {
     const std::uint32_t code = codeOf(verdictOf(record));
@@ -215,12 +266,25 @@ QJsonObject bodyOf(const RunRecord &record, const TextLookup &lookUp)
             {QStringLiteral("volumesPutBackByGuardian"), QJsonArray::fromStringList(record.restoredVolumes)},
             {QStringLiteral("volumeComplaint"), record.volumeComplaint},
             {QStringLiteral("keptAudio"), record.keptAudio},
-            {QStringLiteral("screenshots"), QJsonArray::fromStringList(record.screenshots)}};
+            {QStringLiteral("screenshots"), QJsonArray::fromStringList(record.screenshots)},
+            {QStringLiteral("deviceVolume"), volumeOf(record.deviceVolume)},
+            {QStringLiteral("microphoneVolume"),
+             record.microphone.isEmpty() ? QJsonValue() : QJsonValue(volumeOf(record.microphoneVolume))},
+            {QStringLiteral("warnings"), warningsIn(record, lookUp)},
+            {QStringLiteral("answeredBy"), answererOf(record)},
+            {QStringLiteral("machine"), machineOf(record.machine)}};
 }
 
-QString wordsOf(const RunReason &reason)
+// What is a sentence already needs no other sign behind it.
+QString joinedWords(const QStringList &words)
 {
-    return reason.words.isEmpty() ? keySentences(reason.key, englishText).join(u' ') : reason.words;
+    QString text;
+    for (const QString &part : words) {
+        if (!text.isEmpty())
+            text += text.endsWith(u'.') ? QStringLiteral(" ") : QStringLiteral("; ");
+        text += part;
+    }
+    return text;
 }
 
 // Three forms of one answer: for programs, for whoever reads the logs of many machines, and for the person at this one.
@@ -236,7 +300,7 @@ void addReason(QJsonObject &body, const RunRecord &record, const TextLookup &loo
         translations.append(translatedReason(reason, lookUp));
     }
     body.insert(QStringLiteral("reasonKeys"), QJsonArray::fromStringList(keys));
-    body.insert(QStringLiteral("reason"), words.join(QStringLiteral("; ")));
+    body.insert(QStringLiteral("reason"), joinedWords(words));
     body.insert(QStringLiteral("reasonTranslated"), translations.join(u' '));
 }
 

@@ -33,19 +33,23 @@ QString messagesText(const ReportView &view)
     const QJsonArray messages = view.list("messages");
     for (const QJsonValue message : messages) {
         const bool isError = message[QLatin1String("level")].toInt() > 0;
-        text += QStringLiteral("%1: %2 (%3)\n")
-                    .arg(isError ? QStringLiteral("error") : QStringLiteral("note"),
-                         plainText(message[QLatin1String("translated")].toString()),
-                         plainText(message[QLatin1String("text")].toString()));
+        const QString translated = view.translatedMessage(message);
+        text +=
+            QStringLiteral("%1: %2 (%3)\n")
+                .arg(isError ? QStringLiteral("error") : QStringLiteral("note"),
+                     view.messageText(message) + (translated.isEmpty() ? QString() : QStringLiteral(" \u2013 ") + translated),
+                     plainText(message[QLatin1String("text")].toString()));
     }
+    if (!text.isEmpty() && view.flag("unattended"))
+        text += QStringLiteral("\"The user\" is the operator program: no person answered.\n");
     return text;
 }
 
-QString pairsText(const QList<std::pair<QString, QString>> &pairs)
+QString factsText(const QList<ReportFact> &facts)
 {
     QString text;
-    for (const auto &[title, value] : pairs)
-        text += QStringLiteral("  %1  %2\n").arg(title.leftJustified(18), value);
+    for (const ReportFact &fact : facts)
+        text += QStringLiteral("  %1  %2\n").arg(fact.title.leftJustified(18), fact.value);
     return text;
 }
 
@@ -68,11 +72,14 @@ QString digitTableText(const QJsonObject &report)
 QByteArray textReport(const QJsonObject &report)
 {
     const ReportView view(report);
-    QString text = QStringLiteral("%1 (%2): %3\n").arg(view.testName(), view.testKey(), view.verdictName());
-    text += pairsText(view.facts());
+    const QString translated = view.translatedTestName();
+    QString text = QStringLiteral("%1%2 (%3): %4\n")
+                       .arg(view.testName(), translated.isEmpty() ? QString() : QStringLiteral(" \u2013 ") + translated,
+                            view.testKey(), view.verdictName());
+    text += factsText(view.facts());
     text += section(QStringLiteral("Messages"), messagesText(view));
     text += section(QStringLiteral("Digits"), digitTableText(report));
-    text += section(QStringLiteral("Recording"), pairsText(view.recordingFacts()));
+    text += section(QStringLiteral("Recording"), factsText(view.recordingFacts()));
     QString limits;
     for (const QString &limit : view.lines("limits"))
         limits += QStringLiteral("  - %1\n").arg(limit);

@@ -112,6 +112,30 @@
         <translation>Ein anderer Durchlauf hält die Lautstärken.</translation>
     </message>
     <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>Das Gerät „%1“ ist während des Durchlaufs verschwunden.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_MUTED_AGAIN</source>
+        <translation>„%1“ war vor dem Durchlauf stummgeschaltet und ist es jetzt wieder.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_MUTED</source>
+        <translation>„%1“ war vor dem Durchlauf stummgeschaltet.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_AT_ZERO_AGAIN</source>
+        <translation>Die Lautstärke von „%1“ war vor dem Durchlauf 0 und ist es jetzt wieder.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_AT_ZERO</source>
+        <translation>Die Lautstärke von „%1“ war vor dem Durchlauf 0.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED_NO_SOURCE</source>
+        <translation>Wählen Sie zuerst im Menü „Hörquelle…“, womit zugehört wird.</translation>
+    </message>
+    <message>
         <source>REASON_LISTENER_LOST</source>
         <translation>Das zuhörende Programm fiel während des Durchlaufs aus.</translation>
     </message>

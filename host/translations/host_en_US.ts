@@ -112,6 +112,30 @@
         <translation>Another run is holding the volumes.</translation>
     </message>
     <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>The device “%1” disappeared during the run.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_MUTED_AGAIN</source>
+        <translation>“%1” was muted before the run, and is muted again now.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_MUTED</source>
+        <translation>“%1” was muted before the run.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_AT_ZERO_AGAIN</source>
+        <translation>The volume of “%1” was 0 before the run, and is 0 again now.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_AT_ZERO</source>
+        <translation>The volume of “%1” was 0 before the run.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED_NO_SOURCE</source>
+        <translation>First choose what listens, by “Listening source…” in this menu.</translation>
+    </message>
+    <message>
         <source>REASON_LISTENER_LOST</source>
         <translation>The program that listens was lost during the run.</translation>
     </message>

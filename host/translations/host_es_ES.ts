@@ -112,6 +112,30 @@
         <translation>Otra ejecución mantiene los volúmenes.</translation>
     </message>
     <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>El dispositivo «%1» ha desaparecido durante la ejecución.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_MUTED_AGAIN</source>
+        <translation>«%1» estaba silenciado antes de la ejecución y ahora vuelve a estarlo.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_MUTED</source>
+        <translation>«%1» estaba silenciado antes de la ejecución.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_AT_ZERO_AGAIN</source>
+        <translation>El volumen de «%1» era 0 antes de la ejecución y ahora vuelve a ser 0.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_AT_ZERO</source>
+        <translation>El volumen de «%1» era 0 antes de la ejecución.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED_NO_SOURCE</source>
+        <translation>Elija primero con qué se escucha, en «Fuente de escucha…» de este menú.</translation>
+    </message>
+    <message>
         <source>REASON_LISTENER_LOST</source>
         <translation>El programa de escucha se ha perdido durante la ejecución.</translation>
     </message>

@@ -112,6 +112,30 @@
         <translation>Une autre exécution maintient les volumes.</translation>
     </message>
     <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>Le périphérique « %1 » a disparu pendant l’exécution.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_MUTED_AGAIN</source>
+        <translation>Le son de « %1 » était coupé avant l’exécution et l’est de nouveau.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_MUTED</source>
+        <translation>Le son de « %1 » était coupé avant l’exécution.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_AT_ZERO_AGAIN</source>
+        <translation>Le volume de « %1 » était à 0 avant l’exécution et l’est de nouveau.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_AT_ZERO</source>
+        <translation>Le volume de « %1 » était à 0 avant l’exécution.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED_NO_SOURCE</source>
+        <translation>Choisissez d’abord ce qui écoute, par « Source d’écoute… » dans ce menu.</translation>
+    </message>
+    <message>
         <source>REASON_LISTENER_LOST</source>
         <translation>Le programme d’écoute a été perdu pendant l’exécution.</translation>
     </message>

@@ -112,6 +112,30 @@
         <translation>Un’altra esecuzione mantiene i volumi.</translation>
     </message>
     <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>Il dispositivo «%1» è scomparso durante l’esecuzione.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_MUTED_AGAIN</source>
+        <translation>L’audio di «%1» era disattivato prima dell’esecuzione e ora lo è di nuovo.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_MUTED</source>
+        <translation>L’audio di «%1» era disattivato prima dell’esecuzione.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_AT_ZERO_AGAIN</source>
+        <translation>Il volume di «%1» era a 0 prima dell’esecuzione e ora lo è di nuovo.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_AT_ZERO</source>
+        <translation>Il volume di «%1» era a 0 prima dell’esecuzione.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED_NO_SOURCE</source>
+        <translation>Scegliere prima che cosa ascolta, con «Sorgente di ascolto…» in questo menu.</translation>
+    </message>
+    <message>
         <source>REASON_LISTENER_LOST</source>
         <translation>Il programma di ascolto è andato perso durante l’esecuzione.</translation>
     </message>

@@ -112,6 +112,30 @@
         <translation>別の実行が音量を固定しています。</translation>
     </message>
     <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>デバイス「%1」が実行中になくなりました。</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_MUTED_AGAIN</source>
+        <translation>「%1」は実行前にミュートされていて、現在も再びミュートされています。</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_MUTED</source>
+        <translation>「%1」は実行前にミュートされていました。</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_AT_ZERO_AGAIN</source>
+        <translation>「%1」の音量は実行前に0で、現在も再び0です。</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_AT_ZERO</source>
+        <translation>「%1」の音量は実行前に0でした。</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED_NO_SOURCE</source>
+        <translation>先にこのメニューの「聞き取り元…」で聞き取り元を選択してください。</translation>
+    </message>
+    <message>
         <source>REASON_LISTENER_LOST</source>
         <translation>聞き取りプログラムが実行中に失われました。</translation>
     </message>

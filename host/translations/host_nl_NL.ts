@@ -112,6 +112,30 @@
         <translation>Een andere uitvoering houdt de volumes vast.</translation>
     </message>
     <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>Het apparaat ‘%1’ is tijdens de uitvoering verdwenen.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_MUTED_AGAIN</source>
+        <translation>‘%1’ was vóór de uitvoering gedempt en is dat nu weer.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_MUTED</source>
+        <translation>‘%1’ was vóór de uitvoering gedempt.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_AT_ZERO_AGAIN</source>
+        <translation>Het volume van ‘%1’ was vóór de uitvoering 0 en is dat nu weer.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_AT_ZERO</source>
+        <translation>Het volume van ‘%1’ was vóór de uitvoering 0.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED_NO_SOURCE</source>
+        <translation>Kies eerst waarmee wordt geluisterd, via ‘Luisterbron…’ in dit menu.</translation>
+    </message>
+    <message>
         <source>REASON_LISTENER_LOST</source>
         <translation>Het luisterprogramma is tijdens de uitvoering weggevallen.</translation>
     </message>

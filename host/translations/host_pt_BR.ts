@@ -112,6 +112,30 @@
         <translation>Outra execução está mantendo os volumes.</translation>
     </message>
     <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>O dispositivo “%1” desapareceu durante a execução.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_MUTED_AGAIN</source>
+        <translation>“%1” estava silenciado antes da execução e agora está silenciado novamente.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_MUTED</source>
+        <translation>“%1” estava silenciado antes da execução.</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_AT_ZERO_AGAIN</source>
+        <translation>O volume de “%1” estava em 0 antes da execução e agora está em 0 novamente.</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_AT_ZERO</source>
+        <translation>O volume de “%1” estava em 0 antes da execução.</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED_NO_SOURCE</source>
+        <translation>Escolha primeiro o que escuta, em “Fonte de escuta…” neste menu.</translation>
+    </message>
+    <message>
         <source>REASON_LISTENER_LOST</source>
         <translation>O programa de escuta foi perdido durante a execução.</translation>
     </message>

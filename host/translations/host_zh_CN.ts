@@ -112,6 +112,30 @@
         <translation>另一次运行正在占用音量设置。</translation>
     </message>
     <message>
+        <source>REASON_DEVICE_GONE</source>
+        <translation>设备“%1”在运行期间消失。</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_MUTED_AGAIN</source>
+        <translation>“%1”在运行前已静音，现在又恢复为静音。</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_MUTED</source>
+        <translation>“%1”在运行前已静音。</translation>
+    </message>
+    <message>
+        <source>WARNING_IS_AT_ZERO_AGAIN</source>
+        <translation>“%1”的音量在运行前为 0，现在又恢复为 0。</translation>
+    </message>
+    <message>
+        <source>WARNING_WAS_AT_ZERO</source>
+        <translation>“%1”的音量在运行前为 0。</translation>
+    </message>
+    <message>
+        <source>RUN_UNATTENDED_NO_SOURCE</source>
+        <translation>请先通过此菜单中的“监听来源…”选择监听来源。</translation>
+    </message>
+    <message>
         <source>REASON_LISTENER_LOST</source>
         <translation>监听程序在运行期间中断。</translation>
     </message>

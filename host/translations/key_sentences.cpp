@@ -67,7 +67,7 @@ std::optional<QString> installedText(const QString &key)
 
 std::optional<QString> englishText(const QString &key)
 {
-    const English english; // asked for a few texts of a report only
+    static const English english;
     const QByteArray bytes = key.toUtf8();
     QString text = english.audio.translate("AUDIO", bytes.constData());
     if (text.isEmpty())

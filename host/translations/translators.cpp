@@ -67,6 +67,9 @@ bool installTranslators(const QString &code, const QString &folder)
     registerTranslations();
     const QString known = knownCode(code);
     installToolkitTexts(known);
+    QLocale locale(known); // its decimal sign; four digits need no grouping
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    QLocale::setDefault(locale);
     bool isComplete = true;
     for (std::size_t index = 0; index < parts.size(); ++index) {
         const QString file = QStringLiteral("%1/%2_%3.qm").arg(folder, parts[index], known);

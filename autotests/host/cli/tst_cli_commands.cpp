@@ -13,7 +13,7 @@
 namespace {
 
 const QByteArray report =
-    R"({"formatVersion":1,"test":{"nameKey":"AUDIO_PLAYBACK_TEST","translated":"Wiedergabe"},)"
+    R"({"formatVersion":1,"test":{"letter":"p","nameKey":"AUDIO_PLAYBACK_TEST","translated":"Wiedergabe"},)"
     R"("device":{"name":"Speakers"},"language":"de_DE","verdict":{"code":3,"name":"cannot be performed"}})";
 
 bool write(const QString &path, const QByteArray &bytes)
@@ -77,7 +77,8 @@ void TestCliCommands::printsAReport()
     const QString source = folder.filePath(QStringLiteral("r.json"));
     QVERIFY(write(source, report));
     const CliRun run = runCli({QStringLiteral("report"), source});
-    QVERIFY2(run.output.startsWith("Wiedergabe (AUDIO_PLAYBACK_TEST): cannot be performed\n"), run.output.constData());
+    QVERIFY2(run.output.startsWith("Audio Playback Test \u2013 Wiedergabe (AUDIO_PLAYBACK_TEST): cannot be performed\n"),
+             run.output.constData());
     QVERIFY(!run.output.contains('\r'));
     QCOMPARE(run.code, 0);
 }
@@ -89,6 +90,11 @@ void TestCliCommands::refusesWhatIsNoReport_data()
     QTest::addColumn<QByteArray>("complaint");
     QTest::newRow("not JSON") << QByteArray("<html>") << QString() << QByteArray("cannot be read: it is no JSON: ");
     QTest::newRow("other JSON") << QByteArray("{}") << QString() << QByteArray("cannot be read: it is no report of a test\n");
+    QByteArray denied = report;
+    denied.replace("\"code\":3", "\"code\":0");
+    QTest::newRow("contradictory") << denied << QString()
+                                   << QByteArray("cannot be read: it is no valid report: verdict/name is not 'passed', which "
+                                                 "verdict/code 0 stands for\n");
     QTest::newRow("newer") << QByteArray("{\"formatVersion\":99}") << QString() << QByteArray("newer than this program\n");
     QTest::newRow("unknown suffix") << report << QStringLiteral("r.pdf") << QByteArray("its name must end in .json");
 }

@@ -20,7 +20,22 @@ private slots:
     void tellsAMessageWithoutWordsOnce();
     void endsWithTheDigits();
     void aNameCannotSteerTheTerminal();
+    void endsWithWhatAPassMustNotHide();
 };
+
+void TestConsoleOutput::endsWithWhatAPassMustNotHide()
+{
+    QVERIFY(host::installTranslators(QStringLiteral("en_US")));
+    host::RunRecord record;
+    record.device.name = QStringLiteral("Speakers");
+    record.code = record.moduleCode = 0;
+    QVERIFY(!host::runSummary(record).contains(QStringLiteral("warning")));
+    record.deviceVolume = {host::EndpointState{37, true}, host::EndpointState{37, true}};
+    QVERIFY2(host::runSummary(record).endsWith(
+                 QStringLiteral("\nwarning: \u201CSpeakers\u201D was muted before the run, and is muted again now. "
+                                "(WARNING_IS_MUTED_AGAIN)\n")),
+             qPrintable(host::runSummary(record)));
+}
 
 void TestConsoleOutput::aNameCannotSteerTheTerminal()
 {

@@ -4,6 +4,7 @@
 #include "autotests/host/gui/prompt_answerer.h"
 #include "autotests/host/gui/shown_program.h"
 #include "host/gui/key_text.h"
+#include "host/gui/result_panel.h"
 #include "host/translations/translators.h"
 
 #include <QAbstractButton>
@@ -84,6 +85,8 @@ private slots:
     void hasUniqueMnemonics();
     void tabsInTheOrderOfSight();
     void keepsTheKeyboardAtTheRun();
+    void warnsOfAMutedDevice();
+    void tellsWhyNobodyCanRunAlone();
 
 private:
     QString before_;
@@ -319,13 +322,18 @@ void TestMainWindow::showsProgress()
 {
     Program program;
     int shown = -1;
+    bool isShown = false;
     program.module.playback = [&](ostra::TestContext &context) {
         context.reporter()->report(40, "");
         shown = program.find<QProgressBar>("host_progress")->value();
+        isShown = program.find<QProgressBar>("host_progress")->isVisible();
         return ostra::result::passed;
     };
+    QVERIFY(!program.find<QProgressBar>("host_progress")->isVisible());
     program.session.run(0, 0, program.language.code());
     QCOMPARE(shown, 40);
+    QVERIFY(isShown);
+    QVERIFY(!program.find<QProgressBar>("host_progress")->isVisible()); // where it would go on telling of 40 %
 }
 
 void TestMainWindow::changesTheLanguageAndReadsTheDevicesAgain()
@@ -437,6 +445,38 @@ void TestMainWindow::keepsTheKeyboardAtTheRun()
     QCOMPARE(program.window.focusWidget()->objectName(), QStringLiteral("host_run"));
     QCOMPARE(program.find<QWidget>("host_result_messages")->focusPolicy(), Qt::NoFocus); // there are none
     QCOMPARE(program.find<QWidget>("host_history")->focusPolicy(), Qt::StrongFocus);
+}
+
+void TestMainWindow::warnsOfAMutedDevice()
+{
+    QVERIFY(host::installTranslators(QStringLiteral("en_US")));
+    host::RunRecord record;
+    record.device.name = QStringLiteral("Speakers");
+    record.code = record.moduleCode = 0;
+    record.deviceVolume = {host::EndpointState{0, true}, host::EndpointState{80, false}};
+    host::ResultPanel panel;
+    panel.showRun(record);
+    const auto *list = panel.findChild<QListWidget *>(QStringLiteral("host_result_messages"));
+    QCOMPARE(list->count(), 2);
+    QCOMPARE(list->item(0)->text(), QStringLiteral("\u201CSpeakers\u201D was muted before the run."));
+    QCOMPARE(list->item(1)->text(), QStringLiteral("The volume of \u201CSpeakers\u201D was 0 before the run."));
+    Program program;
+    emit program.session.runEnded(record);
+    QVERIFY2(program.log().contains(list->item(0)->text()), qPrintable(program.log()));
+    QCOMPARE(program.messages().size(), 2);
+}
+
+void TestMainWindow::tellsWhyNobodyCanRunAlone()
+{
+    Program program;
+    QMenu *menu = program.window.menuBar()->actions()[1]->menu();
+    const QAction *entry = menu->actions()[1];
+    QVERIFY(!entry->isEnabled() && menu->toolTipsVisible());
+    QCOMPARE(entry->toolTip(), host::hostText("RUN_UNATTENDED_NO_SOURCE"));
+    QCOMPARE(entry->statusTip(), entry->toolTip());
+    program.window.setListening(true);
+    QVERIFY(entry->isEnabled());
+    QVERIFY(entry->toolTip() != host::hostText("RUN_UNATTENDED_NO_SOURCE"));
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -82,12 +82,9 @@ class TestMeasurementsPage : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QLocale::setDefault(QLocale::c());
-        QVERIFY(host::installTranslators(QStringLiteral("en_US")));
-    }
+    void initTestCase() { QVERIFY(host::installTranslators(QStringLiteral("en_US"))); }
     void saysWhereNothingWasMeasured();
+    void writesNumbersAsTheLanguageDoes();
     void listsTheDigits();
     void knowsWhatWasPlayedOnlyWhenItWasAccepted();
     void showsThePlotsOfTheChosenDigit();
@@ -250,6 +247,20 @@ void TestMeasurementsPage::forgetsTheRunBefore()
     page.showRun(passedRun());
     page.clear();
     QVERIFY(page.findChild<QLabel *>(QStringLiteral("host_nothing_measured"))->isVisible());
+}
+
+void TestMeasurementsPage::writesNumbersAsTheLanguageDoes()
+{
+    Page page;
+    QVERIFY(host::installTranslators(QStringLiteral("de_DE")));
+    page.showRun(passedRun());
+    const QStringList row = page.row(0);
+    const QString words = page.words("host_digit_wave_words");
+    QVERIFY(host::installTranslators(QStringLiteral("en_US")));
+    QCOMPARE(row.mid(4, 3).join(u' '), QStringLiteral("0,88 -21,0 61,3"));
+    QVERIFY2(words.contains(QStringLiteral("0,2")), qPrintable(words));
+    page.retranslate();
+    QCOMPARE(page.row(0).value(4), QStringLiteral("0.88"));
 }
 
 QTEST_MAIN(TestMeasurementsPage)

@@ -104,6 +104,7 @@ private slots:
     void doesNotTypeADigitTwice();
     void closesWhenTheListenerDies();
     void closesWhenTheSourceIsLost();
+    void keepsWhatItHeardOfAnUnfinishedPlay();
     void acceptsTheInstructions();
     void leavesQuestionsOpen();
     void doesNotReachThroughWhatCoversAButton();
@@ -324,6 +325,21 @@ void TestTestOperator::closesWhenTheSourceIsLost()
     const RunRecord record = run(dialog, settings());
     QCOMPARE(dialog.outcome(), Outcome::closed);
     QCOMPARE(record.reason, QStringLiteral("listener lost"));
+}
+
+void TestTestOperator::keepsWhatItHeardOfAnUnfinishedPlay()
+{
+    ListenerScript script;
+    StandInDialog dialog({{5, 6, 8}}, [&script](int digit) {
+        if (digit == 8)
+            script.say(R"({"event":"lost"})");
+        else if (digit >= 0)
+            script.digit(digit);
+    });
+    const RunRecord record = run(dialog, settings());
+    QCOMPARE(dialog.outcome(), Outcome::closed);
+    QCOMPARE(heardIn(record), (QList<int>{5, 6}));
+    QCOMPARE(typedIn(record), (QList<int>{-1, -1}));
 }
 
 void TestTestOperator::acceptsTheInstructions()

@@ -79,6 +79,18 @@ void TestRunLimits::claimsNothingOfARunThatHeardNothing()
         QCOMPARE(host::runLimits(record).size(), 1);
         QVERIFY(host::runLimits(record).constFirst().contains(QStringLiteral("says nothing about the device")));
     }
+    const QString unplayed = QStringLiteral("Nothing was played and heard");
+    QVERIFY(host::runLimits(refused).constFirst().contains(unplayed));
+    ended.code = ended.moduleCode = 4;
+    for (const bool wasStopped : {false, true}) {
+        ended.wasStopped = wasStopped;
+        QCOMPARE(host::runLimits(ended),
+                 QStringList{QStringLiteral("The run ended before a verdict: this run says nothing about the device.")});
+    }
+    ended.testLetter = QStringLiteral("p");
+    ended.digits = {heardDigit()};
+    QVERIFY(host::runLimits(ended).constFirst().startsWith(QStringLiteral("The run ended before a verdict")));
+    QVERIFY(!host::runLimits(ended).join(u'\n').contains(unplayed));
 }
 
 void TestRunLimits::claimsNoJudgementWhereNobodyJudged()

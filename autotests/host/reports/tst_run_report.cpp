@@ -283,6 +283,11 @@ void TestRunReport::keepsToItsSchema_data()
     RunRecord refused = playbackRecord();
     refused.wasModuleCalled = false;
     QTest::newRow("module not called") << refused;
+    RunRecord muted = microphoneRecord();
+    muted.microphone = QStringLiteral("Mic <1>");
+    muted.deviceVolume = {host::EndpointState{37, true}, host::EndpointState{37, true}};
+    muted.machine.hostName = QStringLiteral("desk-7");
+    QTest::newRow("muted") << muted;
 }
 
 void TestRunReport::keepsToItsSchema()
@@ -376,7 +381,7 @@ void TestRunReport::tellsWhyInThreeForms_data()
     RunRecord told = playbackRecord();
     told.messages.append({QStringLiteral("POSSIBLE_DEFECTIVE_COMPONENTS: SPEAKERS"), 0});
     QTest::newRow("the module's") << told << QStringLiteral("USER_DID_NOT_REPORT_SOUND POSSIBLE_DEFECTIVE_COMPONENTS: SPEAKERS")
-                                  << QStringLiteral("The user reported that no sound was heard.; "
+                                  << QStringLiteral("The user reported that no sound was heard. "
                                                     "Possibly defective components: Speakers")
                                   << QStringLiteral("<USER_DID_NOT_REPORT_SOUND> "
                                                     "<POSSIBLE_DEFECTIVE_COMPONENTS: SPEAKERS>");
