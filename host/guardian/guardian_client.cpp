@@ -59,9 +59,12 @@ GuardianClient::~GuardianClient() { finish(); }
 QStringList GuardianClient::restoreLeftovers()
 {
     errorText_.clear();
+    leftAlone_.clear();
     if (d_->process != nullptr) // its note is no leftover
         return {};
-    return putBackLeftovers(d_->stateFolder, errorText_).names;
+    PutBack result = putBackLeftovers(d_->stateFolder, errorText_);
+    leftAlone_ = std::move(result.left);
+    return std::move(result.names);
 }
 
 bool GuardianClient::start()
@@ -100,7 +103,7 @@ QStringList GuardianClient::finish()
     d_->process.reset();
     QStringList names = std::exchange(d_->names, {});
     if (!message) // it did not live to its end, but its note is still there
-        names += restoreLeftovers();
+        names += putBackLeftovers(d_->stateFolder, errorText_, NoteOwner::thisRun).names;
     else if (message->kind == Kind::failed)
         errorText_ = message->text;
     return names;

@@ -80,7 +80,7 @@ void TestGuardianProcess::notesBeforeItIsReady()
     QCOMPARE(readLine(guardian), ready);
     const auto noted = note().read();
     QVERIFY(noted);
-    QVERIFY(noted->size() >= 3); // Wine has an endpoint of its own, and shows monitors
+    QVERIFY(noted->volumes.size() >= 3); // Wine has an endpoint of its own, and shows monitors
     guardian.kill();
     QVERIFY(guardian.waitForFinished(limitMilliseconds));
     QVERIFY(note().read());
