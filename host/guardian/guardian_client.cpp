@@ -78,7 +78,9 @@ bool GuardianClient::start()
     d_->names.clear();
     d_->process = std::make_unique<GuardianProcess>();
     if (!d_->process->start(d_->stateFolder)) {
-        errorText_ = QStringLiteral("The guardian of the volumes could not be started: %1").arg(d_->process->errorString());
+        errorText_ =
+            QStringLiteral("The guardian of the volumes (volume_guardian) is missing or cannot be started: should this "
+                           "run break down, its volumes stay raised.");
     } else if (const auto message = d_->waitFor(Kind::ready, startBound); !message) {
         errorText_ = QStringLiteral("The guardian of the volumes did not answer.");
     } else if (message->kind != Kind::ready) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "host/core/debug_lines.h"
 #include "host/core/sound_environment.h"
 #include "host/gui/console_output.h"
 #include "host/gui/program.h"
@@ -32,6 +33,8 @@ int main(int argc, char *argv[])
         host::print(options.isHelp ? host::optionsHelp() : QStringLiteral("TamrexDiagnostics " HOST_VERSION "\n"));
         return 0;
     }
+    if (!options.isVerbose)
+        host::hideDebugLines();
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0"); // the module's dialogs scale themselves
     host::keepInterruptSignals();
     const QApplication application(argc, argv);

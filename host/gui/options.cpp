@@ -22,7 +22,7 @@ struct KnownOption {
     bool isUnattendedOnly;
 };
 
-constexpr std::array<KnownOption, 19> knownOptions{{
+constexpr std::array<KnownOption, 20> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
@@ -39,6 +39,7 @@ constexpr std::array<KnownOption, 19> knownOptions{{
     {"developer", nullptr, "add a menu that simulates events of the machine", false},
     {"simulate-event", "BIT@MS", "raise that event that long after the start of a run; may be repeated", false},
     {"stop-after", "MS", "stop each run that long after its start", false},
+    {"verbose", nullptr, "also show the debug lines of the module", false},
     {"self-check", nullptr, "print as JSON what the windows of this installation lack, and exit", false},
     {"help", nullptr, "print this and exit", false},
     {"version", nullptr, "print the version and exit", false},
@@ -152,6 +153,7 @@ Options readValues(const QCommandLineParser &parser)
     options.isHelp = parser.isSet(QStringLiteral("help"));
     options.isSelfCheck = parser.isSet(QStringLiteral("self-check"));
     options.isVersion = parser.isSet(QStringLiteral("version"));
+    options.isVerbose = parser.isSet(QStringLiteral("verbose"));
     options.isUnattended = parser.isSet(QStringLiteral("unattended"));
     options.isDeveloper = parser.isSet(QStringLiteral("developer"));
     options.test = parser.value(QStringLiteral("test"));

@@ -17,6 +17,7 @@ struct Options {
     bool isVersion = false;
     bool isUnattended = false;
     bool isDeveloper = false;
+    bool isVerbose = false; ///< the module's debug lines are shown
     QString test; ///< letter
     QString device;
     QString source;       ///< with or without `isUnattended`

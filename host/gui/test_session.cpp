@@ -8,6 +8,8 @@
 
 #include <QScopeGuard>
 
+#include <utility>
+
 namespace host {
 
 namespace {
@@ -73,7 +75,7 @@ std::optional<RunRecord> TestSession::run(qsizetype test, qsizetype device, cons
     const auto over = qScopeGuard([this] { context_ = nullptr; });
     emit runStarted(record);
     perform(*chosen, context, record);
-    record.restoredVolumes = guardian_.finish();
+    record.restoredVolumes = std::exchange(leftovers_, {}) + guardian_.finish();
     if (!guardian_.errorText().isEmpty() && record.volumeComplaint.isEmpty())
         complainOfVolumes(record);
     record.endedUtc = QDateTime::currentDateTimeUtc();
@@ -82,6 +84,12 @@ std::optional<RunRecord> TestSession::run(qsizetype test, qsizetype device, cons
     context_ = nullptr;
     end(record);
     return record;
+}
+
+QStringList TestSession::restoreLeftovers()
+{
+    leftovers_ = guardian_.restoreLeftovers();
+    return leftovers_;
 }
 
 std::optional<RunRecord> TestSession::refuse(qsizetype test, qsizetype device, const QString &language, const QString &reason,

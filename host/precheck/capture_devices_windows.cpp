@@ -54,10 +54,12 @@ QList<CaptureDevice> readCaptureDevices()
     QList<CaptureDevice> devices;
     for (const EndpointName &endpoint : endpoints) {
         if (std::find(ids.begin(), ids.end(), endpoint.id) != ids.end())
-            devices.append(
-                {names.next(QString::fromStdString(endpoint.description)), QString::fromStdU16String(endpoint.id), isVirtual});
+            devices.append({names.next(QString::fromStdString(endpoint.description)), QString::fromStdU16String(endpoint.id),
+                            isVirtual, false});
     }
     return devices;
 }
+
+QList<CaptureDevice> readMonitors() { return {}; }
 
 } // namespace host

@@ -32,6 +32,30 @@
         <translation>Er is geen uitvoerapparaat gevonden. Sluit er een aan; de lijst wordt vanzelf bijgewerkt.</translation>
     </message>
     <message>
+        <source>SOUND_SERVER_SILENT</source>
+        <translation>De geluidsserver antwoordt niet: de apparaten kunnen niet worden weergegeven. Start deze en vernieuw daarna de lijst.</translation>
+    </message>
+    <message>
+        <source>DEVICE_STATE</source>
+        <translation>Op dit moment</translation>
+    </message>
+    <message>
+        <source>STATE_VOLUME</source>
+        <translation>volume %1%</translation>
+    </message>
+    <message>
+        <source>STATE_MUTED</source>
+        <translation>gedempt</translation>
+    </message>
+    <message>
+        <source>STATE_DEFAULT</source>
+        <translation>standaard</translation>
+    </message>
+    <message>
+        <source>STATE_VIRTUAL</source>
+        <translation>virtueel</translation>
+    </message>
+    <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
         <translation>De geluidsserver antwoordt niet: volume en demping konden niet worden gecontroleerd.</translation>
     </message>
@@ -268,6 +292,10 @@
         <translation>Een eerdere test is onderbroken. Het volume van deze apparaten is hersteld: %1</translation>
     </message>
     <message>
+        <source>LOG_VOLUMES_LEFT</source>
+        <translation>Een afgebroken test had volumes verhoogd die sindsdien zijn gewijzigd. Ze blijven zoals ze zijn: %1</translation>
+    </message>
+    <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
         <translation>Het volume van deze apparaten is hersteld: %1</translation>
     </message>
@@ -347,6 +375,10 @@
         <source>ABOUT_VERSIONS</source>
         <translation>Versie van de module: %1
 Versie van dit programma: %2</translation>
+    </message>
+    <message>
+        <source>ABOUT_WHICH_VERSION</source>
+        <translation>Vermeld bij vragen en foutmeldingen de versie van dit programma; de versie van de module vertelt met welke module het test.</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>
