@@ -100,6 +100,7 @@ std::optional<RunRecord> TestSession::refuse(qsizetype test, qsizetype device, c
     RunRecord record = begin(test, device, language);
     record.endedUtc = record.startedUtc;
     record.wasModuleCalled = false;
+    record.restoredVolumes = std::exchange(leftovers_, {});
     record.code = ostra::result::cannotBePerformed;
     record.reason = reason;
     if (finish)

@@ -17,6 +17,7 @@
 #include <QObject>
 #include <QScreen>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -152,9 +153,14 @@ void TestHostLayout::fits()
     host::DialogPrompter prompter;
     host::TestSession session(module.interface(), prompter, folder.path());
     host::MainWindow window(session, language, QStringLiteral("4.42.0.92"), true);
+    window.setSoundState([] {
+        return host::SoundState{true, {{QStringLiteral("Speakers"), QStringLiteral("s"), 137, true, true}}, {{}, true}};
+    });
     session.refresh();
     expose(window);
     verifyFits(window);
+    const auto *devices = window.findChild<QTableWidget *>(QStringLiteral("host_devices"));
+    QVERIFY(devices->columnWidth(0) >= devices->fontMetrics().horizontalAdvance(QStringLiteral("Speakers")));
     session.run(0, 1, code, addDigits);
     QCoreApplication::processEvents();
     verifyFits(window);
