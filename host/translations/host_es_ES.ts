@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>STATE_VOLUME</source>
-        <translation>volumen %1 %</translation>
+        <translation>volumen %1 %</translation>
     </message>
     <message>
         <source>STATE_MUTED</source>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>SOUND_SERVER_SILENT</source>
-        <translation>Le serveur de son ne répond pas : les périphériques ne peuvent pas être listés. Démarrez-le, puis actualisez la liste.</translation>
+        <translation>Le serveur audio ne répond pas : les périphériques ne peuvent pas être listés. Démarrez-le, puis actualisez la liste.</translation>
     </message>
     <message>
         <source>DEVICE_STATE</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>STATE_VOLUME</source>
-        <translation>volume %1 %</translation>
+        <translation>volume %1 %</translation>
     </message>
     <message>
         <source>STATE_MUTED</source>
@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>LOG_VOLUMES_LEFT</source>
-        <translation>Une exécution interrompue avait augmenté des volumes qui ont été modifiés depuis. Ils restent tels quels : %1</translation>
+        <translation>Une exécution interrompue avait augmenté des volumes qui ont été modifiés depuis. Ils restent tels quels : %1</translation>
     </message>
     <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
@@ -378,7 +378,7 @@ Version de ce programme : %2</translation>
     </message>
     <message>
         <source>ABOUT_WHICH_VERSION</source>
-        <translation>Dans vos questions et rapports d’erreur, indiquez la version de ce programme ; celle du module dit avec quel module il teste.</translation>
+        <translation>Dans vos questions et rapports d’erreur, indiquez la version de ce programme ; celle du module dit avec quel module il teste.</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>
