@@ -5,6 +5,8 @@ install(TARGETS module_audio sal style_manager TamrexDiagnostics TamrexDiagnosti
 install(DIRECTORY "${MODULE_AUDIO_CLIPS_DIR}/" DESTINATION audio_files FILES_MATCHING PATTERN "*.wav" PATTERN "manifest.sha256"
     PATTERN ".*" EXCLUDE)
 install(FILES "${CMAKE_SOURCE_DIR}/LICENSE" DESTINATION .)
+# The user's guide, and what a reader of reports checks them against.
+install(FILES "${CMAKE_SOURCE_DIR}/docs/graphical-host.md" "${CMAKE_SOURCE_DIR}/docs/report.schema.json" DESTINATION doc)
 
 if(WIN32)
     # Qt, SDL and the compiler's run-time libraries travel with the bundle.

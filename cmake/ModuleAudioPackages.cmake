@@ -62,6 +62,9 @@ foreach(program IN LISTS programs)
     endforeach()
 endforeach()
 
+ma_install_compressed("${CMAKE_SOURCE_DIR}/docs/graphical-host.md" share/doc/tamrex-diagnostics/graphical-host.md.gz host)
+install(FILES "${CMAKE_SOURCE_DIR}/docs/report.schema.json" DESTINATION share/doc/tamrex-diagnostics ${data_modes} ${as_host})
+
 install(DIRECTORY "${MODULE_AUDIO_CLIPS_DIR}/" DESTINATION share/module-audio/audio_files ${as_clips}
     FILES_MATCHING PATTERN "*.wav" PATTERN "manifest.sha256" PATTERN ".*" EXCLUDE)
 ma_install_link(../../share/module-audio/audio_files ${MODULE_AUDIO_SYSTEM_DIR}/audio_files clips)

@@ -22,11 +22,11 @@ _TamrexDiagnosticsCLI() {
         case $word in list | info | run | report | clips) command=$word; break ;; esac
     done
     case $command in
-        list) options='--json --config --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
-        info) options='--json --self-check --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
-        run) options='--config --test --device --listen --microphone --speak-through --report --keep-audio --all-languages --reports --channel-check --screenshots --allow-virtual --language --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
-        report) options='--output --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { mapfile -t COMPREPLY < <(compgen -f -- "$current"); return; } ;;
-        clips) options='--json --language --folder --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { mapfile -t COMPREPLY < <(compgen -W 'verify' -- "$current"); return; } ;;
+        list) options='--json --config --verbose --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
+        info) options='--json --self-check --verbose --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
+        run) options='--config --test --device --listen --microphone --speak-through --report --keep-audio --all-languages --reports --channel-check --screenshots --allow-virtual --language --verbose --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { COMPREPLY=(); return; } ;;
+        report) options='--output --verbose --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { mapfile -t COMPREPLY < <(compgen -f -- "$current"); return; } ;;
+        clips) options='--json --language --folder --verbose --gnu-exit --print-manual --print-completion --help --version'; [[ $current == -* ]] || { mapfile -t COMPREPLY < <(compgen -W 'verify' -- "$current"); return; } ;;
         *) [[ $current == -* ]] || options='list info run report clips' ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")

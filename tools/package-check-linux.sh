@@ -55,6 +55,9 @@ check_packages() {
     before=$(files_in_root)
     # shellcheck disable=SC2046
     install_packages $(cd "$packages" && printf '/packages/%s ' *.deb) || fail "the packages cannot be installed"
+    for name in graphical-host.md.gz report.schema.json; do
+        as_user test -s "/usr/share/doc/tamrex-diagnostics/$name" || fail "the package of the host lacks $name"
+    done
     as_user TamrexDiagnosticsCLI --version >"$log" 2>&1 || fail "the program does not start"
     as_user /packages/virtual-sound-card run --sink Speakers -- /packages/package-check --inside list TamrexDiagnosticsCLI ||
         fail "the installed command-line program does not work"

@@ -61,7 +61,7 @@ check_field_check() { # folder with the unpacked zip
 check_packages() {
     needs wine
     needs xvfb-run
-    local setup zip folder before after registered
+    local setup zip folder before after registered name
     setup=$(ls "$packages"/TamrexDiagnostics-*-setup.exe) zip=$(ls "$packages"/TamrexDiagnostics-*.zip)
     version=$(basename "$setup" | cut -d- -f2)
     export WINEPREFIX=$work/prefix WINEDEBUG=-all
@@ -75,11 +75,14 @@ check_packages() {
     mkdir "$folder"
     (cd "$folder" && cmake -E tar xf "$zip") || fail "the zip cannot be unpacked"
     folder=$(ls -d "$folder"/*)
+    for name in graphical-host.md report.schema.json; do
+        [ -s "$folder/doc/$name" ] || fail "the zip lacks $name"
+    done
     check_resources "$folder"
     check_imports "$folder"
     run_programs "$folder"
     say "windows: the zip runs"
-    local unpacked=$folder name
+    local unpacked=$folder
 
     before=$(prefix_files)
     registered=$(registry || true)

@@ -8,6 +8,7 @@
 #include "host/translations/translators.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QJsonArray>
 
 namespace host {
@@ -35,10 +36,15 @@ QString faultText(ClipFault fault)
     return QStringLiteral("not in the manifest");
 }
 
-QList<LanguageCheck> checkAll(const CommandLine &line)
+QString folderOf(const CommandLine &line)
 {
     const QString own = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
-    const QString folder = line.isSet("folder") ? line.last("folder") : own;
+    return line.isSet("folder") ? line.last("folder") : own;
+}
+
+QList<LanguageCheck> checkAll(const CommandLine &line)
+{
+    const QString folder = folderOf(line);
     QStringList languages;
     for (const QLatin1StringView code : translationCodes)
         languages.append(code);
@@ -96,7 +102,8 @@ ExitCode verifyClips(const CommandLine &line, Console &console)
 {
     const QList<LanguageCheck> checks = checkAll(line);
     if (!checks.first().check.hasManifest) {
-        const QString problem = QStringLiteral("there is no manifest.sha256 to compare the clips with");
+        const QString problem = QStringLiteral("there is no manifest.sha256 in '%1' to compare the clips with")
+                                    .arg(shownText(QDir::toNativeSeparators(QDir(folderOf(line)).absolutePath())));
         console.complain(problem);
         if (line.isJson)
             printJsonError(console, ExitCode::cannotBePerformed, problem);

@@ -29,16 +29,16 @@ Environment:
   NO_COLOR            when set to any text, no bold header on a terminal
 )";
 
-// In lines of at most `textWidth` columns, each after the first behind the column of texts.
-QString wrapped(const QString &text)
+// In lines of at most `textWidth` columns, each after the first behind `margin` columns.
+QString wrapped(const QString &text, qsizetype margin = textColumn)
 {
     QString result;
-    qsizetype column = textColumn;
+    qsizetype column = margin;
     for (const QString &word : text.split(u' ')) {
-        const bool isFirst = column == textColumn;
+        const bool isFirst = column == margin;
         if (!isFirst && column + 1 + word.size() > textWidth) {
-            result += u'\n' + QString(textColumn, u' ');
-            column = textColumn;
+            result += u'\n' + QString(margin, u' ');
+            column = margin;
         } else if (!isFirst) {
             result += u' ';
             ++column;
@@ -100,7 +100,7 @@ QString topicText(const CommandRow &command)
 {
     QString text = QStringLiteral("Usage: %1 %2 [OPTIONS]\n\n").arg(QLatin1String(programName), commandTitle(command));
     for (const QString &sentence : wordsOf(command.explanation, u'\n'))
-        text += sentence + u'\n';
+        text += wrapped(sentence, 0) + u'\n';
     text += QStringLiteral("\nOptions:\n");
     for (const OptionRow &option : optionRows()) {
         if (takesOption(command, option))

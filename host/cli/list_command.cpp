@@ -8,7 +8,7 @@
 #include "host/core/device_list.h"
 #include "host/core/module_library.h"
 #include "host/precheck/capture_devices.h"
-#include "host/precheck/virtual_devices.h"
+#include "host/precheck/sound_state.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -21,6 +21,12 @@ using ostra::properties::driverName;
 using ostra::properties::driverVersion;
 using ostra::properties::numberOfChannels;
 using ostra::properties::sampleRate;
+
+struct Listed {
+    QList<Device> devices;
+    QList<CaptureDevice> inputs; ///< the monitors behind the microphones
+    SoundState sound;
+};
 
 QJsonValue jsonText(const std::optional<QString> &text) { return text ? QJsonValue(*text) : QJsonValue(QJsonValue::Null); }
 
@@ -45,65 +51,89 @@ QJsonValue jsonVirtual(const VirtualDevices &devices, const QString &name)
     return devices.isKnown ? QJsonValue(devices.contains(name)) : QJsonValue();
 }
 
-QJsonObject jsonDevice(qsizetype number, const Device &device, const QJsonValue &isVirtual)
+// What the system does not tell is null.
+void addState(QJsonObject &entry, const std::optional<EndpointState> &state)
 {
-    return {{QLatin1String("number"), number},
-            {QLatin1String("virtual"), isVirtual},
-            {QLatin1String("name"), device.name},
-            {QLatin1String("id"), device.id},
-            {QLatin1String("numberOfChannels"), jsonNumber(device.property(numberOfChannels))},
-            {QLatin1String("sampleRate"), jsonNumber(device.property(sampleRate))},
-            {QLatin1String("driverName"), jsonText(device.property(driverName))},
-            {QLatin1String("driverVersion"), jsonText(device.property(driverVersion))},
-            {QLatin1String("properties"), jsonProperties(device)}};
+    const QJsonValue unknown(QJsonValue::Null);
+    entry.insert(QLatin1String("volumePercent"), state ? QJsonValue(state->percent) : unknown);
+    entry.insert(QLatin1String("muted"), state ? QJsonValue(state->isMuted) : unknown);
+    entry.insert(QLatin1String("default"), state ? QJsonValue(state->isDefault) : unknown);
 }
 
-QJsonArray jsonInputs(const QList<CaptureDevice> &inputs)
+QJsonObject jsonDevice(qsizetype number, const Device &device, const SoundState &sound)
+{
+    QJsonObject entry{{QLatin1String("number"), number},
+                      {QLatin1String("virtual"), jsonVirtual(sound.virtualDevices, device.name)},
+                      {QLatin1String("name"), device.name},
+                      {QLatin1String("id"), device.id},
+                      {QLatin1String("numberOfChannels"), jsonNumber(device.property(numberOfChannels))},
+                      {QLatin1String("sampleRate"), jsonNumber(device.property(sampleRate))},
+                      {QLatin1String("driverName"), jsonText(device.property(driverName))},
+                      {QLatin1String("driverVersion"), jsonText(device.property(driverVersion))},
+                      {QLatin1String("properties"), jsonProperties(device)}};
+    addState(entry, sound.output(device.name));
+    return entry;
+}
+
+QJsonArray jsonInputs(const Listed &listed)
 {
     QJsonArray list;
-    for (const CaptureDevice &input : inputs)
-        list.append(QJsonObject{
-            {QLatin1String("name"), input.name}, {QLatin1String("id"), input.id}, {QLatin1String("virtual"), input.isVirtual}});
+    for (const CaptureDevice &input : listed.inputs) {
+        QJsonObject entry{{QLatin1String("name"), input.name},
+                          {QLatin1String("id"), input.id},
+                          {QLatin1String("virtual"), input.isVirtual},
+                          {QLatin1String("monitor"), input.isMonitor}};
+        addState(entry, listed.sound.withId(input.id));
+        list.append(entry);
+    }
     return list;
 }
 
-void printDocument(const ModuleLibrary &library, const QList<Device> &devices, const QList<CaptureDevice> &inputs,
-                   Console &console)
+void printDocument(const ModuleLibrary &library, const Listed &listed, Console &console)
 {
-    const VirtualDevices virtualDevices = readVirtualDevices();
     QJsonArray list;
-    for (qsizetype number = 0; number < devices.size(); ++number)
-        list.append(jsonDevice(number, devices[number], jsonVirtual(virtualDevices, devices[number].name)));
+    for (qsizetype number = 0; number < listed.devices.size(); ++number)
+        list.append(jsonDevice(number, listed.devices[number], listed.sound));
     printJson(console, {{QLatin1String("productVersion"), library.productVersion()},
+                        {QLatin1String("soundServerAnswers"), listed.sound.isAnswering},
                         {QLatin1String("devices"), list},
-                        {QLatin1String("inputs"), jsonInputs(inputs)}});
+                        {QLatin1String("inputs"), jsonInputs(listed)}});
 }
 
 QString yesOrNo(bool isYes) { return isYes ? QStringLiteral("yes") : QStringLiteral("no"); }
 
-QStringList tableRow(qsizetype number, const Device &device, const VirtualDevices &virtualDevices)
+QStringList stateCells(const std::optional<EndpointState> &state)
+{
+    if (!state)
+        return {{}, {}, {}};
+    return {QStringLiteral("%1 %").arg(state->percent), yesOrNo(state->isMuted), yesOrNo(state->isDefault)};
+}
+
+QStringList tableRow(qsizetype number, const Device &device, const SoundState &sound)
 {
     QStringList row{QString::number(number), QStringLiteral("output"), device.name};
     for (const char *key : {numberOfChannels, sampleRate, driverName, driverVersion})
         row.append(device.property(key).value_or(QString()));
+    const VirtualDevices &virtualDevices = sound.virtualDevices;
     row.append(virtualDevices.isKnown ? yesOrNo(virtualDevices.contains(device.name)) : QStringLiteral("not known"));
-    return row;
+    return row + stateCells(sound.output(device.name));
 }
 
-// Without a number: no test is run on an input, and `--microphone` takes the name.
-QStringList tableRow(const CaptureDevice &input)
+// Without a number: no test is run on an input, and `--microphone` and `--listen` take the name.
+QStringList tableRow(const CaptureDevice &input, const SoundState &sound)
 {
-    return {{}, QStringLiteral("input"), input.name, {}, {}, {}, {}, yesOrNo(input.isVirtual)};
+    const QString direction = input.isMonitor ? QStringLiteral("monitor") : QStringLiteral("input");
+    return QStringList{{}, direction, input.name, {}, {}, {}, {}, yesOrNo(input.isVirtual)} +
+           stateCells(sound.withId(input.id));
 }
 
-void printTable(const QList<Device> &devices, const QList<CaptureDevice> &inputs, Console &console)
+void printTable(const Listed &listed, Console &console)
 {
-    const VirtualDevices virtualDevices = readVirtualDevices();
     QList<QStringList> rows;
-    for (qsizetype number = 0; number < devices.size(); ++number)
-        rows.append(tableRow(number, devices[number], virtualDevices));
-    for (const CaptureDevice &input : inputs)
-        rows.append(tableRow(input));
+    for (qsizetype number = 0; number < listed.devices.size(); ++number)
+        rows.append(tableRow(number, listed.devices[number], listed.sound));
+    for (const CaptureDevice &input : listed.inputs)
+        rows.append(tableRow(input, listed.sound));
     const QStringList header{QStringLiteral("No"),
                              QStringLiteral("Direction"),
                              QStringLiteral("Device"),
@@ -111,8 +141,19 @@ void printTable(const QList<Device> &devices, const QList<CaptureDevice> &inputs
                              QStringLiteral("Sample rate"),
                              QStringLiteral("Driver"),
                              QStringLiteral("Driver version"),
-                             QStringLiteral("Virtual")};
+                             QStringLiteral("Virtual"),
+                             QStringLiteral("Volume"),
+                             QStringLiteral("Muted"),
+                             QStringLiteral("Default")};
     console.print(textTable(header, rows, console.isStyled() ? TableStyle::boldHeader : TableStyle::plain));
+}
+
+Listed lookAround(const DeviceList &list)
+{
+    Listed listed{list.devices(), {}, readSoundState()};
+    if (listed.sound.isAnswering)
+        listed.inputs = readCaptureDevices() + readMonitors();
+    return listed;
 }
 
 } // namespace
@@ -123,18 +164,20 @@ ExitCode runList(const ModuleLibrary &library, bool isJson, Console &console)
     console.tellProgress(QStringLiteral("Reading devices…"));
     ostra::SystemComponentManager *manager = library.module()->componentManager();
     const bool isComplete = manager == nullptr || list.refresh(*manager);
-    const QList<CaptureDevice> inputs = readCaptureDevices();
+    const Listed listed = lookAround(list);
     if (isJson)
-        printDocument(library, list.devices(), inputs, console);
-    else if (!list.devices().isEmpty() || !inputs.isEmpty())
-        printTable(list.devices(), inputs, console);
+        printDocument(library, listed, console);
+    else if (!listed.devices.isEmpty() || !listed.inputs.isEmpty())
+        printTable(listed, console);
     if (!isComplete) {
         console.complain(QStringLiteral("the list of devices is not complete: out of memory"));
         return ExitCode::notCompleted;
     }
-    if (list.devices().isEmpty())
-        console.explain(QStringLiteral("No output device found.\n"));
-    return ExitCode::success;
+    if (!listed.devices.isEmpty())
+        return ExitCode::success;
+    console.explain(listed.sound.isAnswering ? QStringLiteral("No output device found.\n")
+                                             : QStringLiteral("The sound server does not answer.\n"));
+    return listed.sound.isAnswering ? ExitCode::success : ExitCode::cannotBePerformed;
 }
 
 } // namespace host

@@ -10,13 +10,15 @@ namespace {
 
 constexpr const char *languages = "pt_BR en_US es_ES fr_FR it_IT de_DE nl_NL zh_CN ja_JP";
 
-constexpr std::array<OptionRow, 23> options{{
+constexpr std::array<OptionRow, 24> options{{
     {"json", nullptr, nullptr, "list info clips", Completion::none, nullptr,
      "print exactly one JSON document; everything else goes to standard error", false},
     {"config", nullptr, "DIR", "list run", Completion::folder, nullptr,
      "use DIR as the current folder; its config.ini chooses the language", false},
     {"self-check", nullptr, nullptr, "info", Completion::none, nullptr,
-     "tell what this installation cannot do, such as pictures it cannot read; ends with 3 when it lacks something", false},
+     "tell what this installation cannot do; ends with 3 when a verdict cannot be had, such as without a sound server, but not "
+     "for a limit, such as pictures it cannot read",
+     false},
     {"test", nullptr, "LETTER", "run", Completion::words, "p m",
      "the test to run, p: audio playback, m: microphone; p without it", true},
     {"device", nullptr, "NAME", "run", Completion::none, nullptr, "the device to test: its exact name or its number", true},
@@ -54,6 +56,8 @@ constexpr std::array<OptionRow, 23> options{{
      "write there, by its suffix as .json, .xml (JUnit), .html or .txt; without it text is printed", true},
     {"folder", nullptr, "DIR", "clips", Completion::folder, nullptr,
      "the folder of the clips and their manifest; without it those of this installation", false},
+    {"verbose", nullptr, nullptr, nullptr, Completion::none, nullptr,
+     "also show the debug lines of the module on standard error", false},
     {"gnu-exit", nullptr, nullptr, nullptr, Completion::none, nullptr,
      "for build tools: end with 77 (skipped) instead of 3, and with 99 (hard error) instead of 4 and 6", false},
     {"print-manual", nullptr, nullptr, nullptr, Completion::none, nullptr, "print the manual page (troff) and end", false},
@@ -69,8 +73,9 @@ constexpr std::array<CommandRow, 5> commands{{
     {"list", nullptr, Completion::none, nullptr,
      "Lists the outputs and the inputs: number (of an output), direction, name, channels and sample rate of the opening format "
      "(that of the spoken-digit clips, "
-     "22050 without them), driver, driver version, and whether the device is a virtual one; of an input its name only, as "
-     "--microphone takes it.",
+     "22050 without them), driver, driver version, whether the device is a virtual one, and as they are now its volume, whether it is muted and whether "
+     "it is the default one; of an input its name as --microphone takes it, of a monitor (what an output plays) as --listen "
+     "does. Ends with 3 when the sound server does not answer.",
      "list\nlist --json --config /etc/diagnostics"},
     {"info", nullptr, Completion::none, nullptr, "Tells the product's version, the diagnostics and their tests.",
      "info --json\ninfo --self-check"},
@@ -90,7 +95,7 @@ constexpr std::array<CommandRow, 5> commands{{
 }};
 
 constexpr std::array<ExitCodeRow, 8> exitCodes{{
-    {0, "done, passed; also when no device was found"},
+    {0, "done, passed; also when list found no device, but a sound server that answers"},
     {1, "a test failed, or a clip is not the one that was supplied"},
     {2, "wrong usage: unknown command, option, diagnostic, test, device or file"},
     {3, "cannot be performed: refused, not supported on the command line, or something is lacking"},

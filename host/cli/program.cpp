@@ -12,6 +12,7 @@
 #include "host/cli/report_command.h"
 #include "host/cli/run_command.h"
 #include "host/cli/self_check.h"
+#include "host/core/debug_lines.h"
 #include "host/core/module_library.h"
 
 #include <QDir>
@@ -116,6 +117,8 @@ bool enterFolder(const CommandLine &line)
 
 ProgramEnd runProgram(const QStringList &arguments, Console &console)
 {
+    if (!arguments.contains(QStringLiteral("--verbose")))
+        hideDebugLines();
     if (arguments.size() > 1 && arguments.at(1).startsWith(moduleOption))
         return {runModuleOption(arguments, console), false};
     const auto parsed = parseCommandLine(arguments);

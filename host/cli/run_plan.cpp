@@ -126,8 +126,10 @@ QStringList argumentsOf(const CommandLine &line, const PlannedRun &run, const QS
     const auto add = [&arguments](const char *option, const QString &value) {
         arguments.append(QStringLiteral("--%1=%2").arg(QLatin1String(option), value));
     };
-    if (line.isSet("channel-check"))
-        arguments.append(QStringLiteral("--channel-check"));
+    for (const char *option : {"channel-check", "verbose"}) {
+        if (line.isSet(option))
+            arguments.append(QStringLiteral("--") + QLatin1String(option));
+    }
     if (line.isSet("screenshots"))
         add("screenshots", line.last("screenshots"));
     if (!configFolder.isEmpty())

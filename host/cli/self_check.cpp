@@ -6,6 +6,7 @@
 #include "host/cli/terminal.h"
 #include "host/core/module_library.h"
 #include "host/precheck/clip_check.h"
+#include "host/precheck/sound_state.h"
 #include "host/translations/translators.h"
 
 #include <QCoreApplication>
@@ -38,7 +39,7 @@ QList<SelfCheck> checksIn(const QByteArray &line)
     const QJsonArray list = QJsonDocument::fromJson(line).array();
     for (const QJsonValue check : list)
         checks.append({check[QLatin1String("name")].toString(), check[QLatin1String("ok")].toBool(),
-                       check[QLatin1String("lacking")].toString()});
+                       check[QLatin1String("lacking")].toString(), check[QLatin1String("limit")].toBool()});
     return checks;
 }
 
@@ -79,7 +80,8 @@ void addClips(QList<SelfCheck> &checks)
 void print(const QList<SelfCheck> &checks, Console &console)
 {
     for (const SelfCheck &check : checks) {
-        const QString state = check.isThere ? QStringLiteral("ok") : QStringLiteral("LACKING: ") + check.lacking;
+        const QString fault = check.isLimit ? QStringLiteral("limit: ") : QStringLiteral("LACKING: ");
+        const QString state = check.isThere ? QStringLiteral("ok") : fault + check.lacking;
         console.print(check.name.leftJustified(28) + state + u'\n');
     }
 }
@@ -90,6 +92,7 @@ void printDocument(const QList<SelfCheck> &checks, Console &console)
     for (const SelfCheck &check : checks)
         list.append(QJsonObject{{QStringLiteral("name"), check.name},
                                 {QStringLiteral("ok"), check.isThere},
+                                {QStringLiteral("limit"), check.isLimit},
                                 {QStringLiteral("lacking"), check.isThere ? QString() : check.lacking}});
     printJson(console, {{QStringLiteral("checks"), list}});
 }
@@ -101,6 +104,8 @@ QList<SelfCheck> checkInstallation()
     QList<SelfCheck> checks;
     ModuleLibrary library;
     checks.append({QStringLiteral("module"), library.load(), library.errorText()});
+    checks.append({QStringLiteral("sound server"), isSoundServerAnswering(),
+                   QStringLiteral("it does not answer: no device can be listed or tested")});
     addPrograms(checks);
     addWindows(checks);
     addClips(checks);
@@ -114,7 +119,8 @@ ExitCode runSelfCheck(bool isJson, Console &console)
         printDocument(checks, console);
     else
         print(checks, console);
-    const bool isComplete = std::all_of(checks.begin(), checks.end(), [](const SelfCheck &check) { return check.isThere; });
+    const bool isComplete =
+        std::all_of(checks.begin(), checks.end(), [](const SelfCheck &check) { return check.isThere || check.isLimit; });
     return isComplete ? ExitCode::success : ExitCode::cannotBePerformed;
 }
 

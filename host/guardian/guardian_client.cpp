@@ -59,9 +59,12 @@ GuardianClient::~GuardianClient() { finish(); }
 QStringList GuardianClient::restoreLeftovers()
 {
     errorText_.clear();
+    leftAlone_.clear();
     if (d_->process != nullptr) // its note is no leftover
         return {};
-    return putBackLeftovers(d_->stateFolder, errorText_).names;
+    PutBack result = putBackLeftovers(d_->stateFolder, errorText_);
+    leftAlone_ = std::move(result.left);
+    return std::move(result.names);
 }
 
 bool GuardianClient::start()
@@ -75,7 +78,9 @@ bool GuardianClient::start()
     d_->names.clear();
     d_->process = std::make_unique<GuardianProcess>();
     if (!d_->process->start(d_->stateFolder)) {
-        errorText_ = QStringLiteral("The guardian of the volumes could not be started: %1").arg(d_->process->errorString());
+        errorText_ =
+            QStringLiteral("The guardian of the volumes (volume_guardian) is missing or cannot be started: should this "
+                           "run break down, its volumes stay raised.");
     } else if (const auto message = d_->waitFor(Kind::ready, startBound); !message) {
         errorText_ = QStringLiteral("The guardian of the volumes did not answer.");
     } else if (message->kind != Kind::ready) {
@@ -100,7 +105,7 @@ QStringList GuardianClient::finish()
     d_->process.reset();
     QStringList names = std::exchange(d_->names, {});
     if (!message) // it did not live to its end, but its note is still there
-        names += restoreLeftovers();
+        names += putBackLeftovers(d_->stateFolder, errorText_, NoteOwner::thisRun).names;
     else if (message->kind == Kind::failed)
         errorText_ = message->text;
     return names;

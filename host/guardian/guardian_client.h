@@ -21,8 +21,11 @@ public:
     GuardianClient &operator=(const GuardianClient &) = delete;
 
     /// Puts back what a note of an earlier run still holds, and names those endpoints; empty when there was nothing to do.
-    /// `errorText()` says why it could not, and is empty otherwise. A frozen sound server is waited for some 6 s.
+    /// `errorText()` says why it could not, and is empty otherwise. A frozen sound server is waited for some 8 s.
     QStringList restoreLeftovers();
+    /// The endpoints that `restoreLeftovers` left alone because they no longer stand at the volume of that run: somebody has
+    /// set another one since.
+    const QStringList &leftAlone() const noexcept { return leftAlone_; }
 
     /// Starts the guardian and waits, bounded, until it has noted every level. False with `errorText()` when it could not.
     bool start();
@@ -40,6 +43,7 @@ private:
     struct Private;
     std::unique_ptr<Private> d_;
     QString errorText_;
+    QStringList leftAlone_;
     bool isHeldByAnother_ = false;
 };
 

@@ -19,7 +19,6 @@ public:
     /// False when there is no such program beside this one, or it cannot be started.
     bool start(const QString &stateFolder);
     bool isRunning() const { return process_.state() != QProcess::NotRunning; }
-    QString errorString() const { return process_.errorString(); }
 
     /// The next message, in order; nothing when the process has ended or `bound` has passed.
     std::optional<GuardianMessage> waitForMessage(std::chrono::milliseconds bound);

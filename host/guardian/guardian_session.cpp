@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/guardian/guardian_session.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include "host/guardian/sound_server_name.h"
 
+#include <QDir>
+
+#include <algorithm>
 #include <thread>
+#include <utility>
 
 using ostra::audio::EndpointVolume;
 using ostra::audio::EndpointVolumes;
@@ -40,19 +43,31 @@ bool GuardianSession::begin()
     return errorText_.isEmpty();
 }
 
+// Where the former run's volumes did not come back, its note still knows them better than the endpoints do; where somebody has
+// set another one since, the endpoint does.
+void GuardianSession::keepUnrestored(const EndpointVolumes &former)
+{
+    EndpointVolumes unrestored = stillRaised(former, saved_);
+    for (const EndpointVolume &record : former) {
+        if (std::ranges::find(saved_, record.id, &EndpointVolume::id) == saved_.end())
+            unrestored.push_back(record); // not there just now
+    }
+    saved_ = ostra::audio::withNewcomers(std::move(unrestored), saved_);
+}
+
 bool GuardianSession::noteVolumes()
 {
-    const std::optional<EndpointVolumes> former = note_.read();
-    const PutBack result = former ? putBack(*former, oneTry) : PutBack{true, {}};
+    const QString server = soundServerName();
+    const std::optional<VolumeNote> former = note_.readFor(server);
+    const PutBack result = former ? putBackRaised(former->volumes) : PutBack{true, {}, {}};
     leftovers_ = result.names;
     if (!readVolumes()) {
         errorText_ = QStringLiteral("The sound system does not tell its volumes.");
         return false;
     }
-    // Where the former run's volumes did not come back, its note still knows them better than the endpoints do.
     if (!result.isDone)
-        saved_ = ostra::audio::withNewcomers(*former, saved_);
-    if (note_.write(saved_))
+        keepUnrestored(former->volumes);
+    if (note_.write({saved_, server}))
         return true;
     errorText_ = QStringLiteral("The volumes could not be noted in %1.").arg(QDir::toNativeSeparators(folder_));
     return false;
@@ -74,23 +89,22 @@ PutBack GuardianSession::end(Ending ending)
     return result;
 }
 
-PutBack putBackLeftovers(const QString &stateFolder, QString &complaint)
+PutBack putBackLeftovers(const QString &stateFolder, QString &complaint, NoteOwner owner)
 {
-    const NoteFile note(stateFolder);
-    const QFileInfo info(note.path());
-    if (!info.exists() && !info.isSymLink())
-        return {true, {}};
+    const NoteFile file(stateFolder);
+    if (!file.isThere())
+        return {true, {}, {}};
     VolumeLock lock(stateFolder);
     if (!lock.take(std::chrono::milliseconds::zero())) {
         complaint = lock.errorText();
         return {};
     }
-    const std::optional<EndpointVolumes> volumes = note.read();
-    if (!volumes)
-        return {true, {}};
-    const PutBack result = putBack(*volumes, oneTry);
+    const std::optional<VolumeNote> note = file.readFor(soundServerName());
+    if (!note)
+        return {true, {}, {}};
+    const PutBack result = owner == NoteOwner::thisRun ? putBack(note->volumes, oneTry) : putBackRaised(note->volumes);
     if (result.isDone)
-        note.remove();
+        file.remove();
     else
         complaint = QStringLiteral("The volumes of an earlier run could not be put back yet.");
     return result;

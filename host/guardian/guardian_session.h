@@ -35,6 +35,7 @@ public:
 private:
     bool noteVolumes();
     bool readVolumes();
+    void keepUnrestored(const ostra::audio::EndpointVolumes &former);
 
     NoteFile note_;
     VolumeLock lock_;
@@ -44,8 +45,15 @@ private:
     ostra::audio::EndpointVolumes saved_;
 };
 
-/// Puts back what a note of a former run holds, in one try, and removes the note if that succeeded; else `complaint` says why
-/// not. Not done, without a try, while another guardian is at work: that one does it itself.
-PutBack putBackLeftovers(const QString &stateFolder, QString &complaint);
+/// Whose note it is that is left.
+enum class NoteOwner {
+    thisRun,   ///< whose guardian was lost: everything that differs is put back
+    formerRun, ///< as `putBackRaised`
+};
+
+/// Puts back what a note holds that no guardian looks after, in one try, and removes the note if that succeeded; else
+/// `complaint` says why not. Not done, without a try, while another guardian is at work: that one does it itself. A note of
+/// another sound server stays for that one.
+PutBack putBackLeftovers(const QString &stateFolder, QString &complaint, NoteOwner owner = NoteOwner::formerRun);
 
 } // namespace host

@@ -3,8 +3,8 @@
 
 #include "host/guardian/folder_sync.h"
 #include "host/guardian/guardian_log.h"
-#include "host/guardian/volume_note.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,9 +14,9 @@ namespace host {
 
 NoteFile::NoteFile(const QString &folder) : folder_(folder), path_(QDir(folder).filePath(QStringLiteral("volume_note.json"))) {}
 
-bool NoteFile::write(const ostra::audio::EndpointVolumes &volumes) const
+bool NoteFile::write(const VolumeNote &note) const
 {
-    const QByteArray text = toNote(volumes);
+    const QByteArray text = toNote(note);
     QSaveFile file(path_);
     if (!QDir().mkpath(folder_) || !file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
         return false;
@@ -24,7 +24,7 @@ bool NoteFile::write(const ostra::audio::EndpointVolumes &volumes) const
     return true;
 }
 
-std::optional<ostra::audio::EndpointVolumes> NoteFile::read() const
+std::optional<VolumeNote> NoteFile::read() const
 {
     const QFileInfo info(path_);
     if (!info.exists() && !info.isSymLink())
@@ -35,11 +35,40 @@ std::optional<ostra::audio::EndpointVolumes> NoteFile::read() const
         complaint = QStringLiteral("it is no file of a note's size");
     else if (!file.open(QIODevice::ReadOnly))
         complaint = file.errorString();
-    else if (auto volumes = fromNote(file.read(noteByteLimit), complaint))
-        return volumes;
+    else if (auto note = fromNote(file.read(noteByteLimit), complaint))
+        return note;
     file.close(); // before it is renamed
     refuse(complaint);
     return std::nullopt;
+}
+
+QString NoteFile::waitingPath(const QString &server) const
+{
+    const QByteArray hash = QCryptographicHash::hash(server.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return QDir(folder_).filePath(QStringLiteral("volume_note.%1.waiting").arg(QLatin1String(hash.first(16))));
+}
+
+bool NoteFile::isThere() const
+{
+    const QFileInfo info(path_);
+    return info.exists() || info.isSymLink() ||
+           !QDir(folder_).entryList({QStringLiteral("volume_note.*.waiting")}, QDir::Files).isEmpty();
+}
+
+std::optional<VolumeNote> NoteFile::readFor(const QString &server) const
+{
+    auto note = read();
+    if (note && !note->server.isEmpty() && !server.isEmpty() && note->server != server) {
+        qCWarning(guardianLog, "a note of volumes belongs to another sound server (%s) and waits for that one",
+                  qUtf8Printable(note->server));
+        const QString path = waitingPath(note->server);
+        QFile::remove(path);
+        QDir().rename(path_, path);
+        note.reset();
+    }
+    if (note || server.isEmpty() || !QDir().rename(waitingPath(server), path_))
+        return note;
+    return read();
 }
 
 void NoteFile::remove() const

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "audio/endpoints/endpoint_volume.h"
+#include "host/guardian/volume_note.h"
 
 #include <QString>
 
@@ -19,12 +19,19 @@ public:
     QString refusedPath() const { return path_ + QStringLiteral(".refused"); }
 
     /// Whole or not at all, and on the disk when this returns true. Makes the folder.
-    bool write(const ostra::audio::EndpointVolumes &volumes) const;
+    bool write(const VolumeNote &note) const;
     /// What is noted; nothing without a note. A note that cannot be used is moved aside, with a line in the log.
-    std::optional<ostra::audio::EndpointVolumes> read() const;
+    std::optional<VolumeNote> read() const;
+    /// What is noted for the endpoints of `server`. The note of another one waits in a file of its own until that server is the
+    /// one again; without a name on one of the sides they count as the same.
+    std::optional<VolumeNote> readFor(const QString &server) const;
     void remove() const;
 
+    /// Whether there is something to read, for this server or another.
+    bool isThere() const;
+
 private:
+    QString waitingPath(const QString &server) const;
     void refuse(const QString &complaint) const;
 
     QString folder_;

@@ -5,7 +5,10 @@
 #include "host/guardian/guardian_log.h"
 
 #include <algorithm>
+#include <cmath>
+#include <iterator>
 #include <thread>
+#include <utility>
 
 using ostra::audio::EndpointVolume;
 using ostra::audio::EndpointVolumes;
@@ -42,6 +45,24 @@ bool readCurrent(EndpointVolumes &current)
     std::erase_if(current, [](const EndpointVolume &volume) { return volume.id.empty(); });
     return isRead;
 }
+
+const EndpointVolume *findById(const EndpointVolumes &list, const std::u16string &id)
+{
+    const auto found = std::ranges::find(list, id, &EndpointVolume::id);
+    return found == list.end() ? nullptr : &*found;
+}
+
+// The level alone hides what is louder than 100 %, which no run sets.
+bool isFull(const EndpointVolume &volume)
+{
+    constexpr double fullVolume = 65536.0; // of the sound server's units
+    return volume.level > 1.0F - ostra::audio::levelTolerance &&
+           std::ranges::all_of(volume.channelVolumes, [](std::uint32_t channel) {
+               return std::abs(channel / fullVolume - 1.0) < static_cast<double>(ostra::audio::levelTolerance);
+           });
+}
+
+bool isRaised(const EndpointVolume &saved, const EndpointVolume &now) { return isFull(now) && (!now.muted || saved.muted); }
 
 bool Endeavour::tryOnce(const EndpointVolumes &saved)
 {
@@ -85,7 +106,33 @@ PutBack putBack(const EndpointVolumes &saved, const Patience &patience)
 {
     Endeavour endeavour;
     const bool isDone = tryPatiently(endeavour, saved, patience);
-    return {isDone, describeEndpoints(endeavour.repaired())};
+    return {isDone, describeEndpoints(endeavour.repaired()), {}};
+}
+
+EndpointVolumes stillRaised(const EndpointVolumes &saved, const EndpointVolumes &current)
+{
+    EndpointVolumes raised;
+    std::ranges::copy_if(saved, std::back_inserter(raised), [&current](const EndpointVolume &record) {
+        const EndpointVolume *now = findById(current, record.id);
+        return now != nullptr && isRaised(record, *now);
+    });
+    return raised;
+}
+
+PutBack putBackRaised(const EndpointVolumes &saved)
+{
+    EndpointVolumes current;
+    if (!readCurrent(current))
+        return {};
+    const EndpointVolumes raised = stillRaised(saved, current);
+    EndpointVolumes others = ostra::audio::changedEndpoints(saved, current);
+    std::erase_if(others, [&raised](const EndpointVolume &record) { return findById(raised, record.id) != nullptr; });
+    PutBack result = putBack(raised, oneTry);
+    result.left = describeEndpoints(idsOf(others));
+    for (const QString &name : std::as_const(result.left))
+        qCWarning(guardianLog, "the volume of %s was changed since an interrupted run and is left as it is",
+                  qUtf8Printable(name));
+    return result;
 }
 
 } // namespace host

@@ -25,10 +25,20 @@ inline constexpr Patience oneTry{};
 struct PutBack {
     bool isDone = false; ///< every noted endpoint that is there has its noted volume
     QStringList names;   ///< of the endpoints that had another one and have theirs again
+    QStringList left;    ///< of those that have another one and were left alone
 };
+
+/// The records of `saved` whose endpoint still stands, in `current`, where a run has put it: at full volume, and unmuted unless
+/// it was muted before as well.
+ostra::audio::EndpointVolumes stillRaised(const ostra::audio::EndpointVolumes &saved,
+                                          const ostra::audio::EndpointVolumes &current);
 
 /// Gives every endpoint of `saved` that is there and has another volume its own again. Endpoints that are gone are passed over,
 /// new ones are left as they are. All records carry ids.
 PutBack putBack(const ostra::audio::EndpointVolumes &saved, const Patience &patience);
+
+/// The same, in one try, for volumes that were saved by a run of the past: somebody may have set others since, so that only the
+/// endpoints that are still raised get theirs. The others are left alone, with a line in the log.
+PutBack putBackRaised(const ostra::audio::EndpointVolumes &saved);
 
 } // namespace host

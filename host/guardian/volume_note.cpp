@@ -9,7 +9,6 @@
 #include <cmath>
 
 using ostra::audio::EndpointVolume;
-using ostra::audio::EndpointVolumes;
 
 namespace host {
 
@@ -17,6 +16,7 @@ namespace {
 
 constexpr QLatin1String formatName("module_audio.volume_note");
 constexpr int formatVersion = 1;
+constexpr QLatin1String serverKey("server");
 constexpr qsizetype endpointCountLimit = 512;
 constexpr qsizetype channelCountLimit = 32; // of the sound server
 
@@ -83,35 +83,38 @@ QString complaintAboutHead(const QJsonDocument &document)
 
 } // namespace
 
-QByteArray toNote(const EndpointVolumes &volumes)
+QByteArray toNote(const VolumeNote &note)
 {
     QJsonArray endpoints;
-    for (const EndpointVolume &volume : volumes) {
+    for (const EndpointVolume &volume : note.volumes) {
         if (!volume.id.empty())
             endpoints.append(toJson(volume));
     }
-    const QJsonObject note{{QLatin1String("format"), formatName},
-                           {QLatin1String("version"), formatVersion},
-                           {QLatin1String("endpoints"), endpoints}};
-    return QJsonDocument(note).toJson();
+    QJsonObject document{{QLatin1String("format"), formatName},
+                         {QLatin1String("version"), formatVersion},
+                         {QLatin1String("endpoints"), endpoints}};
+    if (!note.server.isEmpty())
+        document.insert(serverKey, note.server);
+    return QJsonDocument(document).toJson();
 }
 
-std::optional<EndpointVolumes> fromNote(const QByteArray &text, QString &complaint)
+std::optional<VolumeNote> fromNote(const QByteArray &text, QString &complaint)
 {
     const QJsonDocument document = QJsonDocument::fromJson(text);
     complaint = complaintAboutHead(document);
     if (!complaint.isEmpty())
         return std::nullopt;
-    EndpointVolumes volumes;
+    VolumeNote note;
+    note.server = document.object()[serverKey].toString();
     for (const QJsonValue entry : document.object()[QLatin1String("endpoints")].toArray()) {
         std::optional<EndpointVolume> record = recordOf(entry.toObject());
         if (!record) {
             complaint = QStringLiteral("one of its endpoints is damaged");
             return std::nullopt;
         }
-        volumes.push_back(std::move(*record));
+        note.volumes.push_back(std::move(*record));
     }
-    return volumes;
+    return note;
 }
 
 } // namespace host

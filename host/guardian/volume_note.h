@@ -17,11 +17,16 @@ inline constexpr qint64 noteByteLimit = 256 * 1024;
 /// mixers of the desktops end.
 inline constexpr std::uint32_t channelVolumeLimit = 99957;
 
-/// The volumes as text. Endpoints without an id are left out: nothing could be matched with them.
-QByteArray toNote(const ostra::audio::EndpointVolumes &volumes);
+struct VolumeNote {
+    ostra::audio::EndpointVolumes volumes;
+    QString server; ///< by `soundServerName`; empty where it is not known
+};
 
-/// The volumes that a note holds: levels within 0 to 1, channel volumes within `channelVolumeLimit`. Nothing, and the reason in
+/// The note as text. Endpoints without an id are left out: nothing could be matched with them.
+QByteArray toNote(const VolumeNote &note);
+
+/// What a note holds: levels within 0 to 1, channel volumes within `channelVolumeLimit`. Nothing, and the reason in
 /// `complaint`, when it is no whole note of this format's version; then not a single record of it is used.
-std::optional<ostra::audio::EndpointVolumes> fromNote(const QByteArray &text, QString &complaint);
+std::optional<VolumeNote> fromNote(const QByteArray &text, QString &complaint);
 
 } // namespace host

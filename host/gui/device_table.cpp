@@ -26,7 +26,7 @@ QString literally(const QString &text)
 
 } // namespace
 
-DeviceTable::DeviceTable(QWidget *parent) : QTableWidget(0, 1 + static_cast<int>(columns.size()), parent)
+DeviceTable::DeviceTable(QWidget *parent) : QTableWidget(0, 2 + static_cast<int>(columns.size()), parent)
 {
     setObjectName(QStringLiteral("host_devices"));
     setSelectionBehavior(SelectRows);
@@ -37,6 +37,8 @@ DeviceTable::DeviceTable(QWidget *parent) : QTableWidget(0, 1 + static_cast<int>
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     horizontalHeader()->setHighlightSections(false);
+    constexpr int readableCharacters = 12; // of a name, where the other columns take the room
+    horizontalHeader()->setMinimumSectionSize(fontMetrics().averageCharWidth() * readableCharacters);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
@@ -66,6 +68,29 @@ void DeviceTable::fillRow(int row, const Device &device)
     put(0, device.name);
     for (std::size_t index = 0; index < columns.size(); ++index)
         put(static_cast<int>(index) + 1, device.property(columns[index]).value_or(hostText("VALUE_NOT_KNOWN")));
+    put(columnCount() - 1, stateWords(device.name));
+}
+
+QString DeviceTable::stateWords(const QString &device) const
+{
+    QStringList words;
+    if (const auto state = state_.output(device)) {
+        words.append(hostText("STATE_VOLUME").arg(state->percent));
+        if (state->isMuted)
+            words.append(hostText("STATE_MUTED"));
+        if (state->isDefault)
+            words.append(hostText("STATE_DEFAULT"));
+    }
+    if (state_.virtualDevices.contains(device))
+        words.append(hostText("STATE_VIRTUAL"));
+    return words.isEmpty() ? hostText("VALUE_NOT_KNOWN") : words.join(QStringLiteral(", "));
+}
+
+void DeviceTable::setState(const SoundState &state)
+{
+    state_ = state;
+    for (int row = 0; row < rowCount(); ++row)
+        item(row, columnCount() - 1)->setText(stateWords(devices_[row].name));
 }
 
 // Two devices may have one name: the one at the old position is the likelier.
@@ -99,6 +124,7 @@ void DeviceTable::retranslate()
     QStringList titles{hostText("DEVICE")};
     for (const char *column : columns)
         titles.append(shownText(QLatin1String(column)));
+    titles.append(hostText("DEVICE_STATE"));
     setHorizontalHeaderLabels(titles);
     setAccessibleName(hostText("DEVICES"));
     for (int row = 0; row < rowCount(); ++row)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/core/device_list.h"
+#include "host/precheck/sound_state.h"
 
 #include <QTableWidget>
 
@@ -16,6 +17,8 @@ public:
     explicit DeviceTable(QWidget *parent = nullptr);
 
     void setDevices(const QList<Device> &devices);
+    /// Shows volume, mute and the like as they are now; nothing of them without it.
+    void setState(const SoundState &state);
     /// Position of the chosen device in the list; -1 when none is chosen.
     int chosen() const;
     QString chosenName() const { return devices_.value(chosen()).name; }
@@ -25,9 +28,11 @@ public:
 
 private:
     void fillRow(int row, const Device &device);
+    QString stateWords(const QString &device) const;
     int rowOf(const QString &name, int preferred) const;
 
     QList<Device> devices_;
+    SoundState state_;
     QString wanted_; ///< chosen last; a device that was gone for a while is it again
 };
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "host/core/debug_lines.h"
 #include "host/core/sound_environment.h"
 #include "host/gui/console_output.h"
 #include "host/gui/process_end.h"
@@ -59,6 +60,8 @@ int main(int argc, char *argv[])
         host::print(text);
         return 0;
     }
+    if (!options.isVerbose)
+        host::hideDebugLines();
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0"); // the module's dialogs scale themselves
     host::keepInterruptSignals();
     host::guardProcessEnd();

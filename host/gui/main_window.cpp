@@ -337,14 +337,25 @@ void MainWindow::showDevices(bool isComplete)
     const QString before = hasDevices_ ? devices_->chosenName() : QString();
     devices_->setDevices(devices);
     hasDevices_ = true;
-    devicesText_->setText(devices.isEmpty() ? hostText("NO_DEVICES") : hostText("DEVICES_FOUND").arg(devices.size()));
-    log(hostText("DEVICES_FOUND").arg(devices.size()));
+    showState();
+    devicesText_->setText(devicesWords());
+    log(isServerSilent_ ? devicesWords() : hostText("DEVICES_FOUND").arg(devices.size()));
     if (!isComplete)
         log(hostText("LOG_LIST_INCOMPLETE"));
     if (!before.isEmpty() && devices_->chosen() < 0)
         log(hostText("LOG_DEVICE_GONE").arg(before));
     warnedOf_.clear(); // as the playback test, which asks anew then
     enableRun();
+}
+
+// During a run every volume is the run's own.
+void MainWindow::showState()
+{
+    if (!readState_ || session_.isRunning())
+        return;
+    const SoundState state = readState_();
+    isServerSilent_ = !state.isAnswering && session_.deviceList().devices().isEmpty();
+    devices_->setState(state);
 }
 
 void MainWindow::enableRun()
@@ -376,6 +387,7 @@ void MainWindow::showEnded(const RunRecord &record)
         log(shownReason(record.reason));
     if (!record.wasModuleCalled)
         tests_->showProgress(0, {}); // what an earlier run left there
+    showState();
     if (!record.restoredVolumes.isEmpty())
         log(hostText("LOG_VOLUMES_PUT_BACK").arg(record.restoredVolumes.join(QStringLiteral(", "))));
     if (exitCode_)
@@ -444,7 +456,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::showAbout()
 {
-    const QString versions = hostText("ABOUT_VERSIONS").arg(moduleVersion_, QCoreApplication::applicationVersion());
+    const QString versions = hostText("ABOUT_VERSIONS").arg(moduleVersion_, QCoreApplication::applicationVersion()) +
+                             QStringLiteral("\n\n") + hostText("ABOUT_WHICH_VERSION");
     QMessageBox::about(this, hostText("ABOUT"), QStringLiteral("%1\n\n%2").arg(windowTitle(), versions));
 }
 
@@ -452,6 +465,8 @@ void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         retranslate();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && hasDevices_)
+        showState(); // a mixer may have been at work meanwhile
     QMainWindow::changeEvent(event);
 }
 

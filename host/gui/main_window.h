@@ -5,6 +5,7 @@
 #include "host/gui/level_words.h"
 #include "host/gui/test_session.h"
 #include "host/precheck/precheck.h"
+#include "host/precheck/sound_state.h"
 
 #include <QMainWindow>
 
@@ -55,6 +56,8 @@ public:
     /// What to look at before a run that a person starts; nothing is looked at without it.
     using Precheck = std::function<QList<PrecheckFinding>(const QString &testLetter, const QString &device)>;
     void setPrecheck(Precheck precheck) { precheck_ = std::move(precheck); }
+    /// Tells the volumes as they are now, and whether there is a sound server at all; nothing is told of them without it.
+    void setSoundState(std::function<SoundState()> read) { readState_ = std::move(read); }
     /// Writes the report of the last run, by the file's suffix as .json, .xml, .html or .txt. False with a line in the log.
     bool saveReport(const QString &file);
     /// Copies that report as text.
@@ -88,6 +91,8 @@ private:
     void enableRun();
     void chooseReportFile();
     void showDevices(bool isComplete);
+    void showState();
+    QString devicesWords() const;
     void showStarted(const RunRecord &record);
     void showEnded(const RunRecord &record);
     void logProgress(std::uint32_t percent, const QString &text);
@@ -137,6 +142,8 @@ private:
     bool hasDevices_ = false;
     bool isListening_ = false;
     Precheck precheck_;
+    std::function<SoundState()> readState_;
+    bool isServerSilent_ = false;
     QStringList warnedOf_; ///< devices whose loudness the person has accepted
 };
 

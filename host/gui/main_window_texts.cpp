@@ -26,8 +26,7 @@ void MainWindow::retranslate()
     setWindowTitle(shownText(QStringLiteral("APPLICATION_NAME")));
     devicesBox_->setTitle(hostText("DEVICES"));
     devices_->retranslate();
-    const auto count = session_.deviceList().devices().size();
-    devicesText_->setText(count == 0 ? hostText("NO_DEVICES") : hostText("DEVICES_FOUND").arg(count));
+    devicesText_->setText(devicesWords());
     refresh_->setAccessibleName(hostText("REFRESH_DEVICES"));
     refresh_->setToolTip(hostText("REFRESH_DEVICES_HINT"));
     tests_->retranslate();
@@ -43,6 +42,14 @@ void MainWindow::retranslate()
     measurements_->retranslate();
     retranslateMenus();
     assignMnemonics();
+}
+
+QString MainWindow::devicesWords() const
+{
+    const auto count = session_.deviceList().devices().size();
+    if (count == 0)
+        return hostText(isServerSilent_ ? "SOUND_SERVER_SILENT" : "NO_DEVICES");
+    return hostText("DEVICES_FOUND").arg(count);
 }
 
 void MainWindow::retranslateMenus()

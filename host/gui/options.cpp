@@ -16,11 +16,11 @@ namespace host {
 
 namespace {
 
-constexpr std::array<OptionOfHost, 22> knownOptions{{
+constexpr std::array<OptionOfHost, 23> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
-    {"listen", "SOURCE", "the source that hears the device: an input, or loopback:DEVICE; test m shows its level", false},
+    {"listen", "SOURCE", "the input that hears the device, or loopback:DEVICE; test m shows its level", false},
     {"microphone", "NAME", "the microphone that test m chooses (the first one)", true},
     {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
     {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},
@@ -34,6 +34,7 @@ constexpr std::array<OptionOfHost, 22> knownOptions{{
     {"developer", nullptr, "add a menu that simulates events of the machine", false},
     {"simulate-event", "BIT@MS", "raise that event that long after the start of a run; may be repeated", false},
     {"stop-after", "MS", "stop each run that long after its start", false},
+    {"verbose", nullptr, "also show the debug lines of the module", false},
     {"self-check", nullptr, "print as JSON what the windows of this installation lack, and exit", false},
     {"print-manual", nullptr, "print the manual page (troff) and exit", false},
     {"print-completion", nullptr, "print the completion for bash and exit", false},
@@ -151,6 +152,7 @@ Options readValues(const QCommandLineParser &parser)
     options.isVersion = parser.isSet(QStringLiteral("version"));
     options.isManual = parser.isSet(QStringLiteral("print-manual"));
     options.isCompletion = parser.isSet(QStringLiteral("print-completion"));
+    options.isVerbose = parser.isSet(QStringLiteral("verbose"));
     options.isUnattended = parser.isSet(QStringLiteral("unattended"));
     options.isDeveloper = parser.isSet(QStringLiteral("developer"));
     options.test = parser.value(QStringLiteral("test"));

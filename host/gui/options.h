@@ -20,6 +20,7 @@ struct Options {
     bool isCompletion = false; ///< the shell's completion is printed
     bool isUnattended = false;
     bool isDeveloper = false;
+    bool isVerbose = false; ///< the module's debug lines are shown
     QString test; ///< letter
     QString device;
     QString source;       ///< with or without `isUnattended`

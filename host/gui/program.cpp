@@ -18,6 +18,7 @@
 #include "host/gui/run_keys.h"
 #include "host/gui/unattended_run.h"
 #include "host/operator/listener_link.h"
+#include "host/precheck/sound_state.h"
 #include "host/translations/translators.h"
 
 #include <QApplication>
@@ -27,6 +28,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <utility>
 
 namespace host {
 
@@ -92,6 +94,7 @@ public:
             const QString clips = QCoreApplication::applicationDirPath() + QStringLiteral("/audio_files");
             return checkBeforeRun({device, clips, language.code(), letter == QLatin1String("m")});
         });
+        window_.setSoundState(readSoundState);
         prompter_.setParents(&window_, &keys_);
         QCoreApplication::instance()->installEventFilter(&keys_);
         connectRun(session_, window_, bar_, keys_);
@@ -104,15 +107,32 @@ public:
     {
         if (!isLanguageSettled)
             window_.log(hostText("LOG_LANGUAGE_NOT_SAVED").arg(QDir::toNativeSeparators(LanguageSetting::defaultFolder())));
-        const QStringList restored = session_.restoreLeftovers();
-        if (!restored.isEmpty())
-            window_.log(hostText("LOG_VOLUMES_RESTORED").arg(restored.join(QStringLiteral(", "))));
+        restoreLeftovers();
         window_.show();
         QTimer::singleShot(0, &window_, [this] { begin(); });
         return QCoreApplication::exec();
     }
 
 private:
+    // Of an earlier run that ended without its end. On the standard error as well: nobody may be watching the window.
+    void restoreLeftovers()
+    {
+        const QStringList restored = session_.restoreLeftovers();
+        const QStringList left = session_.leftAlone();
+        QStringList lines;
+        if (!restored.isEmpty())
+            lines.append(hostText("LOG_VOLUMES_RESTORED").arg(restored.join(QStringLiteral(", "))));
+        if (!left.isEmpty())
+            lines.append(hostText("LOG_VOLUMES_LEFT").arg(left.join(QStringLiteral(", "))));
+        if (!session_.leftoverProblem().isEmpty())
+            lines.append(session_.leftoverProblem());
+        for (const QString &line : std::as_const(lines)) {
+            window_.log(line);
+            if (options_.isUnattended)
+                complain(line);
+        }
+    }
+
     void connectLevels()
     {
         QObject::connect(&session_, &TestSession::runStarted, &levels_, [this](const RunRecord &record) {

@@ -11,6 +11,8 @@
 
 #include <QScopeGuard>
 
+#include <utility>
+
 namespace host {
 
 namespace {
@@ -77,7 +79,7 @@ std::optional<RunRecord> TestSession::run(qsizetype test, qsizetype device, cons
     const auto over = qScopeGuard([this] { context_ = nullptr; });
     emit runStarted(record);
     perform(*chosen, context, record);
-    record.restoredVolumes = guardian_.finish();
+    record.restoredVolumes = std::exchange(leftovers_, {}) + guardian_.finish();
     if (!guardian_.errorText().isEmpty() && record.volumeComplaint.isEmpty())
         complainOfVolumes(record);
     record.endedUtc = QDateTime::currentDateTimeUtc();
@@ -91,6 +93,12 @@ std::optional<RunRecord> TestSession::run(qsizetype test, qsizetype device, cons
     return record;
 }
 
+QStringList TestSession::restoreLeftovers()
+{
+    leftovers_ = guardian_.restoreLeftovers();
+    return leftovers_;
+}
+
 std::optional<RunRecord> TestSession::refuse(qsizetype test, qsizetype device, const QString &language, const QString &reason,
                                              const std::function<void(RunRecord &)> &finish)
 {
@@ -99,6 +107,7 @@ std::optional<RunRecord> TestSession::refuse(qsizetype test, qsizetype device, c
     RunRecord record = begin(test, device, language);
     record.endedUtc = record.startedUtc;
     record.wasModuleCalled = false;
+    record.restoredVolumes = std::exchange(leftovers_, {});
     record.code = ostra::result::cannotBePerformed;
     record.reason = reason;
     if (finish)

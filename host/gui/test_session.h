@@ -97,7 +97,12 @@ public:
     const QList<RunRecord> &history() const noexcept { return history_; }
 
     /// Puts back what an interrupted run of an earlier process left behind.
-    QStringList restoreLeftovers() { return guardian_.restoreLeftovers(); }
+    /// The first run's record names these as well.
+    QStringList restoreLeftovers();
+    /// What that left alone, because somebody has set another volume since.
+    const QStringList &leftAlone() const noexcept { return guardian_.leftAlone(); }
+    /// Why it could not put back; empty otherwise.
+    const QString &leftoverProblem() const noexcept { return guardian_.errorText(); }
 
 signals:
     void devicesAboutToBeRead();
@@ -135,6 +140,7 @@ private:
     RunContext *context_ = nullptr; // of the run under way
     bool isPreparing_ = false;
     bool isRefreshDue_ = false;
+    QStringList leftovers_; ///< put back, and in no record yet
     QList<RunRecord> history_;
     QHash<QString, ChannelCheck> channels_;
     EndpointLook before_; // of the run under way, when nothing was raised yet

@@ -27,7 +27,7 @@ void addTexts(QList<WindowCheck> &checks)
 {
     for (const QLatin1StringView code : translationCodes)
         checks.append({QStringLiteral("texts: ") + code, installTranslators(code),
-                       QStringLiteral("windows and dialogs show keys in place of texts")});
+                       QStringLiteral("windows and dialogs show keys in place of texts"), false});
     for (const QLatin1StringView code : translationCodes) {
         if (code != QLatin1StringView("en_US"))
             checks.append({QStringLiteral("texts of Qt: ") + code, hasToolkitTexts(code),
@@ -61,6 +61,7 @@ QByteArray windowCheckLine(const QList<WindowCheck> &checks)
     for (const WindowCheck &check : checks)
         list.append(QJsonObject{{QStringLiteral("name"), check.name},
                                 {QStringLiteral("ok"), check.isThere},
+                                {QStringLiteral("limit"), check.isLimit},
                                 {QStringLiteral("lacking"), check.isThere ? QString() : check.lacking}});
     return QJsonDocument(list).toJson(QJsonDocument::Compact) + '\n';
 }

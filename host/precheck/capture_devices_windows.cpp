@@ -15,9 +15,11 @@ QList<CaptureDevice> readCaptureDevices()
     QList<CaptureDevice> devices;
     for (const EndpointKind &endpoint : readEndpointKinds().value_or(QList<EndpointKind>())) {
         if (endpoint.isInput)
-            devices.append({endpoint.name, endpoint.id, endpoint.isRootEnumerated || isUnderWine()});
+            devices.append({endpoint.name, endpoint.id, endpoint.isRootEnumerated || isUnderWine(), false});
     }
     return devices;
 }
+
+QList<CaptureDevice> readMonitors() { return {}; }
 
 } // namespace host

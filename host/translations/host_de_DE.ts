@@ -32,6 +32,30 @@
         <translation>Es wurde kein Ausgabegerät gefunden. Schließen Sie eines an. Die Liste aktualisiert sich selbst.</translation>
     </message>
     <message>
+        <source>SOUND_SERVER_SILENT</source>
+        <translation>Der Soundserver antwortet nicht: Die Geräte können nicht aufgelistet werden. Starten Sie ihn und lesen Sie die Liste dann neu ein.</translation>
+    </message>
+    <message>
+        <source>DEVICE_STATE</source>
+        <translation>Derzeit</translation>
+    </message>
+    <message>
+        <source>STATE_VOLUME</source>
+        <translation>Lautstärke %1 %</translation>
+    </message>
+    <message>
+        <source>STATE_MUTED</source>
+        <translation>stummgeschaltet</translation>
+    </message>
+    <message>
+        <source>STATE_DEFAULT</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>STATE_VIRTUAL</source>
+        <translation>virtuell</translation>
+    </message>
+    <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
         <translation>Der Soundserver antwortet nicht: Lautstärke und Stummschaltung konnten nicht geprüft werden.</translation>
     </message>
@@ -110,10 +134,6 @@
     <message>
         <source>REASON_VOLUMES_HELD</source>
         <translation>Ein anderer Durchlauf hält die Lautstärken.</translation>
-    </message>
-    <message>
-        <source>REASON_DEVICE_GONE</source>
-        <translation>Das Gerät „%1“ ist während des Durchlaufs verschwunden.</translation>
     </message>
     <message>
         <source>WARNING_IS_MUTED_AGAIN</source>
@@ -372,6 +392,10 @@
         <translation>Ein früherer Test wurde unterbrochen. Die Lautstärke dieser Geräte wurde wiederhergestellt: %1</translation>
     </message>
     <message>
+        <source>LOG_VOLUMES_LEFT</source>
+        <translation>Ein abgebrochener Testlauf hatte Lautstärken erhöht, die seither geändert wurden. Sie bleiben, wie sie sind: %1</translation>
+    </message>
+    <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
         <translation>Die Lautstärke dieser Geräte wurde wiederhergestellt: %1</translation>
     </message>
@@ -455,6 +479,10 @@
         <source>ABOUT_VERSIONS</source>
         <translation>Version des Moduls: %1
 Version dieses Programms: %2</translation>
+    </message>
+    <message>
+        <source>ABOUT_WHICH_VERSION</source>
+        <translation>Nennen Sie bei Fragen und Fehlermeldungen die Version dieses Programms; die Version des Moduls sagt, mit welchem Modul es prüft.</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>

@@ -32,6 +32,30 @@
         <translation>No output device was found. Connect one: the list updates by itself.</translation>
     </message>
     <message>
+        <source>SOUND_SERVER_SILENT</source>
+        <translation>The sound server does not answer: the devices cannot be listed. Start it, then refresh the list.</translation>
+    </message>
+    <message>
+        <source>DEVICE_STATE</source>
+        <translation>At present</translation>
+    </message>
+    <message>
+        <source>STATE_VOLUME</source>
+        <translation>volume %1%</translation>
+    </message>
+    <message>
+        <source>STATE_MUTED</source>
+        <translation>muted</translation>
+    </message>
+    <message>
+        <source>STATE_DEFAULT</source>
+        <translation>default</translation>
+    </message>
+    <message>
+        <source>STATE_VIRTUAL</source>
+        <translation>virtual</translation>
+    </message>
+    <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
         <translation>The sound server does not answer: volume and mute could not be checked.</translation>
     </message>
@@ -110,10 +134,6 @@
     <message>
         <source>REASON_VOLUMES_HELD</source>
         <translation>Another run is holding the volumes.</translation>
-    </message>
-    <message>
-        <source>REASON_DEVICE_GONE</source>
-        <translation>The device “%1” disappeared during the run.</translation>
     </message>
     <message>
         <source>WARNING_IS_MUTED_AGAIN</source>
@@ -372,6 +392,10 @@
         <translation>An earlier test was interrupted. The volume of these devices was restored: %1</translation>
     </message>
     <message>
+        <source>LOG_VOLUMES_LEFT</source>
+        <translation>An interrupted run had raised volumes that were changed since. They stay as they are: %1</translation>
+    </message>
+    <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
         <translation>The volume of these devices was restored: %1</translation>
     </message>
@@ -455,6 +479,10 @@
         <source>ABOUT_VERSIONS</source>
         <translation>Version of the module: %1
 Version of this program: %2</translation>
+    </message>
+    <message>
+        <source>ABOUT_WHICH_VERSION</source>
+        <translation>In questions and fault reports, quote the version of this program; the module’s version tells which module it tests with.</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>

@@ -32,6 +32,30 @@
         <translation>No se ha encontrado ningún dispositivo de salida. Conecte uno; la lista se actualiza sola.</translation>
     </message>
     <message>
+        <source>SOUND_SERVER_SILENT</source>
+        <translation>El servidor de sonido no responde: no se pueden mostrar los dispositivos. Inícielo y actualice la lista.</translation>
+    </message>
+    <message>
+        <source>DEVICE_STATE</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>STATE_VOLUME</source>
+        <translation>volumen %1 %</translation>
+    </message>
+    <message>
+        <source>STATE_MUTED</source>
+        <translation>silenciado</translation>
+    </message>
+    <message>
+        <source>STATE_DEFAULT</source>
+        <translation>predeterminado</translation>
+    </message>
+    <message>
+        <source>STATE_VIRTUAL</source>
+        <translation>virtual</translation>
+    </message>
+    <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
         <translation>El servidor de sonido no responde: no se ha podido comprobar el volumen ni si el sonido está silenciado.</translation>
     </message>
@@ -110,10 +134,6 @@
     <message>
         <source>REASON_VOLUMES_HELD</source>
         <translation>Otra ejecución mantiene los volúmenes.</translation>
-    </message>
-    <message>
-        <source>REASON_DEVICE_GONE</source>
-        <translation>El dispositivo «%1» ha desaparecido durante la ejecución.</translation>
     </message>
     <message>
         <source>WARNING_IS_MUTED_AGAIN</source>
@@ -372,6 +392,10 @@
         <translation>Una prueba anterior se interrumpió. Se ha restablecido el volumen de estos dispositivos: %1</translation>
     </message>
     <message>
+        <source>LOG_VOLUMES_LEFT</source>
+        <translation>Una ejecución interrumpida había subido volúmenes que se cambiaron desde entonces. Se dejan como están: %1</translation>
+    </message>
+    <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
         <translation>Se ha restablecido el volumen de estos dispositivos: %1</translation>
     </message>
@@ -455,6 +479,10 @@
         <source>ABOUT_VERSIONS</source>
         <translation>Versión del módulo: %1
 Versión de este programa: %2</translation>
+    </message>
+    <message>
+        <source>ABOUT_WHICH_VERSION</source>
+        <translation>En consultas e informes de errores, indique la versión de este programa; la versión del módulo dice con qué módulo prueba.</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>

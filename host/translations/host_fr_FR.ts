@@ -32,6 +32,30 @@
         <translation>Aucun périphérique de sortie n’a été trouvé. Branchez-en un : la liste se met à jour d’elle-même.</translation>
     </message>
     <message>
+        <source>SOUND_SERVER_SILENT</source>
+        <translation>Le serveur audio ne répond pas : les périphériques ne peuvent pas être listés. Démarrez-le, puis actualisez la liste.</translation>
+    </message>
+    <message>
+        <source>DEVICE_STATE</source>
+        <translation>Actuellement</translation>
+    </message>
+    <message>
+        <source>STATE_VOLUME</source>
+        <translation>volume %1 %</translation>
+    </message>
+    <message>
+        <source>STATE_MUTED</source>
+        <translation>son coupé</translation>
+    </message>
+    <message>
+        <source>STATE_DEFAULT</source>
+        <translation>par défaut</translation>
+    </message>
+    <message>
+        <source>STATE_VIRTUAL</source>
+        <translation>virtuel</translation>
+    </message>
+    <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
         <translation>Le serveur audio ne répond pas : le volume et la coupure du son n’ont pas pu être vérifiés.</translation>
     </message>
@@ -110,10 +134,6 @@
     <message>
         <source>REASON_VOLUMES_HELD</source>
         <translation>Une autre exécution maintient les volumes.</translation>
-    </message>
-    <message>
-        <source>REASON_DEVICE_GONE</source>
-        <translation>Le périphérique « %1 » a disparu pendant l’exécution.</translation>
     </message>
     <message>
         <source>WARNING_IS_MUTED_AGAIN</source>
@@ -372,6 +392,10 @@
         <translation>Un test précédent a été interrompu. Le volume de ces périphériques a été rétabli : %1</translation>
     </message>
     <message>
+        <source>LOG_VOLUMES_LEFT</source>
+        <translation>Une exécution interrompue avait augmenté des volumes qui ont été modifiés depuis. Ils restent tels quels : %1</translation>
+    </message>
+    <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
         <translation>Le volume de ces périphériques a été rétabli : %1</translation>
     </message>
@@ -455,6 +479,10 @@
         <source>ABOUT_VERSIONS</source>
         <translation>Version du module : %1
 Version de ce programme : %2</translation>
+    </message>
+    <message>
+        <source>ABOUT_WHICH_VERSION</source>
+        <translation>Dans vos questions et rapports d’erreur, indiquez la version de ce programme ; celle du module dit avec quel module il teste.</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>

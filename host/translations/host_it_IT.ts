@@ -32,6 +32,30 @@
         <translation>Nessun dispositivo di uscita trovato. Collegarne uno: l’elenco si aggiorna da solo.</translation>
     </message>
     <message>
+        <source>SOUND_SERVER_SILENT</source>
+        <translation>Il server audio non risponde: i dispositivi non possono essere elencati. Avviarlo, quindi aggiornare l’elenco.</translation>
+    </message>
+    <message>
+        <source>DEVICE_STATE</source>
+        <translation>Al momento</translation>
+    </message>
+    <message>
+        <source>STATE_VOLUME</source>
+        <translation>volume %1%</translation>
+    </message>
+    <message>
+        <source>STATE_MUTED</source>
+        <translation>audio disattivato</translation>
+    </message>
+    <message>
+        <source>STATE_DEFAULT</source>
+        <translation>predefinito</translation>
+    </message>
+    <message>
+        <source>STATE_VIRTUAL</source>
+        <translation>virtuale</translation>
+    </message>
+    <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
         <translation>Il server audio non risponde: non è stato possibile controllare il volume e la disattivazione dell’audio.</translation>
     </message>
@@ -110,10 +134,6 @@
     <message>
         <source>REASON_VOLUMES_HELD</source>
         <translation>Un’altra esecuzione mantiene i volumi.</translation>
-    </message>
-    <message>
-        <source>REASON_DEVICE_GONE</source>
-        <translation>Il dispositivo «%1» è scomparso durante l’esecuzione.</translation>
     </message>
     <message>
         <source>WARNING_IS_MUTED_AGAIN</source>
@@ -372,6 +392,10 @@
         <translation>Un test precedente è stato interrotto. È stato ripristinato il volume di questi dispositivi: %1</translation>
     </message>
     <message>
+        <source>LOG_VOLUMES_LEFT</source>
+        <translation>Un’esecuzione interrotta aveva alzato volumi che da allora sono stati modificati. Restano come sono: %1</translation>
+    </message>
+    <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
         <translation>È stato ripristinato il volume di questi dispositivi: %1</translation>
     </message>
@@ -455,6 +479,10 @@
         <source>ABOUT_VERSIONS</source>
         <translation>Versione del modulo: %1
 Versione di questo programma: %2</translation>
+    </message>
+    <message>
+        <source>ABOUT_WHICH_VERSION</source>
+        <translation>Nelle domande e nelle segnalazioni di errori, indicare la versione di questo programma; quella del modulo dice con quale modulo esegue i test.</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>

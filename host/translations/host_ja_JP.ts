@@ -32,6 +32,30 @@
         <translation>出力デバイスが見つかりませんでした。接続すると、一覧は自動的に更新されます。</translation>
     </message>
     <message>
+        <source>SOUND_SERVER_SILENT</source>
+        <translation>サウンドサーバーが応答しないため、デバイスを一覧表示できません。サーバーを起動してから一覧を更新してください。</translation>
+    </message>
+    <message>
+        <source>DEVICE_STATE</source>
+        <translation>現在の状態</translation>
+    </message>
+    <message>
+        <source>STATE_VOLUME</source>
+        <translation>音量 %1%</translation>
+    </message>
+    <message>
+        <source>STATE_MUTED</source>
+        <translation>ミュート中</translation>
+    </message>
+    <message>
+        <source>STATE_DEFAULT</source>
+        <translation>既定</translation>
+    </message>
+    <message>
+        <source>STATE_VIRTUAL</source>
+        <translation>仮想</translation>
+    </message>
+    <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
         <translation>サウンドサーバーが応答しません。音量とミュートを確認できませんでした。</translation>
     </message>
@@ -110,10 +134,6 @@
     <message>
         <source>REASON_VOLUMES_HELD</source>
         <translation>別の実行が音量を固定しています。</translation>
-    </message>
-    <message>
-        <source>REASON_DEVICE_GONE</source>
-        <translation>デバイス「%1」が実行中になくなりました。</translation>
     </message>
     <message>
         <source>WARNING_IS_MUTED_AGAIN</source>
@@ -372,6 +392,10 @@
         <translation>以前のテストが中断されました。次のデバイスの音量を元に戻しました: %1</translation>
     </message>
     <message>
+        <source>LOG_VOLUMES_LEFT</source>
+        <translation>中断されたテストが上げた音量は、その後変更されています。現在の音量のままにします: %1</translation>
+    </message>
+    <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
         <translation>次のデバイスの音量を元に戻しました: %1</translation>
     </message>
@@ -455,6 +479,10 @@
         <source>ABOUT_VERSIONS</source>
         <translation>モジュールのバージョン: %1
 このプログラムのバージョン: %2</translation>
+    </message>
+    <message>
+        <source>ABOUT_WHICH_VERSION</source>
+        <translation>お問い合わせや不具合の報告には、このプログラムのバージョンをお書きください。モジュールのバージョンは、テストに使うモジュールを示します。</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>

@@ -32,6 +32,30 @@
         <translation>Er is geen uitvoerapparaat gevonden. Sluit er een aan; de lijst wordt vanzelf bijgewerkt.</translation>
     </message>
     <message>
+        <source>SOUND_SERVER_SILENT</source>
+        <translation>De geluidsserver antwoordt niet: de apparaten kunnen niet worden weergegeven. Start deze en vernieuw daarna de lijst.</translation>
+    </message>
+    <message>
+        <source>DEVICE_STATE</source>
+        <translation>Op dit moment</translation>
+    </message>
+    <message>
+        <source>STATE_VOLUME</source>
+        <translation>volume %1%</translation>
+    </message>
+    <message>
+        <source>STATE_MUTED</source>
+        <translation>gedempt</translation>
+    </message>
+    <message>
+        <source>STATE_DEFAULT</source>
+        <translation>standaard</translation>
+    </message>
+    <message>
+        <source>STATE_VIRTUAL</source>
+        <translation>virtueel</translation>
+    </message>
+    <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
         <translation>De geluidsserver antwoordt niet: volume en demping konden niet worden gecontroleerd.</translation>
     </message>
@@ -110,10 +134,6 @@
     <message>
         <source>REASON_VOLUMES_HELD</source>
         <translation>Een andere uitvoering houdt de volumes vast.</translation>
-    </message>
-    <message>
-        <source>REASON_DEVICE_GONE</source>
-        <translation>Het apparaat ‘%1’ is tijdens de uitvoering verdwenen.</translation>
     </message>
     <message>
         <source>WARNING_IS_MUTED_AGAIN</source>
@@ -372,6 +392,10 @@
         <translation>Een eerdere test is onderbroken. Het volume van deze apparaten is hersteld: %1</translation>
     </message>
     <message>
+        <source>LOG_VOLUMES_LEFT</source>
+        <translation>Een afgebroken test had volumes verhoogd die sindsdien zijn gewijzigd. Ze blijven zoals ze zijn: %1</translation>
+    </message>
+    <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
         <translation>Het volume van deze apparaten is hersteld: %1</translation>
     </message>
@@ -455,6 +479,10 @@
         <source>ABOUT_VERSIONS</source>
         <translation>Versie van de module: %1
 Versie van dit programma: %2</translation>
+    </message>
+    <message>
+        <source>ABOUT_WHICH_VERSION</source>
+        <translation>Vermeld bij vragen en foutmeldingen de versie van dit programma; de versie van de module vertelt met welke module het test.</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>

@@ -32,6 +32,30 @@
         <translation>Nenhum dispositivo de saída foi encontrado. Conecte um; a lista se atualiza sozinha.</translation>
     </message>
     <message>
+        <source>SOUND_SERVER_SILENT</source>
+        <translation>O servidor de som não responde: os dispositivos não podem ser listados. Inicie-o e atualize a lista.</translation>
+    </message>
+    <message>
+        <source>DEVICE_STATE</source>
+        <translation>No momento</translation>
+    </message>
+    <message>
+        <source>STATE_VOLUME</source>
+        <translation>volume %1%</translation>
+    </message>
+    <message>
+        <source>STATE_MUTED</source>
+        <translation>sem som</translation>
+    </message>
+    <message>
+        <source>STATE_DEFAULT</source>
+        <translation>padrão</translation>
+    </message>
+    <message>
+        <source>STATE_VIRTUAL</source>
+        <translation>virtual</translation>
+    </message>
+    <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
         <translation>O servidor de som não responde: não foi possível verificar o volume nem o silenciamento.</translation>
     </message>
@@ -110,10 +134,6 @@
     <message>
         <source>REASON_VOLUMES_HELD</source>
         <translation>Outra execução está mantendo os volumes.</translation>
-    </message>
-    <message>
-        <source>REASON_DEVICE_GONE</source>
-        <translation>O dispositivo “%1” desapareceu durante a execução.</translation>
     </message>
     <message>
         <source>WARNING_IS_MUTED_AGAIN</source>
@@ -372,6 +392,10 @@
         <translation>Um teste anterior foi interrompido. O volume destes dispositivos foi restaurado: %1</translation>
     </message>
     <message>
+        <source>LOG_VOLUMES_LEFT</source>
+        <translation>Uma execução interrompida tinha aumentado volumes que foram alterados desde então. Eles ficam como estão: %1</translation>
+    </message>
+    <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
         <translation>O volume destes dispositivos foi restaurado: %1</translation>
     </message>
@@ -455,6 +479,10 @@
         <source>ABOUT_VERSIONS</source>
         <translation>Versão do módulo: %1
 Versão deste programa: %2</translation>
+    </message>
+    <message>
+        <source>ABOUT_WHICH_VERSION</source>
+        <translation>Em perguntas e relatos de erros, cite a versão deste programa; a versão do módulo diz com qual módulo ele testa.</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>

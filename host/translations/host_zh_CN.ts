@@ -32,6 +32,30 @@
         <translation>未找到输出设备。请连接设备，列表会自动更新。</translation>
     </message>
     <message>
+        <source>SOUND_SERVER_SILENT</source>
+        <translation>声音服务器没有响应：无法列出设备。请启动它，然后刷新列表。</translation>
+    </message>
+    <message>
+        <source>DEVICE_STATE</source>
+        <translation>当前状态</translation>
+    </message>
+    <message>
+        <source>STATE_VOLUME</source>
+        <translation>音量 %1%</translation>
+    </message>
+    <message>
+        <source>STATE_MUTED</source>
+        <translation>已静音</translation>
+    </message>
+    <message>
+        <source>STATE_DEFAULT</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>STATE_VIRTUAL</source>
+        <translation>虚拟</translation>
+    </message>
+    <message>
         <source>PRECHECK_SOUND_SERVER_SILENT</source>
         <translation>声音服务器没有响应：无法检查音量和静音状态。</translation>
     </message>
@@ -110,10 +134,6 @@
     <message>
         <source>REASON_VOLUMES_HELD</source>
         <translation>另一次运行正在占用音量设置。</translation>
-    </message>
-    <message>
-        <source>REASON_DEVICE_GONE</source>
-        <translation>设备“%1”在运行期间消失。</translation>
     </message>
     <message>
         <source>WARNING_IS_MUTED_AGAIN</source>
@@ -372,6 +392,10 @@
         <translation>之前的测试曾中断。已恢复以下设备的音量：%1</translation>
     </message>
     <message>
+        <source>LOG_VOLUMES_LEFT</source>
+        <translation>一次中断的测试曾调高音量，但音量在此之后已被更改。保持现状：%1</translation>
+    </message>
+    <message>
         <source>LOG_VOLUMES_PUT_BACK</source>
         <translation>已恢复以下设备的音量：%1</translation>
     </message>
@@ -455,6 +479,10 @@
         <source>ABOUT_VERSIONS</source>
         <translation>模块版本：%1
 本程序版本：%2</translation>
+    </message>
+    <message>
+        <source>ABOUT_WHICH_VERSION</source>
+        <translation>提问或报告故障时，请注明本程序的版本；模块的版本说明测试所用的模块。</translation>
     </message>
     <message>
         <source>SIMULATE_EVENT</source>

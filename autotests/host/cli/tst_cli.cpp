@@ -206,6 +206,7 @@ void TestCli::listsDevicesAsOneJsonDocument()
     QCOMPARE(document.value(QLatin1String("schemaVersion")).toInt(), 1);
     QCOMPARE(document.value(QLatin1String("productVersion")).toString(), QStringLiteral("4.42.0.92"));
 
+    int defaultCount = 0;
     QStringList names;
     const QJsonArray devices = document.value(QLatin1String("devices")).toArray();
     for (qsizetype number = 0; number < devices.size(); ++number) {
@@ -224,18 +225,24 @@ void TestCli::listsDevicesAsOneJsonDocument()
         QCOMPARE(device.value(QLatin1String("sampleRate")).toInt(), 48000);
         QCOMPARE(device.value(QLatin1String("driverName")).toString(), propertyValue(device, QStringLiteral("DRIVER_NAME")));
         QVERIFY(!device.value(QLatin1String("driverName")).toString().isEmpty());
+        QVERIFY(device.value(QLatin1String("volumePercent")).isDouble());
+        QVERIFY(device.value(QLatin1String("muted")).isBool());
+        defaultCount += device.value(QLatin1String("default")).toBool() ? 1 : 0;
     }
+    QCOMPARE(defaultCount, 1);
+    QVERIFY(document.value(QLatin1String("soundServerAnswers")).toBool());
     QCOMPARE(ofTheCard(names), cardDevices);
 }
 
-// As the dialog of the microphone test lists them; monitors are none.
+// As the dialog of the microphone test lists them; monitors are marked.
 void TestCli::listsInputs()
 {
     const CliRun run = runCli({QStringLiteral("list"), QStringLiteral("--json")});
     const QJsonArray inputs = parsed(run.output).value(QLatin1String("inputs")).toArray();
     QStringList names;
     for (const QJsonValue input : inputs) {
-        names.append(input[QLatin1String("name")].toString());
+        if (!input[QLatin1String("monitor")].toBool())
+            names.append(input[QLatin1String("name")].toString());
         QVERIFY(!input[QLatin1String("id")].toString().isEmpty());
         QVERIFY(input[QLatin1String("virtual")].toBool());
     }
@@ -256,14 +263,14 @@ void TestCli::listsDevicesAsATable()
     const QStringList lines = QString::fromUtf8(run.output).split(u'\n');
     QVERIFY(lines.last().isEmpty()); // the output ends with a line end
     QCOMPARE(words(lines.first()).join(u' '),
-             QStringLiteral("No Direction Device Channels Sample rate Driver Driver version Virtual"));
+             QStringLiteral("No Direction Device Channels Sample rate Driver Driver version Virtual Volume Muted Default"));
     const qsizetype column = lines.first().indexOf(QStringLiteral("Channels"));
     const qsizetype nameColumn = lines.first().indexOf(QStringLiteral("Device"));
     QStringList names;
     QStringList inputs;
     for (const QString &line : lines.mid(1, lines.size() - 2)) {
         const bool hasWideCharacter = line.contains(QChar(u'\u8033'));
-        const bool isInput = words(line).value(1) == QLatin1String("input");
+        const bool isInput = words(line).value(1) != QLatin1String("output");
         const QString unknown = QStringLiteral("-");
         QCOMPARE(words(line.mid(column - (hasWideCharacter ? 1 : 0))).mid(0, 2),
                  isInput ? (QStringList{unknown, unknown}) : (QStringList{QStringLiteral("2"), QStringLiteral("48000")}));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/host/cli/cli_process.h"
+#include "autotests/support/pulse_truth_linux.h"
 
 #include <QDir>
 #include <QFile>
@@ -8,6 +9,7 @@
 #include <QJsonObject>
 #include <QObject>
 #include <QScopeGuard>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <pty.h>
@@ -72,7 +74,11 @@ private slots:
     void endsOnAnInterrupt();
     void saysThatTheOutputCouldNotBeWritten();
     void needsNoUtf8Locale();
-    void listsNothingWithoutASoundServer();
+    void saysThatTheSoundServerDoesNotAnswer();
+    void listsVolumesMuteAndDefault();
+    void listsMonitors();
+    void takesALimitForNoLack_data();
+    void takesALimitForNoLack();
 };
 
 void TestCliLinux::stylesTheHeaderOnATerminalOnly_data()
@@ -145,20 +151,96 @@ void TestCliLinux::needsNoUtf8Locale()
     QCOMPARE(run.code, 2);
 }
 
-void TestCliLinux::listsNothingWithoutASoundServer()
+void TestCliLinux::saysThatTheSoundServerDoesNotAnswer()
 {
     QProcessEnvironment environment = cliEnvironment();
     environment.insert(QStringLiteral("PULSE_SERVER"), QStringLiteral("unix:/no/such/server"));
     const CliRun table = runCli({QStringLiteral("list")}, environment);
-    QCOMPARE(table.errors, QByteArray("No output device found.\n"));
+    QCOMPARE(table.errors, QByteArray("The sound server does not answer.\n"));
     QCOMPARE(table.output, QByteArray());
-    QCOMPARE(table.code, 0);
+    QCOMPARE(table.code, 3);
 
     const CliRun json = runCli({QStringLiteral("list"), QStringLiteral("--json")}, environment);
-    QCOMPARE(json.code, 0);
-    const QJsonValue devices = QJsonDocument::fromJson(json.output).object().value(QLatin1String("devices"));
-    QVERIFY(devices.isArray());
-    QVERIFY(devices.toArray().isEmpty());
+    QCOMPARE(json.code, 3);
+    const QJsonObject document = QJsonDocument::fromJson(json.output).object();
+    QCOMPARE(document.value(QLatin1String("soundServerAnswers")), QJsonValue(false));
+    QVERIFY(document.value(QLatin1String("devices")).isArray());
+    QVERIFY(document.value(QLatin1String("devices")).toArray().isEmpty());
+
+    const CliRun check = runCli({QStringLiteral("info"), QStringLiteral("--self-check")}, environment);
+    QVERIFY2(check.output.contains("sound server                LACKING: it does not answer"), check.output.constData());
+    QCOMPARE(check.code, 3);
+}
+
+// A muted PC is the commonest cause of one without sound.
+void TestCliLinux::listsVolumesMuteAndDefault()
+{
+    const QString sink = QStringLiteral("@DEFAULT_SINK@");
+    pulse_truth::run({QStringLiteral("set-sink-volume"), sink, QStringLiteral("137%")});
+    pulse_truth::run({QStringLiteral("set-sink-mute"), sink, QStringLiteral("1")});
+    const auto back = qScopeGuard([&sink] {
+        pulse_truth::run({QStringLiteral("set-sink-mute"), sink, QStringLiteral("0")});
+        pulse_truth::run({QStringLiteral("set-sink-volume"), sink, QStringLiteral("100%")});
+    });
+    const CliRun table = runCli({QStringLiteral("list")});
+    const QByteArrayList lines = table.output.split('\n');
+    QVERIFY2(lines.first().simplified().endsWith("Virtual Volume Muted Default"), lines.first().constData());
+    QVERIFY2(lines.at(1).simplified().endsWith("yes 137 % yes yes"), table.output.constData());
+
+    const CliRun json = runCli({QStringLiteral("list"), QStringLiteral("--json")});
+    const QJsonValue device = QJsonDocument::fromJson(json.output)[QLatin1String("devices")][0];
+    QCOMPARE(device[QLatin1String("volumePercent")], QJsonValue(137));
+    QCOMPARE(device[QLatin1String("muted")], QJsonValue(true));
+    QCOMPARE(device[QLatin1String("default")], QJsonValue(true));
+}
+
+// By the names that --listen takes.
+void TestCliLinux::listsMonitors()
+{
+    const CliRun table = runCli({QStringLiteral("list")});
+    QVERIFY2(table.output.simplified().contains("- monitor Monitor of Speakers - - - - yes - - -"), table.output.constData());
+    const CliRun json = runCli({QStringLiteral("list"), QStringLiteral("--json")});
+    const QJsonArray inputs = QJsonDocument::fromJson(json.output)[QLatin1String("inputs")].toArray();
+    QCOMPARE(inputs.size(), 1);
+    QCOMPARE(inputs[0][QLatin1String("name")].toString(), QStringLiteral("Monitor of Speakers"));
+    QCOMPARE(inputs[0][QLatin1String("monitor")], QJsonValue(true));
+    QVERIFY(inputs[0][QLatin1String("volumePercent")].isNull());
+}
+
+void TestCliLinux::takesALimitForNoLack_data()
+{
+    QTest::addColumn<QByteArray>("limit");
+    QTest::addColumn<QByteArray>("state");
+    QTest::addColumn<int>("code");
+    QTest::newRow("limit") << QByteArray("true") << QByteArray("limit: colours") << 0;
+    QTest::newRow("lack") << QByteArray("false") << QByteArray("LACKING: colours") << 3;
+}
+
+// An installation that is whole but for what a graphical host of the test's own says of its pictures.
+void TestCliLinux::takesALimitForNoLack()
+{
+    QFETCH(const QByteArray, limit);
+    QFETCH(const QByteArray, state);
+    const QTemporaryDir folder;
+    const QDir bundle(bundleFolder());
+    const QStringList programs{QStringLiteral("TamrexDiagnostics"), QStringLiteral("audio_listener"),
+                               QStringLiteral("audio_speaker"), QStringLiteral("volume_guardian")};
+    for (const QString &name : bundle.entryList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
+        if (!programs.contains(name) && bundle.filePath(name) != cliPath())
+            QVERIFY(QFile::link(bundle.filePath(name), folder.filePath(name)));
+    }
+    QVERIFY(QFile::copy(cliPath(), cliPath(folder.path())));
+    for (const QString &name : programs) {
+        QFile script(folder.filePath(name));
+        QVERIFY(script.open(QIODevice::WriteOnly));
+        script.write("#!/bin/sh\necho '[{\"name\":\"pictures: svg\",\"ok\":false,\"lacking\":\"colours\",\"limit\":" + limit +
+                     "}]'\n");
+        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    }
+    const CliRun run =
+        runCli({QStringLiteral("info"), QStringLiteral("--self-check")}, cliEnvironment(), cliPath(folder.path()));
+    QVERIFY2(run.output.contains("pictures: svg               " + state + '\n'), run.output.constData());
+    QTEST(run.code, "code");
 }
 
 QTEST_GUILESS_MAIN(TestCliLinux)

@@ -80,6 +80,11 @@ void TestOptionTable::keepsToTheWidthOfATerminal()
     const QString help = host::helpText();
     for (const QString &line : help.left(help.indexOf(QStringLiteral("Environment:"))).split(u'\n'))
         QVERIFY2(line.size() <= 110, qPrintable(line));
+    for (const host::CommandRow &command : host::commandRows()) {
+        const QString topic = host::helpText(QLatin1String(command.name)).section(QStringLiteral("Examples:"), 0, 0);
+        for (const QString &line : topic.split(u'\n'))
+            QVERIFY2(line.size() <= 98, qPrintable(line));
+    }
 }
 
 void TestOptionTable::offersTheLanguagesThatThereAre()

@@ -63,6 +63,7 @@ private slots:
     void clientTakesOverTheLockOfADeadGuardian();
     void clientSurvivesADamagedNote();
     void clientNamesEveryEndpoint();
+    void clientSaysThatThereIsNoGuardian();
 
 private:
     QString folder() const { return folder_->path(); }
@@ -80,7 +81,7 @@ void TestGuardianProcess::notesBeforeItIsReady()
     QCOMPARE(readLine(guardian), ready);
     const auto noted = note().read();
     QVERIFY(noted);
-    QVERIFY(noted->size() >= 3); // Wine has an endpoint of its own, and shows monitors
+    QVERIFY(noted->volumes.size() >= 3); // Wine has an endpoint of its own, and shows monitors
     guardian.kill();
     QVERIFY(guardian.waitForFinished(limitMilliseconds));
     QVERIFY(note().read());
@@ -261,6 +262,22 @@ void TestGuardianProcess::clientNamesEveryEndpoint()
     const QStringList names = host::endpointsThatWillBeRaised();
     for (const char *name : {"Speakers", "Headphones", "Microphone"})
         QVERIFY2(names.contains(QLatin1String(name)), qPrintable(names.join(QLatin1Char(','))));
+}
+
+void TestGuardianProcess::clientSaysThatThereIsNoGuardian()
+{
+    QString file = program();
+    if (!QFile::exists(file))
+        file += QStringLiteral(".exe");
+    QVERIFY(QFile::rename(file, file + QStringLiteral(".away")));
+    GuardianClient client(folder());
+    const bool isStarted = client.start();
+    QVERIFY(QFile::rename(file + QStringLiteral(".away"), file));
+    QVERIFY(!isStarted);
+    QVERIFY(!client.isHeldByAnother());
+    QCOMPARE(client.errorText(),
+             QStringLiteral("The guardian of the volumes (volume_guardian) is missing or cannot be started: "
+                            "should this run break down, its volumes stay raised."));
 }
 
 QTEST_GUILESS_MAIN(TestGuardianProcess)

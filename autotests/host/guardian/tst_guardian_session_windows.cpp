@@ -58,6 +58,7 @@ private slots:
     void triesAgainAfterAFailure();
     void keepsTheNoteWhenAnEndpointRefuses();
     void putsBackLeftovers();
+    void leavesWhatWasSetSince();
     void clampsTheLevelsOfANote();
     void prefersAFormerRunsVolumes();
     void notesNothingWhenTheVolumesAreUnknown();
@@ -195,13 +196,40 @@ void TestGuardianSessionWindows::putsBackLeftovers()
     QVERIFY(!QFile::exists(note().path()));
 }
 
+// Only the last one still stands where the lost run has put it.
+void TestGuardianSessionWindows::leavesWhatWasSetSince()
+{
+    QString complaint;
+    FakeCoreAudio fake;
+    addAll(fake);
+    {
+        GuardianSession session(folder());
+        QVERIFY(session.begin());
+    }
+    raise(fake);
+    fake.endpoints[0]->level = 0.2F;
+    fake.endpoints[1]->level = 0.9F;
+    fake.endpoints[2]->level = 0.998F; // as a driver rounds it
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Speakers was changed since")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Headset was changed since")));
+    const PutBack result = putBackLeftovers(folder(), complaint);
+    QVERIFY(result.isDone);
+    QCOMPARE(result.names, QStringList{QStringLiteral("three")});
+    QCOMPARE(result.left, (QStringList{QStringLiteral("Speakers"), QStringLiteral("Headset")}));
+    QCOMPARE(fake.endpoints[0]->level, 0.2F);
+    QCOMPARE(fake.endpoints[1]->level, 0.9F);
+    QVERIFY(!fake.endpoints[1]->muted);
+    QCOMPARE(fake.endpoints[2]->level, before[2].level);
+    QVERIFY(!QFile::exists(note().path()));
+}
+
 void TestGuardianSessionWindows::clampsTheLevelsOfANote()
 {
     QString complaint;
     FakeCoreAudio fake;
     addAll(fake);
-    QVERIFY(note().write({{7.5F, false, u"one", {}}, {-3.0F, true, u"two", {}}, {0.5F, true, u"three", {}}}));
-    fake.endpoints[1]->level = 0.3F;
+    QVERIFY(note().write({{{7.5F, false, u"one", {}}, {-3.0F, true, u"two", {}}, {0.5F, true, u"three", {}}}, {}}));
+    raise(fake);
     QVERIFY(putBackLeftovers(folder(), complaint).isDone);
     QCOMPARE(fake.endpoints[0]->level, 1.0F);
     QCOMPARE(fake.endpoints[1]->level, 0.0F);

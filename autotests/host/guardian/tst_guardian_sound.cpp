@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QObject>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -78,6 +79,9 @@ private slots:
     void leavesAVanishedEndpointAlone();
     void servesTheNextStartAfterAPowerCut();
     void servesTheNextStartWithoutEndpointsThatAreGone();
+    void leavesWhatWasSetSinceAPowerCut();
+    void putsBackHalfARaiseButNothingLouder();
+    void leavesTheEndpointsOfAnotherServer();
     void startsOnlyAfterPuttingBackLeftovers();
     void replacesALostGuardian();
     void refusesASecondHost();
@@ -244,6 +248,53 @@ void TestGuardianSound::servesTheNextStartWithoutEndpointsThatAreGone()
     expected["just_plugged_in"] = {{full, full}, false};
     QCOMPARE(endpoints(), expected);
     QVERIFY(isAtRest());
+}
+
+void TestGuardianSound::leavesWhatWasSetSinceAPowerCut()
+{
+    powerCut();
+    pulse_truth::set(sinkKind, QStringLiteral("speakers"), {13107, 13107}, false); // 20 %
+    pulse_truth::set(sourceKind, QStringLiteral("microphone"), {full, full}, true);
+    Devices expected = before;
+    expected["speakers"] = {{13107, 13107}, false};
+    expected["microphone"] = {{full, full}, true};
+    GuardianClient client(state());
+    QCOMPARE(client.restoreLeftovers(), QStringList{QStringLiteral("Headset")});
+    QCOMPARE(client.leftAlone(), QStringList({QStringLiteral("Speakers"), QStringLiteral("Microphone")}));
+    QCOMPARE(client.errorText(), QString());
+    QCOMPARE(endpoints(), expected);
+    QVERIFY(isAtRest());
+    QVERIFY2(client.start(), qPrintable(client.errorText()));
+    QCOMPARE(client.finish(), QStringList());
+    QCOMPARE(endpoints(), expected);
+}
+
+// Killed between the two steps of raising one, or made louder than a run makes it.
+void TestGuardianSound::putsBackHalfARaiseButNothingLouder()
+{
+    powerCut();
+    pulse_truth::set(sinkKind, QStringLiteral("headset"), {full, full}, true);
+    pulse_truth::run({QStringLiteral("set-sink-volume"), QStringLiteral("speakers"), QStringLiteral("140%")});
+    GuardianClient client(state());
+    QCOMPARE(client.restoreLeftovers(), QStringList({QStringLiteral("Headset"), QStringLiteral("Microphone")}));
+    QCOMPARE(client.leftAlone(), QStringList{QStringLiteral("Speakers")});
+    QCOMPARE(endpoints().at("headset"), before.at("headset"));
+    QCOMPARE(endpoints().at("microphone"), before.at("microphone"));
+}
+
+void TestGuardianSound::leavesTheEndpointsOfAnotherServer()
+{
+    powerCut();
+    const auto own = note().read();
+    QVERIFY(own && !own->server.isEmpty());
+    QVERIFY(note().write({own->volumes, own->server + QStringLiteral("2")}));
+    GuardianClient client(state());
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("belongs to another sound server")));
+    QCOMPARE(client.restoreLeftovers(), QStringList());
+    QCOMPARE(client.errorText(), QString());
+    QCOMPARE(endpoints(), raised);
+    QVERIFY(!QFile::exists(note().path()));
+    QVERIFY(note().isThere());
 }
 
 // Otherwise the raised volumes would be noted as the user's own.

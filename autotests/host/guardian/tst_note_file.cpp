@@ -16,7 +16,7 @@ using ostra::audio::EndpointVolumes;
 
 namespace {
 
-const EndpointVolumes volumes{{0.25F, true, u"one", {16384, 32768}}, {0.5F, false, u"two", {}}};
+const VolumeNote volumes{{{0.25F, true, u"one", {16384, 32768}}, {0.5F, false, u"two", {}}}, {}};
 
 void writeFile(const QString &path, const QByteArray &bytes)
 {
@@ -46,6 +46,8 @@ private slots:
     void movesAside();
     void movesAFolderAside();
     void keepsOneRefusedNote();
+    void keepsANoteOfAnotherServerForThatOne();
+    void takesANoteWithoutServerForThisOnes();
     void leftoversOfADamagedNoteAreNothingToDo();
 
 private:
@@ -64,8 +66,8 @@ void TestNoteFile::keepsANoteUntilItIsRemoved()
     for (int i = 0; i < 2; ++i) {
         const auto read = NoteFile(folder()).read();
         QVERIFY(read);
-        QCOMPARE(read->size(), volumes.size());
-        QCOMPARE(read->front().id, volumes.front().id);
+        QCOMPARE(read->volumes.size(), volumes.volumes.size());
+        QCOMPARE(read->volumes.front().id, volumes.volumes.front().id);
     }
     note.remove();
     QVERIFY(!note.read());
@@ -83,9 +85,9 @@ void TestNoteFile::makesTheFolder()
 void TestNoteFile::replacesANoteAsAWhole()
 {
     const NoteFile note(folder());
-    QVERIFY(note.write(EndpointVolumes(100, volumes.front())));
+    QVERIFY(note.write({EndpointVolumes(100, volumes.volumes.front()), {}}));
     QVERIFY(note.write(volumes));
-    QCOMPARE(note.read()->size(), volumes.size());
+    QCOMPARE(note.read()->volumes.size(), volumes.volumes.size());
     QCOMPARE(QDir(folder()).entryList(QDir::Files).size(), 1); // no half-written neighbour
 }
 
@@ -147,6 +149,37 @@ void TestNoteFile::keepsOneRefusedNote()
     QFile refused(note.refusedPath());
     QVERIFY(refused.open(QIODevice::ReadOnly));
     QCOMPARE(refused.readAll(), QByteArray("second"));
+}
+
+void TestNoteFile::keepsANoteOfAnotherServerForThatOne()
+{
+    const QString here = QStringLiteral("here");
+    const NoteFile note(folder());
+    QVERIFY(!note.isThere());
+    QVERIFY(note.write({volumes.volumes, QStringLiteral("there")}));
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("^a note of volumes belongs to another sound server \\(there\\)")));
+    QVERIFY(!note.readFor(here));
+    QVERIFY(!note.readFor(here));
+    QVERIFY(note.isThere());
+    QVERIFY(note.write({{}, here}));
+    QVERIFY(note.readFor(here));
+    note.remove();
+    const auto read = note.readFor(QStringLiteral("there"));
+    QVERIFY(read);
+    QCOMPARE(read->volumes.size(), volumes.volumes.size());
+    note.remove();
+    QVERIFY(!note.isThere());
+}
+
+void TestNoteFile::takesANoteWithoutServerForThisOnes()
+{
+    const NoteFile note(folder());
+    QVERIFY(note.write(volumes));
+    QVERIFY(note.readFor(QStringLiteral("here")));
+    QVERIFY(note.write({{}, QStringLiteral("there")}));
+    QVERIFY(note.readFor({}));
+    QVERIFY(note.read());
 }
 
 void TestNoteFile::leftoversOfADamagedNoteAreNothingToDo()

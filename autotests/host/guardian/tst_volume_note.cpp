@@ -10,6 +10,14 @@ using ostra::audio::EndpointVolumes;
 
 namespace {
 
+QByteArray noteOf(const EndpointVolumes &volumes) { return toNote({volumes, {}}); }
+
+std::optional<EndpointVolumes> volumesIn(const QByteArray &text, QString &complaint)
+{
+    const auto note = fromNote(text, complaint);
+    return note ? std::optional(note->volumes) : std::nullopt;
+}
+
 const QByteArray head("{\"format\":\"module_audio.volume_note\",\"version\":1,\"endpoints\":[");
 
 QByteArray noteWith(const QByteArray &endpoints) { return head + endpoints + "]}"; }
@@ -26,6 +34,7 @@ class TestVolumeNote : public QObject {
 
 private slots:
     void givesBackWhatWasNoted();
+    void givesBackTheServersName();
     void leavesOutEndpointsWithoutId();
     void clampsLevels_data();
     void clampsLevels();
@@ -42,7 +51,7 @@ void TestVolumeNote::givesBackWhatWasNoted()
                                 {1.0F, false, u"\u00fe\u8033\n", {91750, 0, 65536}},
                                 {0.33F, false, u"c", {0}}};
     QString complaint;
-    const auto volumes = fromNote(toNote(noted), complaint);
+    const auto volumes = volumesIn(noteOf(noted), complaint);
     QVERIFY2(volumes, qPrintable(complaint));
     QCOMPARE(volumes->size(), noted.size());
     for (std::size_t i = 0; i < noted.size(); ++i) {
@@ -51,13 +60,24 @@ void TestVolumeNote::givesBackWhatWasNoted()
         QCOMPARE(volumes->at(i).muted, noted[i].muted);
         QCOMPARE(volumes->at(i).channelVolumes, noted[i].channelVolumes);
     }
-    QVERIFY(fromNote(toNote({}), complaint));
+    QVERIFY(volumesIn(noteOf({}), complaint));
+}
+
+void TestVolumeNote::givesBackTheServersName()
+{
+    QString complaint;
+    const auto named = fromNote(toNote({{}, QStringLiteral("a \u8033\n")}), complaint);
+    QVERIFY2(named, qPrintable(complaint));
+    QCOMPARE(named->server, QStringLiteral("a \u8033\n"));
+    const auto nameless = fromNote(noteWith({}), complaint); // as programs before this one wrote it
+    QVERIFY2(nameless, qPrintable(complaint));
+    QCOMPARE(nameless->server, QString());
 }
 
 void TestVolumeNote::leavesOutEndpointsWithoutId()
 {
     QString complaint;
-    const auto volumes = fromNote(toNote({{0.5F, false, u"", {}}, {0.5F, false, u"b", {}}}), complaint);
+    const auto volumes = volumesIn(noteOf({{0.5F, false, u"", {}}, {0.5F, false, u"b", {}}}), complaint);
     QVERIFY2(volumes, qPrintable(complaint));
     QCOMPARE(volumes->size(), std::size_t{1});
     QCOMPARE(volumes->front().id, std::u16string(u"b"));
@@ -80,7 +100,7 @@ void TestVolumeNote::clampsLevels()
     QFETCH(const QByteArray, written);
     QString complaint;
     const auto volumes =
-        fromNote(noteWith("{\"id\":\"a\",\"level\":" + written + ",\"muted\":true,\"channelVolumes\":[]}"), complaint);
+        volumesIn(noteWith("{\"id\":\"a\",\"level\":" + written + ",\"muted\":true,\"channelVolumes\":[]}"), complaint);
     QVERIFY2(volumes, qPrintable(complaint));
     QTEST(volumes->front().level, "level");
     QVERIFY(volumes->front().muted);
@@ -102,7 +122,7 @@ void TestVolumeNote::limitsChannelVolumes()
 {
     QFETCH(const QByteArray, written);
     QString complaint;
-    const auto volumes = fromNote(noteOfChannels(written), complaint);
+    const auto volumes = volumesIn(noteOfChannels(written), complaint);
     QVERIFY2(volumes, qPrintable(complaint));
     QTEST(volumes->front().channelVolumes.front(), "volume");
 }
@@ -139,17 +159,17 @@ void TestVolumeNote::refuses()
 {
     QFETCH(const QByteArray, text);
     QString complaint;
-    QVERIFY(!fromNote(text, complaint));
+    QVERIFY(!volumesIn(text, complaint));
     QVERIFY(!complaint.isEmpty());
 }
 
 void TestVolumeNote::refusesEveryCutOfANote()
 {
-    const QByteArray whole = toNote({{0.5F, false, u"a", {1, 2}}, {0.25F, true, u"b", {}}}).trimmed();
+    const QByteArray whole = noteOf({{0.5F, false, u"a", {1, 2}}, {0.25F, true, u"b", {}}}).trimmed();
     QString complaint;
-    QVERIFY(fromNote(whole, complaint));
+    QVERIFY(volumesIn(whole, complaint));
     for (qsizetype byteCount = 0; byteCount < whole.size(); ++byteCount)
-        QVERIFY2(!fromNote(whole.left(byteCount), complaint), qPrintable(QString::number(byteCount)));
+        QVERIFY2(!volumesIn(whole.left(byteCount), complaint), qPrintable(QString::number(byteCount)));
 }
 
 QTEST_GUILESS_MAIN(TestVolumeNote)

@@ -128,6 +128,9 @@ inline void visitAll(const QString &code, const Look &look)
     host::DialogPrompter prompter;
     host::TestSession session(module.interface(), prompter, folder.path());
     host::MainWindow window(session, language, QStringLiteral("4.42.0.92"), true);
+    window.setSoundState([] {
+        return host::SoundState{true, {{QStringLiteral("Speakers"), QStringLiteral("s"), 137, true, true}}, {{}, true}};
+    });
     visitMain(window, session, code, look);
     visitDialogs(window, code, look);
     visitRunWindows(window, look);

@@ -1,8 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "autotests/support/pulse_truth_linux.h"
+#include "host/guardian/note_file.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QObject>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -41,6 +47,7 @@ private slots:
     void refusesFoldersThatTakeNoFile();
     void cannotPerformWhatNobodyHears();
     void reportsWhatItCannotPerform();
+    void tellsWhatAnInterruptedRunLeft();
     void tellsWhatItsWindowsLack();
     void writesItsLanguage();
     void leavesAForeignConfigurationAlone();
@@ -151,12 +158,42 @@ void TestGuiProgram::reportsWhatItCannotPerform()
         QVERIFY2(text.contains(part), text.constData());
 }
 
+// The killed run had raised both; somebody has lowered the second one since.
+void TestGuiProgram::tellsWhatAnInterruptedRunLeft()
+{
+    pulse_truth::set(QStringLiteral("sink"), QStringLiteral("sink1"), {65536, 65536}, false);
+    pulse_truth::set(QStringLiteral("sink"), QStringLiteral("sink2"), {13107, 13107}, false);
+    const host::NoteFile note(QFileInfo(ownConfiguration()).path());
+    QVERIFY(note.write({{{0.375F, false, u"sink1", {24576, 24576}}, {0.75F, true, u"sink2", {49152, 49152}}}, {}}));
+    const QString file = state_->filePath(QStringLiteral("r.json"));
+    const Outcome outcome =
+        run({QStringLiteral("--unattended"), QStringLiteral("--test=p"), QStringLiteral("--device=Speakers"),
+             QStringLiteral("--listen=nobody"), QStringLiteral("--language=en_US"), QStringLiteral("--report=") + file});
+    QCOMPARE(outcome.code, 3);
+    const pulse_truth::Devices devices = pulse_truth::devices();
+    QCOMPARE(devices.at("sink1"), (pulse_truth::Device{{24576, 24576}, false}));
+    QCOMPARE(devices.at("sink2"), (pulse_truth::Device{{13107, 13107}, false}));
+    pulse_truth::set(QStringLiteral("sink"), QStringLiteral("sink1"), {65536, 65536}, false);
+    pulse_truth::set(QStringLiteral("sink"), QStringLiteral("sink2"), {65536, 65536}, false);
+    QVERIFY2(
+        outcome.errors.contains("TamrexDiagnostics: An interrupted run had raised volumes that were changed since. They stay "
+                                "as they are: Headphones\n"),
+        outcome.errors.constData());
+    QVERIFY2(outcome.errors.contains(": Speakers\n"), outcome.errors.constData());
+    QFile report(file);
+    QVERIFY(report.open(QIODevice::ReadOnly));
+    const QJsonObject written = QJsonDocument::fromJson(report.readAll()).object();
+    QCOMPARE(written[QLatin1String("volumesPutBackByGuardian")].toArray(), QJsonArray{QStringLiteral("Speakers")});
+}
+
 void TestGuiProgram::tellsWhatItsWindowsLack()
 {
     const Outcome outcome = run({QStringLiteral("--self-check")});
     QCOMPARE(outcome.code, 0);
     for (const char *name : {"pictures: svg", "texts: ja_JP", "texts of Qt: de_DE", "fonts: Chinese", "fonts: Japanese"})
         QVERIFY2(outcome.output.contains(QByteArray("\"name\":\"") + name + "\",\"ok\":true"), outcome.output.constData());
+    QVERIFY2(outcome.output.contains("\"limit\":true,\"name\":\"pictures: svg\""), outcome.output.constData());
+    QVERIFY2(outcome.output.contains("\"limit\":false,\"name\":\"texts: ja_JP\""), outcome.output.constData());
 }
 
 void TestGuiProgram::cannotPerformWhatNobodyHears()

@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QObject>
 #include <QScreen>
+#include <QTableWidget>
 #include <QTest>
 
 namespace {
@@ -69,6 +70,13 @@ void verifyMenusFit(const QWidget &window)
     }
 }
 
+// The column that tells how a device stands must leave its name readable.
+void verifyNamesFit(const QWidget &window)
+{
+    const auto *devices = window.findChild<QTableWidget *>(QStringLiteral("host_devices"));
+    QVERIFY(devices->columnWidth(0) >= devices->fontMetrics().horizontalAdvance(QStringLiteral("Speakers")));
+}
+
 // For a look at it: the folder that this variable names gets the pictures.
 void photograph(QWidget &window, const QString &code)
 {
@@ -122,6 +130,8 @@ void TestHostLayout::fits()
         verifyFits(window);
         if (state.isEmpty() || state == QLatin1String("before"))
             verifyMenusFit(window);
+        if (state == QLatin1String("before"))
+            verifyNamesFit(window);
         photograph(window, state.isEmpty() ? code : code + u'_' + state);
     });
 }

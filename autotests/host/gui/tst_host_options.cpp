@@ -50,17 +50,17 @@ void TestHostOptions::startsThePlainWindowWithoutArguments()
     const auto read_ = read({});
     const auto *options = std::get_if<host::Options>(&read_);
     QVERIFY(options != nullptr);
-    QVERIFY(!options->isUnattended && !options->isDeveloper && !options->isHelp);
+    QVERIFY(!options->isUnattended && !options->isDeveloper && !options->isHelp && !options->isVerbose);
     QVERIFY(options->schedule.events.isEmpty() && !options->schedule.stopAfter);
 }
 
 void TestHostOptions::readsAnUnattendedRun()
 {
-    const auto result = read(
-        QStringLiteral("--unattended --test p --device Speakers --listen mic1 --mistype 2 --language de_DE --stop-after 1500"));
+    const auto result = read(QStringLiteral(
+        "--unattended --verbose --test p --device Speakers --listen mic1 --mistype 2 --language de_DE --stop-after 1500"));
     const auto *options = std::get_if<host::Options>(&result);
     QVERIFY(options != nullptr);
-    QVERIFY(options->isUnattended);
+    QVERIFY(options->isUnattended && options->isVerbose);
     QCOMPARE(options->test, QStringLiteral("p"));
     QCOMPARE(options->device, QStringLiteral("Speakers"));
     QCOMPARE(options->source, QStringLiteral("mic1"));

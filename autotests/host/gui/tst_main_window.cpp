@@ -67,6 +67,8 @@ private slots:
     void keepsTheChosenDeviceByName();
     void choosesNothingWhenTheChosenDeviceIsGone();
     void cannotRunWithoutADevice();
+    void tellsASilentSoundServerFromAMissingDevice();
+    void showsTheStateOfEachDevice();
     void runsTheChosenTest();
     void neverShowsAPassThatIsNone_data();
     void neverShowsAPassThatIsNone();
@@ -97,7 +99,7 @@ void TestMainWindow::listsDevicesWithTheirProperties()
     Program program;
     const auto *table = program.find<QTableWidget>("host_devices");
     QCOMPARE(table->rowCount(), 2);
-    QCOMPARE(table->columnCount(), 5);
+    QCOMPARE(table->columnCount(), 6);
     QCOMPARE(table->item(1, 0)->text(), QStringLiteral("Headphones"));
     QCOMPARE(table->item(1, 1)->text(), QStringLiteral("2"));
     QCOMPARE(table->item(1, 2)->text(), QStringLiteral("48000"));
@@ -143,6 +145,44 @@ void TestMainWindow::cannotRunWithoutADevice()
     program.module.names.clear();
     program.session.refresh();
     QCOMPARE(program.find<QLabel>("host_devices_text")->text(), host::hostText("NO_DEVICES"));
+}
+
+void TestMainWindow::tellsASilentSoundServerFromAMissingDevice()
+{
+    host::SoundState state;
+    Program program;
+    program.window.setSoundState([&state] { return state; });
+    program.module.names.clear();
+    program.session.refresh();
+    const auto *text = program.find<QLabel>("host_devices_text");
+    QCOMPARE(text->text(), host::hostText("SOUND_SERVER_SILENT"));
+    QVERIFY(program.log().contains(host::hostText("SOUND_SERVER_SILENT")));
+    state.isAnswering = true;
+    program.session.refresh();
+    QCOMPARE(text->text(), host::hostText("NO_DEVICES"));
+}
+
+void TestMainWindow::showsTheStateOfEachDevice()
+{
+    Program program;
+    const auto *table = program.find<QTableWidget>("host_devices");
+    const int column = table->columnCount() - 1;
+    const auto shown = [&](int row) { return table->item(row, column)->text(); };
+    QCOMPARE(table->horizontalHeaderItem(column)->text(), host::hostText("DEVICE_STATE"));
+    QCOMPARE(shown(0), host::hostText("VALUE_NOT_KNOWN"));
+    host::SoundState state{true, {{QStringLiteral("Headphones"), QStringLiteral("b"), 37, true, true}}, {}};
+    state.virtualDevices.names = QStringList{QStringLiteral("Speakers")};
+    program.window.setSoundState([&state] { return state; });
+    program.session.refresh();
+    const QString loudness = host::hostText("STATE_VOLUME").arg(37);
+    QCOMPARE(shown(0), host::hostText("STATE_VIRTUAL"));
+    QCOMPARE(
+        shown(1),
+        QStringList({loudness, host::hostText("STATE_MUTED"), host::hostText("STATE_DEFAULT")}).join(QStringLiteral(", ")));
+    state.endpoints[0].isMuted = false; // a run changes what there is, and gives it back
+    program.window.choose(0, 1);
+    program.session.run(0, 1, QStringLiteral("en_US"));
+    QCOMPARE(shown(1), QStringList({loudness, host::hostText("STATE_DEFAULT")}).join(QStringLiteral(", ")));
 }
 
 void TestMainWindow::runsTheChosenTest()
