@@ -52,7 +52,7 @@ QJsonValue jsonVirtual(const VirtualDevices &devices, const QString &name)
 }
 
 // What the system does not tell is null.
-void addState(QJsonObject &entry, const std::optional<EndpointState> &state)
+void addState(QJsonObject &entry, const std::optional<EndpointStanding> &state)
 {
     const QJsonValue unknown(QJsonValue::Null);
     entry.insert(QLatin1String("volumePercent"), state ? QJsonValue(state->percent) : unknown);
@@ -102,7 +102,7 @@ void printDocument(const ModuleLibrary &library, const Listed &listed, Console &
 
 QString yesOrNo(bool isYes) { return isYes ? QStringLiteral("yes") : QStringLiteral("no"); }
 
-QStringList stateCells(const std::optional<EndpointState> &state)
+QStringList stateCells(const std::optional<EndpointStanding> &state)
 {
     if (!state)
         return {{}, {}, {}};

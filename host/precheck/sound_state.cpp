@@ -34,9 +34,9 @@ int percentOf(const EndpointVolume &volume)
     return static_cast<int>(std::lround(*std::ranges::max_element(volume.channelVolumes) / fullVolume * 100.0));
 }
 
-QList<EndpointState> statesOf(const EndpointNames &names, const EndpointVolumes &volumes)
+QList<EndpointStanding> statesOf(const EndpointNames &names, const EndpointVolumes &volumes)
 {
-    QList<EndpointState> states;
+    QList<EndpointStanding> states;
     const QStringList defaults = readDefaultEndpoints();
     DeviceNames shown;
     for (const EndpointName &endpoint : names) {
@@ -49,7 +49,8 @@ QList<EndpointState> statesOf(const EndpointNames &names, const EndpointVolumes 
     return states;
 }
 
-std::optional<EndpointState> firstOf(const QList<EndpointState> &states, QString EndpointState::*field, const QString &text)
+std::optional<EndpointStanding> firstOf(const QList<EndpointStanding> &states, QString EndpointStanding::*field,
+                                        const QString &text)
 {
     const auto found = std::ranges::find(states, text, field);
     return found == states.end() ? std::nullopt : std::optional(*found);
@@ -57,12 +58,15 @@ std::optional<EndpointState> firstOf(const QList<EndpointState> &states, QString
 
 } // namespace
 
-std::optional<EndpointState> SoundState::output(const QString &name) const
+std::optional<EndpointStanding> SoundState::output(const QString &name) const
 {
-    return firstOf(endpoints, &EndpointState::name, name);
+    return firstOf(endpoints, &EndpointStanding::name, name);
 }
 
-std::optional<EndpointState> SoundState::withId(const QString &id) const { return firstOf(endpoints, &EndpointState::id, id); }
+std::optional<EndpointStanding> SoundState::withId(const QString &id) const
+{
+    return firstOf(endpoints, &EndpointStanding::id, id);
+}
 
 bool isSoundServerAnswering()
 {

@@ -11,7 +11,7 @@
 namespace host {
 
 /// How one output or input stands at the moment.
-struct EndpointState {
+struct EndpointStanding {
     QString name; ///< of an output as the sound library lists it
     QString id;   ///< the system's
     int percent = 0;
@@ -22,12 +22,12 @@ struct EndpointState {
 /// What the sound server, or the audio service of Windows, tells of its endpoints. Monitors have no volume here.
 struct SoundState {
     bool isAnswering = false; ///< without an answer no device can be listed at all, which says nothing about the machine
-    QList<EndpointState> endpoints;
+    QList<EndpointStanding> endpoints;
     VirtualDevices virtualDevices;
 
     /// Nothing for a name or id that the system does not know.
-    std::optional<EndpointState> output(const QString &name) const;
-    std::optional<EndpointState> withId(const QString &id) const;
+    std::optional<EndpointStanding> output(const QString &name) const;
+    std::optional<EndpointStanding> withId(const QString &id) const;
 };
 
 /// Looks only; some milliseconds, 2 s where the server does not answer, and 8 s at most. Any thread. With the sound library's
