@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/guardian/guardian_session.h"
 
-#include "host/guardian/sound_server_name.h"
+#include "host/guardian/sound_server_identity.h"
 
 #include <QDir>
 
@@ -57,7 +57,7 @@ void GuardianSession::keepUnrestored(const EndpointVolumes &former)
 
 bool GuardianSession::noteVolumes()
 {
-    const QString server = soundServerName();
+    const QString server = soundServerIdentity();
     const std::optional<VolumeNote> former = note_.readFor(server);
     const PutBack result = former ? putBackRaised(former->volumes) : PutBack{true, {}, {}};
     leftovers_ = result.names;
@@ -99,7 +99,7 @@ PutBack putBackLeftovers(const QString &stateFolder, QString &complaint, NoteOwn
         complaint = lock.errorText();
         return {};
     }
-    const std::optional<VolumeNote> note = file.readFor(soundServerName());
+    const std::optional<VolumeNote> note = file.readFor(soundServerIdentity());
     if (!note)
         return {true, {}, {}};
     const PutBack result = owner == NoteOwner::thisRun ? putBack(note->volumes, oneTry) : putBackRaised(note->volumes);

@@ -19,7 +19,7 @@ inline constexpr std::uint32_t channelVolumeLimit = 99957;
 
 struct VolumeNote {
     ostra::audio::EndpointVolumes volumes;
-    QString server; ///< by `soundServerName`; empty where it is not known
+    QString server; ///< by `soundServerIdentity`; empty where it is not known
 };
 
 /// The note as text. Endpoints without an id are left out: nothing could be matched with them.

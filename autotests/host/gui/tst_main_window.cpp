@@ -493,7 +493,7 @@ void TestMainWindow::warnsOfAMutedDevice()
     host::RunRecord record;
     record.device.name = QStringLiteral("Speakers");
     record.code = record.moduleCode = 0;
-    record.deviceVolume = {host::EndpointStanding{0, true}, host::EndpointStanding{80, false}};
+    record.deviceVolume = {host::EndpointState{0, true}, host::EndpointState{80, false}};
     host::ResultPanel panel;
     panel.showRun(record);
     const auto *list = panel.findChild<QListWidget *>(QStringLiteral("host_result_messages"));

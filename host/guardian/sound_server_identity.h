@@ -10,6 +10,6 @@ namespace host {
 ///
 /// Linux: the machine's id and the address of the connection; empty when the server does not answer, 2 s at most. Windows:
 /// empty, since the system's ids of endpoints differ from machine to machine.
-QString soundServerName();
+QString soundServerIdentity();
 
 } // namespace host

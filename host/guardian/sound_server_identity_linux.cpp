@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "host/guardian/sound_server_name.h"
+#include "host/guardian/sound_server_identity.h"
 
 #include "audio/endpoints/endpoint_volume.h"
 #include "audio/endpoints/pulse_connection_linux.h"
@@ -9,7 +9,7 @@
 namespace host {
 
 // The server's cookie is another one after each start, and would disown the note of a run that a power cut ended.
-QString soundServerName()
+QString soundServerIdentity()
 {
     ostra::audio::PulseConnection server(ostra::audio::passBound);
     if (!server.open())
