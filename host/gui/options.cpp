@@ -136,6 +136,8 @@ std::optional<OptionsError> checkLanguage(const QCommandLineParser &parser, cons
         return error(QStringLiteral("'--language' and '--config' exclude each other"));
     if (isConfigSet && !QFileInfo(options.configFolder).isDir())
         return error(QStringLiteral("'%1' is no folder (--config)").arg(parser.value(QStringLiteral("config"))));
+    if (isConfigSet && !QFileInfo(QDir(options.configFolder).filePath(QStringLiteral("config.ini"))).isFile())
+        return error(QStringLiteral("there is no config.ini in '%1' (--config)").arg(parser.value(QStringLiteral("config"))));
     const QStringList codes = LanguageSetting::codes();
     if (isLanguageSet && !codes.contains(options.language))
         return error(
