@@ -20,7 +20,7 @@ constexpr std::array<OptionOfHost, 22> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
-    {"listen", "SOURCE", "the source that hears the device: an input, or loopback:DEVICE; test m shows its level", false},
+    {"listen", "SOURCE", "what hears the device: an input, or loopback:DEVICE; test m shows its level", false},
     {"microphone", "NAME", "the microphone that test m chooses (the first one)", true},
     {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
     {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},

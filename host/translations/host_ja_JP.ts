@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>REASON_HEARS_ANOTHER</source>
-        <translation>「%1」は「%2」とは別のデバイスの音を拾うため、その無音が「%2」のせいにされます。</translation>
+        <translation>「%1」が拾うのは「%2」とは別のデバイスの音であり、その無音が後者のせいにされます。</translation>
     </message>
     <message>
         <source>REASON_VIRTUAL_DEVICE</source>
