@@ -3,6 +3,7 @@
 
 #include "host/cli/console.h"
 #include "host/cli/interrupt.h"
+#include "host/core/no_display.h"
 #include "host/core/run_reason.h"
 
 #include <QDeadlineTimer>
@@ -33,11 +34,16 @@ void endHost(QProcess &process, const HostLimits &limits)
     process.waitForFinished(limitMs);
 }
 
-std::optional<int> verdictIn(const QString &file)
+QByteArray contentOf(const QString &path)
 {
-    QFile verdict(file);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+}
+
+std::optional<int> verdictIn(const QByteArray &text)
+{
     bool isNumber = false;
-    const int code = verdict.open(QIODevice::ReadOnly) ? verdict.readAll().trimmed().toInt(&isNumber) : 0;
+    const int code = text.toInt(&isNumber);
     return isNumber ? std::optional(code) : std::nullopt;
 }
 
@@ -101,7 +107,10 @@ HostEnd performHost(const QString &program, const QStringList &arguments, Consol
     }
     if (const auto code = interruption())
         return {*code, {}};
-    return endOf(process, verdictIn(verdict), console);
+    const QByteArray written = contentOf(verdict);
+    if (process.exitCode() == static_cast<int>(ExitCode::cannotBePerformed) && written == noDisplayWords)
+        return {ExitCode::cannotBePerformed, reasonWords("REASON_NO_DISPLAY")}; // it has complained itself
+    return endOf(process, verdictIn(written), console);
 }
 
 } // namespace host

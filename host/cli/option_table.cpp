@@ -43,7 +43,9 @@ constexpr std::array<OptionRow, 24> options{{
     {"all-languages", nullptr, nullptr, "run", Completion::none, nullptr,
      "run each test in each of the nine languages; the user's own language stays", false},
     {"reports", nullptr, "DIR", "run", Completion::folder, nullptr,
-     "write the reports of each run into DIR, as .json, .xml (JUnit) and .html, named by device, test and language", false},
+     "write the reports of each run into DIR, which is made where it is missing, as .json, .xml (JUnit) and .html, named by "
+     "device, test and language",
+     false},
     {"channel-check", nullptr, nullptr, "run", Completion::none, nullptr,
      "check left and right of the device before the run, at the present volume; it is reported, and no part of the verdict",
      false},

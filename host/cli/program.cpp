@@ -11,12 +11,12 @@
 #include "host/cli/maudio_command.h"
 #include "host/cli/report_command.h"
 #include "host/cli/run_command.h"
+#include "host/cli/run_plan.h"
 #include "host/cli/self_check.h"
 #include "host/core/debug_lines.h"
 #include "host/core/module_library.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace host {
 
@@ -105,12 +105,15 @@ ExitCode runOrdinary(const CommandLine &line, Console &console)
 }
 
 // `run` hands the folder to the graphical host, which changes into it by itself.
-bool enterFolder(const CommandLine &line)
+QString enterFolder(const CommandLine &line)
 {
-    if (!line.configFolder)
-        return true;
-    const bool isFolder = QFileInfo(*line.configFolder).isDir();
-    return line.command == Command::run ? isFolder : isFolder && QDir::setCurrent(*line.configFolder);
+    if (!line.configFolder || line.command == Command::run)
+        return {};
+    if (const auto wrong = checkConfig(line))
+        return wrong->message;
+    return QDir::setCurrent(*line.configFolder)
+               ? QString()
+               : QStringLiteral("'%1' is not a folder that can be used (--config)").arg(*line.configFolder);
 }
 
 } // namespace
@@ -125,9 +128,8 @@ ProgramEnd runProgram(const QStringList &arguments, Console &console)
     if (const auto *error = std::get_if<UsageError>(&parsed))
         return {refuse(error->message, console), false};
     const auto &line = std::get<CommandLine>(parsed);
-    if (!enterFolder(line))
-        return {refuse(QStringLiteral("'%1' is not a folder that can be used (--config)").arg(*line.configFolder), console),
-                line.isGnuExit};
+    if (const QString problem = enterFolder(line); !problem.isEmpty())
+        return {refuse(problem, console), line.isGnuExit};
     return {runOrdinary(line, console), line.isGnuExit};
 }
 

@@ -6,10 +6,12 @@
 #include "host/cli/interrupt.h"
 #include "host/cli/refused_run.h"
 #include "host/cli/run_plan.h"
+#include "host/core/capture_source.h"
 #include "host/core/catalogue.h"
 #include "host/core/device_list.h"
 #include "host/core/module_library.h"
 #include "host/core/run_reason.h"
+#include "host/precheck/run_names.h"
 #include "host/precheck/virtual_devices.h"
 #include "host/reports/run_report.h"
 
@@ -36,6 +38,7 @@ struct Subjects {
     QList<Device> devices;             ///< in the order in which the user named them
     QHash<QString, QString> testNames; ///< key of the name by the test's letter
     VirtualDevices refused;
+    QString lacking; ///< why no run at all can be performed; empty: one may be
 
     const Device &of(const PlannedRun &run) const { return devices[run.deviceNumber - 1]; }
 };
@@ -52,6 +55,29 @@ void noteTests(const ModuleLibrary &library, Subjects &subjects)
     }
 }
 
+// A machine without its card is no mistake of the user, who wants it in the reports.
+void noteLacking(const CommandLine &line, Subjects &subjects, Console &console)
+{
+    for (const QString &device : line.all("device"))
+        subjects.devices.append(Device{device, {}, {}});
+    subjects.lacking = reasonWords("REASON_NO_OUTPUT_DEVICE");
+    console.complain(subjects.lacking);
+}
+
+QString findDevices(const CommandLine &line, const DeviceList &list, Subjects &subjects)
+{
+    QStringList known;
+    for (const Device &device : list.devices())
+        known.append(device.name);
+    for (const QString &device : line.all("device")) {
+        const qsizetype position = list.find(device);
+        if (position < 0)
+            return unknownName(QStringLiteral("device"), device, known);
+        subjects.devices.append(list.devices()[position]);
+    }
+    return wrongName({systemSource(line.last("listen")), line.last("microphone"), line.last("speak-through")}, known);
+}
+
 ExitCode findSubjects(const CommandLine &line, Subjects &subjects, Console &console)
 {
     ModuleLibrary library;
@@ -61,14 +87,13 @@ ExitCode findSubjects(const CommandLine &line, Subjects &subjects, Console &cons
     console.tellProgress(QStringLiteral("Reading devices…"));
     if (ostra::SystemComponentManager *manager = library.module()->componentManager())
         list.refresh(*manager);
-    const QStringList wanted = line.all("device");
-    for (const QString &device : wanted) {
-        const qsizetype position = list.find(device);
-        if (position < 0)
-            return refuse(console, QStringLiteral("unknown device '%1' (list shows them)").arg(device));
-        subjects.devices.append(list.devices()[position]);
-    }
     noteTests(library, subjects);
+    if (list.devices().isEmpty()) {
+        noteLacking(line, subjects, console);
+        return ExitCode::success;
+    }
+    if (const QString wrong = findDevices(line, list, subjects); !wrong.isEmpty())
+        return refuse(console, wrong);
     if (!line.isSet("allow-virtual"))
         subjects.refused = readVirtualDevices();
     return ExitCode::success;
@@ -78,8 +103,7 @@ void tellOfVirtualDevices(const Subjects &subjects, Console &console)
 {
     for (const Device &device : subjects.devices) {
         if (const char *refusal = virtualRefusal(subjects.refused, device.name))
-            console.complain(reasonWords(refusal, {device.name}) +
-                             QStringLiteral(" (--allow-virtual tests it nevertheless)"));
+            console.complain(reasonWords(refusal, {device.name}) + QStringLiteral(" (--allow-virtual tests it nevertheless)"));
     }
 }
 
@@ -116,6 +140,8 @@ HostEnd performHere(const CommandLine &line, const PlannedRun &run, const QStrin
 
 HostEnd performOne(const CommandLine &line, const Subjects &subjects, const PlannedRun &run, Console &console)
 {
+    if (!subjects.lacking.isEmpty())
+        return {ExitCode::cannotBePerformed, subjects.lacking};
     if (const char *refusal = virtualRefusal(subjects.refused, run.device))
         return {ExitCode::cannotBePerformed, reasonWords(refusal, {run.device})};
     if (run.language.isEmpty())

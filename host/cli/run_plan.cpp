@@ -40,9 +40,7 @@ bool isPlain(QChar letter)
 std::optional<UsageError> checkFolders(const CommandLine &line)
 {
     const QString reports = line.last("reports");
-    if (line.isSet("reports") && !QFileInfo(reports).isDir())
-        return UsageError{QStringLiteral("'%1' is no folder (--reports)").arg(reports)};
-    if (line.isSet("reports") && !canWriteInto(reports))
+    if (line.isSet("reports") && !canMakeAndWriteInto(reports))
         return UsageError{QStringLiteral("nothing can be written into '%1' (--reports)").arg(reports)};
     const QString pictures = line.last("screenshots");
     if (line.isSet("screenshots") && !canMakeAndWriteInto(pictures))
@@ -83,6 +81,16 @@ QList<PlannedRun> planRuns(const CommandLine &line, const QStringList &devices)
     return runs;
 }
 
+std::optional<UsageError> checkConfig(const CommandLine &line)
+{
+    const QString folder = line.last("config");
+    if (line.isSet("config") && !QFileInfo(folder).isDir())
+        return UsageError{QStringLiteral("'%1' is not a folder that can be used (--config)").arg(folder)};
+    if (line.isSet("config") && !QFileInfo(QDir(folder).filePath(QStringLiteral("config.ini"))).isFile())
+        return UsageError{QStringLiteral("there is no config.ini in '%1' (--config)").arg(folder)};
+    return std::nullopt;
+}
+
 std::optional<UsageError> checkRun(const CommandLine &line)
 {
     if (!line.isSet("device"))
@@ -94,6 +102,8 @@ std::optional<UsageError> checkRun(const CommandLine &line)
                 return UsageError{QStringLiteral("'--%1' and '--%2' exclude each other").arg(exclusive[index], other)};
         }
     }
+    if (const auto wrong = checkConfig(line))
+        return wrong;
     for (const char *option : {"microphone", "speak-through"}) {
         if (line.isSet(option) && !line.all("test").contains(microphoneTest))
             return UsageError{QStringLiteral("'--%1' goes with '--test m' only").arg(QLatin1String(option))};

@@ -23,6 +23,9 @@ struct PlannedRun {
 /// Each test on each device in each language that the line asks for; the languages of one test and device follow each other.
 QList<PlannedRun> planRuns(const CommandLine &line, const QStringList &devices);
 
+/// Without the folder or its file the language would be another than the one that was asked for.
+std::optional<UsageError> checkConfig(const CommandLine &line);
+
 /// What `run` refuses before it looks at a device.
 std::optional<UsageError> checkRun(const CommandLine &line);
 

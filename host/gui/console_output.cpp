@@ -5,6 +5,7 @@
 #include "host/core/run_warning.h"
 #include "host/core/verdict.h"
 #include "host/gui/key_text.h"
+#include "host/precheck/run_names.h"
 #include "host/reports/run_report.h"
 #include "host/reports/text_report.h"
 
@@ -36,15 +37,6 @@ bool steersATerminal(QChar unit)
     default:
         return false;
     }
-}
-
-// A name is any text that a driver chose: it must neither break the line nor steer the terminal.
-QString readable(const QString &name)
-{
-    QString text;
-    for (const QChar unit : name)
-        text += steersATerminal(unit) ? QStringLiteral("\\u{%1}").arg(unit.unicode(), 4, 16, QLatin1Char('0')) : QString(unit);
-    return text;
 }
 
 QString verdictWords(Verdict verdict)
@@ -98,6 +90,14 @@ QString channelWords(const ChannelCheck &check)
 
 } // namespace
 
+QString readable(const QString &name)
+{
+    QString text;
+    for (const QChar unit : name)
+        text += steersATerminal(unit) ? QStringLiteral("\\u{%1}").arg(unit.unicode(), 4, 16, QLatin1Char('0')) : QString(unit);
+    return text;
+}
+
 void print(const QString &text) { write(stdout, text); }
 
 void complain(const QString &message) { write(stderr, QStringLiteral("TamrexDiagnostics: %1\n").arg(message)); }
@@ -131,10 +131,8 @@ QString unknownDevice(const QString &name, const QList<Device> &devices)
 {
     QStringList names;
     for (const Device &device : devices)
-        names.append(QStringLiteral("'%1'").arg(readable(device.name)));
-    const QString known =
-        names.isEmpty() ? QStringLiteral("there is none") : QStringLiteral("known: ") + names.join(QStringLiteral(", "));
-    return QStringLiteral("unknown device '%1' (%2)").arg(readable(name), known);
+        names.append(device.name);
+    return readable(unknownName(QStringLiteral("device"), name, names));
 }
 
 } // namespace host

@@ -16,6 +16,9 @@ void complain(const QString &message);
 /// in the language in force, each followed by its key for scripts.
 QString runSummary(const RunRecord &record);
 
+/// A name as a terminal may have it: a driver chose it, and it must neither break the line nor steer the terminal.
+QString readable(const QString &name);
+
 /// Complaint about a device that is not there, with the names of those that are.
 QString unknownDevice(const QString &name, const QList<Device> &devices);
 

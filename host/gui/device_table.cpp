@@ -37,7 +37,7 @@ DeviceTable::DeviceTable(QWidget *parent) : QTableWidget(0, 2 + static_cast<int>
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     horizontalHeader()->setHighlightSections(false);
-    constexpr int readableCharacters = 12; // of a name, where the other columns take the room
+    constexpr int readableCharacters = 14; // of a name, where the other columns take the room
     horizontalHeader()->setMinimumSectionSize(fontMetrics().averageCharWidth() * readableCharacters);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);

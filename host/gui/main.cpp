@@ -2,6 +2,7 @@
 #include "host/core/debug_lines.h"
 #include "host/core/sound_environment.h"
 #include "host/gui/console_output.h"
+#include "host/gui/display_guard.h"
 #include "host/gui/process_end.h"
 #include "host/gui/program.h"
 #include "host/gui/window_check.h"
@@ -34,7 +35,9 @@ QString printedText(const host::Options &options)
 
 int runWindows(int argc, char *argv[], const host::Options &options)
 {
+    host::guardDisplay(options.verdictFile);
     const QApplication application(argc, argv);
+    host::releaseDisplay();
     if (options.isSelfCheck) {
         host::print(QString::fromUtf8(host::windowCheckLine(host::checkWindows())));
         return 0;

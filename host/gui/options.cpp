@@ -20,7 +20,7 @@ constexpr std::array<OptionOfHost, 23> knownOptions{{
     {"unattended", nullptr, "run one test without a person and exit with its code", false},
     {"test", "p|m", "p: audio playback test, m: microphone interactive test", true},
     {"device", "NAME", "the device to test: its name, or its position in the list", true},
-    {"listen", "SOURCE", "the input that hears the device, or loopback:DEVICE; test m shows its level", false},
+    {"listen", "SOURCE", "what hears the device: an input, or loopback:DEVICE; test m shows its level", false},
     {"microphone", "NAME", "the microphone that test m chooses (the first one)", true},
     {"speak-through", "OUTPUT", "the output that the microphone hears (the tested device)", true},
     {"report", "FILE", "write the report of the run there: .json, .xml, .html or .txt; may be repeated", true},
@@ -137,6 +137,8 @@ std::optional<OptionsError> checkLanguage(const QCommandLineParser &parser, cons
         return error(QStringLiteral("'--language' and '--config' exclude each other"));
     if (isConfigSet && !QFileInfo(options.configFolder).isDir())
         return error(QStringLiteral("'%1' is no folder (--config)").arg(parser.value(QStringLiteral("config"))));
+    if (isConfigSet && !QFileInfo(QDir(options.configFolder).filePath(QStringLiteral("config.ini"))).isFile())
+        return error(QStringLiteral("there is no config.ini in '%1' (--config)").arg(parser.value(QStringLiteral("config"))));
     const QStringList codes = LanguageSetting::codes();
     if (isLanguageSet && !codes.contains(options.language))
         return error(

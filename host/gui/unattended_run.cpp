@@ -14,6 +14,7 @@
 #include "host/precheck/clip_check.h"
 #include "host/precheck/listening_sources.h"
 #include "host/precheck/precheck.h"
+#include "host/precheck/run_names.h"
 #include "host/reports/run_report.h"
 #include "host/reports/writable_folder.h"
 
@@ -40,23 +41,33 @@ UnattendedRun::UnattendedRun(TestSession &session, const Options &options, QStri
     : session_(session), options_(options), language_(std::move(language))
 {}
 
+QStringList UnattendedRun::deviceNames() const
+{
+    QStringList names;
+    for (const Device &device : session_.deviceList().devices())
+        names.append(device.name);
+    return names;
+}
+
 QString UnattendedRun::deviceName() const { return session_.deviceList().devices()[device_].name; }
 
 bool UnattendedRun::prepare(QString &problem)
 {
     problem.clear();
+    refusal_.clear();
     test_ = session_.findTest(options_.test);
     device_ = session_.deviceList().find(options_.device);
     if (!clearVerdict())
         problem = QStringLiteral("the verdict cannot be written into '%1'").arg(options_.verdictFile);
     else if (test_ < 0)
         problem = QStringLiteral("the module has no test '%1'").arg(options_.test);
+    else if (session_.deviceList().devices().isEmpty())
+        refusal_ = reasonWords("REASON_NO_OUTPUT_DEVICE");
     else if (device_ < 0)
         problem = unknownDevice(options_.device, session_.deviceList().devices());
-    else if (hearsAnotherOutput(readListeningSources(), options_.source, deviceName()))
-        problem = QStringLiteral("'%1' hears another device than '%2', which would be blamed for its silence: of the monitors "
-                                 "only that device's own may be listened to")
-                      .arg(options_.source, deviceName());
+    else if (problem = readable(wrongName({options_.source, options_.microphone, options_.speakThrough}, deviceNames()));
+             problem.isEmpty() && hearsAnotherOutput(readListeningSources(), options_.source, deviceName()))
+        refusal_ = reasonWords("REASON_HEARS_ANOTHER", {options_.source, deviceName()});
     for (const QString &file : options_.reportFiles) {
         if (problem.isEmpty() && !canWriteBeside(file))
             problem = QStringLiteral("the report '%1' cannot be written: its folder is missing or closed").arg(file);
@@ -78,6 +89,8 @@ int UnattendedRun::run()
 
 std::optional<RunRecord> UnattendedRun::perform()
 {
+    if (!refusal_.isEmpty())
+        return unheard(refusal_);
     if (const QString reason = whyNotBeforehand(); !reason.isEmpty())
         return unheard(reason);
     if (auto early = prepareEars())
@@ -205,6 +218,11 @@ RunRecord UnattendedRun::notTaken() const
     record.endedUtc = record.startedUtc;
     record.wasModuleCalled = false;
     record.reason = reasonWords("REASON_RUN_NOT_TAKEN");
+    if (device_ < 0) {
+        record.device.name = options_.device;
+        record.code = ostra::result::cannotBePerformed;
+        record.reason = refusal_;
+    }
     describe(record);
     return record;
 }

@@ -19,7 +19,8 @@ class UnattendedRun {
 public:
     UnattendedRun(TestSession &session, const Options &options, QString language);
 
-    /// False with a line for the user when the session has no such test or device. After the first refresh.
+    /// False with a line for the user when the session has no such test or device, or the machine no such source. What is there
+    /// and may not be used makes a run that is refused. After the first refresh.
     bool prepare(QString &problem);
     qsizetype test() const noexcept { return test_; }
     qsizetype device() const noexcept { return device_; }
@@ -35,6 +36,7 @@ public:
 
 private:
     QString deviceName() const; ///< once it is known
+    QStringList deviceNames() const;
     bool isMicrophoneTest() const;
     bool isRecording() const;
     QString whyNotBeforehand() const;
@@ -57,6 +59,7 @@ private:
     std::function<void(const MeteredMoment &)> meter_;
     qsizetype test_ = -1;
     qsizetype device_ = -1;
+    QString refusal_; ///< why the run cannot be performed, known beforehand
 };
 
 } // namespace host

@@ -15,7 +15,11 @@ bool canWriteInto(const QString &folder)
     return file.open();
 }
 
-bool canMakeAndWriteInto(const QString &folder) { return QDir().mkpath(folder) && canWriteInto(folder); }
+// Only the last part of the path: where more of it is missing it has a mistake.
+bool canMakeAndWriteInto(const QString &folder)
+{
+    return (QFileInfo(folder).isDir() || QDir().mkdir(folder)) && canWriteInto(folder);
+}
 
 bool canWriteBeside(const QString &file) { return canWriteInto(QFileInfo(file).absolutePath()); }
 

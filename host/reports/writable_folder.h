@@ -9,7 +9,7 @@ namespace host {
 /// rights is no answer: a read-only file system and Windows' lists of rights know better.
 bool canWriteInto(const QString &folder);
 
-/// The same, of a folder that may still have to be made, which it is then.
+/// The same, of a folder that may still have to be made, which it is then. The one above it must be there.
 bool canMakeAndWriteInto(const QString &folder);
 
 /// Of the folder that the named file belongs into.

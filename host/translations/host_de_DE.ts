@@ -124,6 +124,18 @@
         <translation>Das Gerät „%1“ ist nicht mehr da.</translation>
     </message>
     <message>
+        <source>REASON_NO_OUTPUT_DEVICE</source>
+        <translation>Es wurde kein Ausgabegerät gefunden.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_DISPLAY</source>
+        <translation>Das grafische Programm braucht eine Anzeige (Display); versuchen Sie xvfb-run.</translation>
+    </message>
+    <message>
+        <source>REASON_HEARS_ANOTHER</source>
+        <translation>„%1“ hört ein anderes Gerät als „%2“, dem dessen Stille angelastet würde.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>„%1“ ist ein virtuelles Gerät: Ein Ergebnis darauf sagt nichts über diesen Computer aus.</translation>
     </message>

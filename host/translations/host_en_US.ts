@@ -124,6 +124,18 @@
         <translation>The device “%1” is no longer there.</translation>
     </message>
     <message>
+        <source>REASON_NO_OUTPUT_DEVICE</source>
+        <translation>No output device was found.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_DISPLAY</source>
+        <translation>The graphical program needs a display; try xvfb-run.</translation>
+    </message>
+    <message>
+        <source>REASON_HEARS_ANOTHER</source>
+        <translation>“%1” hears another device than “%2”, which would be blamed for its silence.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>“%1” is a virtual device: a result on it says nothing about this computer.</translation>
     </message>

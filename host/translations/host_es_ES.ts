@@ -124,6 +124,18 @@
         <translation>El dispositivo «%1» ya no está.</translation>
     </message>
     <message>
+        <source>REASON_NO_OUTPUT_DEVICE</source>
+        <translation>No se encontró ningún dispositivo de salida.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_DISPLAY</source>
+        <translation>El programa gráfico necesita una pantalla; pruebe xvfb-run.</translation>
+    </message>
+    <message>
+        <source>REASON_HEARS_ANOTHER</source>
+        <translation>«%1» escucha un dispositivo distinto de «%2», al que se culparía de su silencio.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>«%1» es un dispositivo virtual: un resultado en él no dice nada sobre este equipo.</translation>
     </message>

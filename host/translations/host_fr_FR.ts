@@ -124,6 +124,18 @@
         <translation>Le périphérique « %1 » n’est plus là.</translation>
     </message>
     <message>
+        <source>REASON_NO_OUTPUT_DEVICE</source>
+        <translation>Aucun périphérique de sortie n’a été trouvé.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_DISPLAY</source>
+        <translation>Le programme graphique a besoin d’un affichage ; essayez xvfb-run.</translation>
+    </message>
+    <message>
+        <source>REASON_HEARS_ANOTHER</source>
+        <translation>« %1 » écoute un autre périphérique que « %2 », auquel on imputerait ce silence.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>« %1 » est un périphérique virtuel : un résultat sur celui-ci ne dit rien de cet ordinateur.</translation>
     </message>

@@ -124,6 +124,18 @@
         <translation>Il dispositivo «%1» non c’è più.</translation>
     </message>
     <message>
+        <source>REASON_NO_OUTPUT_DEVICE</source>
+        <translation>Non è stato trovato alcun dispositivo di uscita.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_DISPLAY</source>
+        <translation>Il programma grafico ha bisogno di uno schermo; provare xvfb-run.</translation>
+    </message>
+    <message>
+        <source>REASON_HEARS_ANOTHER</source>
+        <translation>«%1» ascolta un dispositivo diverso da «%2», a cui verrebbe attribuito il silenzio.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>«%1» è un dispositivo virtuale: un risultato su di esso non dice nulla su questo computer.</translation>
     </message>

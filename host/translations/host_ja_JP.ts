@@ -124,6 +124,18 @@
         <translation>デバイス「%1」はもうありません。</translation>
     </message>
     <message>
+        <source>REASON_NO_OUTPUT_DEVICE</source>
+        <translation>出力デバイスが見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>REASON_NO_DISPLAY</source>
+        <translation>グラフィカルプログラムには画面が必要です。xvfb-run をお試しください。</translation>
+    </message>
+    <message>
+        <source>REASON_HEARS_ANOTHER</source>
+        <translation>「%1」が拾うのは「%2」とは別のデバイスの音であり、その無音が後者のせいにされます。</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>「%1」は仮想デバイスです。このデバイスでの結果からは、このコンピューターについて何も分かりません。</translation>
     </message>

@@ -124,6 +124,18 @@
         <translation>Het apparaat ‘%1’ is er niet meer.</translation>
     </message>
     <message>
+        <source>REASON_NO_OUTPUT_DEVICE</source>
+        <translation>Er is geen uitvoerapparaat gevonden.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_DISPLAY</source>
+        <translation>Het grafische programma heeft een beeldscherm nodig; probeer xvfb-run.</translation>
+    </message>
+    <message>
+        <source>REASON_HEARS_ANOTHER</source>
+        <translation>‘%1’ hoort een ander apparaat dan ‘%2’, dat de schuld van de stilte zou krijgen.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>‘%1’ is een virtueel apparaat: een resultaat daarop zegt niets over deze computer.</translation>
     </message>

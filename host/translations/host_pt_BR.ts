@@ -124,6 +124,18 @@
         <translation>O dispositivo “%1” não está mais presente.</translation>
     </message>
     <message>
+        <source>REASON_NO_OUTPUT_DEVICE</source>
+        <translation>Nenhum dispositivo de saída foi encontrado.</translation>
+    </message>
+    <message>
+        <source>REASON_NO_DISPLAY</source>
+        <translation>O programa gráfico precisa de uma tela; tente xvfb-run.</translation>
+    </message>
+    <message>
+        <source>REASON_HEARS_ANOTHER</source>
+        <translation>“%1” ouve um dispositivo diferente de “%2”, que seria culpado pelo silêncio.</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>“%1” é um dispositivo virtual: um resultado nele não diz nada sobre este computador.</translation>
     </message>

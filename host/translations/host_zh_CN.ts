@@ -124,6 +124,18 @@
         <translation>设备“%1”已不存在。</translation>
     </message>
     <message>
+        <source>REASON_NO_OUTPUT_DEVICE</source>
+        <translation>未找到输出设备。</translation>
+    </message>
+    <message>
+        <source>REASON_NO_DISPLAY</source>
+        <translation>图形程序需要显示器；请尝试 xvfb-run。</translation>
+    </message>
+    <message>
+        <source>REASON_HEARS_ANOTHER</source>
+        <translation>“%1”听到的是“%2”以外的设备，其无声会被误归咎于该设备。</translation>
+    </message>
+    <message>
         <source>REASON_VIRTUAL_DEVICE</source>
         <translation>“%1”是虚拟设备：其测试结果不能说明本计算机的状况。</translation>
     </message>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Stands in for the graphical host. The environment tells how it ends, HOST_END_<device> or else HOST_END, as words: "write=N"
-// writes that verdict, "report=TEXT" that into its reports, "call=FILE" runs that program, "exit=N" ends with that
-// code, "abort" breaks down, and "hang" takes no request to end.
+// writes that verdict ("_" for a blank), "report=TEXT" that into its reports, "call=FILE" runs that program, "exit=N" ends with
+// that code, "abort" breaks down, and "hang" takes no request to end.
 
 #include <QCoreApplication>
 #include <QFile>
@@ -40,7 +40,7 @@ void act(const QString &word)
 {
     const QString value = word.section(u'=', 1);
     if (word.startsWith(QStringLiteral("write=")))
-        write(valuesOf(QStringLiteral("--verdict-file=")).value(0), value.toUtf8() + '\n');
+        write(valuesOf(QStringLiteral("--verdict-file=")).value(0), QString(value).replace(u'_', u' ').toUtf8() + '\n');
     for (const QString &file : valuesOf(QStringLiteral("--report="))) {
         if (word.startsWith(QStringLiteral("report=")))
             write(file, value.toUtf8());

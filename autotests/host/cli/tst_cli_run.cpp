@@ -45,6 +45,7 @@ private slots:
     void reportsARunThatBrokeDown();
     void leavesAReportOfTheHostAlone();
     void reportsThatTheHostCannotBeStarted();
+    void reportsThatThereIsNoDisplay();
     void goesOnAfterWrongUsage();
     void answersWithTheSignalDuringRefusals();
     void goesOnWithoutADeviceThatIsGone(); // the last: it does not come back
@@ -132,6 +133,15 @@ void TestCliRun::reportsThatTheHostCannotBeStarted()
     QCOMPARE(cli.code, 6);
     QCOMPARE(codeIn(report()), 6);
     QCOMPARE(reasonIn(report()), QStringLiteral("REASON_HOST_NOT_STARTED"));
+}
+
+void TestCliRun::reportsThatThereIsNoDisplay()
+{
+    const CliRun cli = run("write=no_display exit=3", {QStringLiteral("--report=") + report()});
+    QCOMPARE(cli.code, 3);
+    QCOMPARE(cli.errors, QByteArray()); // the graphical host says it
+    QCOMPARE(codeIn(report()), 3);
+    QCOMPARE(reasonIn(report()), QStringLiteral("REASON_NO_DISPLAY"));
 }
 
 void TestCliRun::goesOnWithoutADeviceThatIsGone()

@@ -110,7 +110,7 @@ void TestCommandLine::refuses_data()
     add("--x", "unknown option '--x'");
     add("-x", "unknown option '-x'");
     add("--x=1", "unknown option '--x'");
-    add("list --verbose", "unknown option '--verbose'", "list ");
+    add("list --colour", "unknown option '--colour'", "list ");
     add("list -hx", "unknown option '-x'", "list ");
     add("--json", "no command is given");
     add("play", "unknown command 'play'");

@@ -49,6 +49,8 @@ void TestHostProcess::believesWhatWasWrittenDown_data()
     add("wrong usage", "exit=2", 2);
     add("no module", "exit=6", 6, "REASON_NO_MODULE");
     add("stopped by another", "write=4 exit=143", 4);
+    add("no display", "write=no_display exit=3", 3, "REASON_NO_DISPLAY");
+    add("no display, another code", "write=no_display exit=1", 4, "REASON_HOST_BROKE_DOWN");
     for (const char *end : {"exit=0", "exit=1", "exit=3", "exit=4", "exit=77", "exit=127", "exit=130", "exit=143", "abort",
                             "write=0 exit=1", "write=1 exit=0", "write=1 abort", "write= exit=0", "write=none exit=1"})
         add(end, end, 4, "REASON_HOST_BROKE_DOWN");

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QObject>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -37,6 +38,8 @@ private slots:
     void keepsSoundOnlyWhenAsked();
     void refusesLines_data();
     void refusesLines();
+    void makesTheFoldersThatItWritesInto_data();
+    void makesTheFoldersThatItWritesInto();
 };
 
 void TestRunPlan::runsEachTestOnEachDevice()
@@ -150,7 +153,9 @@ void TestRunPlan::refusesLines_data()
     add("--device 0 --microphone Mic", "'--microphone' goes with '--test m' only");
     add("--device 0 --test p --speak-through Out", "'--speak-through' goes with '--test m' only");
     add("--device 0 --keep-audio h.mp3", "the sound 'h.mp3' cannot be kept: its name must end in .wav");
-    add("--device 0 --reports no/such", "'no/such' is no folder (--reports)");
+    add("--device 0 --reports no/such", "nothing can be written into 'no/such' (--reports)");
+    add("--device 0 --screenshots no/such", "nothing can be written into 'no/such' (--screenshots)");
+    add("--device 0 --config no/such", "'no/such' is not a folder that can be used (--config)");
     add("--device 0 --report no/such/r.json", "the report 'no/such/r.json' cannot be written: its folder is missing or closed");
     add("--device 0 --keep-audio no/such/h.wav", "the sound 'no/such/h.wav' cannot be kept: its folder is missing or closed");
     const QString inAFile = QCoreApplication::applicationFilePath() + QStringLiteral("/pictures");
@@ -167,6 +172,26 @@ void TestRunPlan::refusesLines()
     const auto wrong = host::checkRun(lineOf(options));
     QVERIFY(wrong);
     QTEST(wrong->message, "complaint");
+}
+
+void TestRunPlan::makesTheFoldersThatItWritesInto_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("reports") << QStringLiteral("--reports");
+    QTest::newRow("pictures") << QStringLiteral("--screenshots");
+}
+
+// The last part of the path only, which an example of the help names without making it.
+void TestRunPlan::makesTheFoldersThatItWritesInto()
+{
+    QFETCH(const QString, option);
+    const QTemporaryDir folder;
+    const QString made = folder.filePath(QStringLiteral("results"));
+    const QString deeper = folder.filePath(QStringLiteral("more/results"));
+    QVERIFY(!host::checkRun(lineOf(QStringLiteral("--device 0 %1 %2/").arg(option, made))));
+    QVERIFY(QDir(made).exists() && QDir(made).isEmpty());
+    QVERIFY(host::checkRun(lineOf(QStringLiteral("--device 0 %1 %2").arg(option, deeper))));
+    QVERIFY(!QDir(folder.filePath(QStringLiteral("more"))).exists());
 }
 
 QTEST_GUILESS_MAIN(TestRunPlan)

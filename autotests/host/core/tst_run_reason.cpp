@@ -95,8 +95,9 @@ void TestRunReason::takesTheArgumentsOutOfTheWords()
     const QStringList device{QStringLiteral("50 %1\nSpeakers")};
     QCOMPARE(host::reasonOf(host::reasonWords("REASON_VIRTUAL_DEVICE", device)).arguments, device);
     QCOMPARE(host::reasonOf(QStringLiteral("anything")).arguments, QStringList{QStringLiteral("anything")});
-    for (const char *key : {"REASON_RUN_NOT_TAKEN", "REASON_HOST_BROKE_DOWN", "REASON_HOST_HUNG", "REASON_HOST_NOT_STARTED",
-                            "REASON_NO_MODULE", "REASON_DEVICE_GONE"})
+    for (const char *key :
+         {"REASON_RUN_NOT_TAKEN", "REASON_HOST_BROKE_DOWN", "REASON_HOST_HUNG", "REASON_HOST_NOT_STARTED", "REASON_NO_MODULE",
+          "REASON_DEVICE_GONE", "REASON_NO_OUTPUT_DEVICE", "REASON_NO_DISPLAY", "REASON_HEARS_ANOTHER"})
         QCOMPARE(host::reasonOf(host::reasonWords(key, device)).key, QLatin1String(key));
 }
 

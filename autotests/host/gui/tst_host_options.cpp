@@ -104,8 +104,11 @@ void TestHostOptions::readsSeveralEvents()
 
 void TestHostOptions::makesPathsAbsolute()
 {
+    QVERIFY(QDir().mkpath(QStringLiteral("settings")));
+    QFile settings(QStringLiteral("settings/config.ini"));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
     const auto result = read(QStringLiteral("--unattended --test m --device 0 --listen x --report r.json --report r.HTML "
-                                            "--screenshots pictures --keep-audio h.wav --config . --verdict-file v"));
+                                            "--screenshots pictures --keep-audio h.wav --config settings --verdict-file v"));
     const auto *options = std::get_if<host::Options>(&result);
     QVERIFY(options != nullptr);
     const QDir current = QDir::current();
@@ -114,7 +117,7 @@ void TestHostOptions::makesPathsAbsolute()
     QCOMPARE(options->screenshotsFolder, QDir::current().absoluteFilePath(QStringLiteral("pictures")));
     QCOMPARE(options->keptAudio, current.absoluteFilePath(QStringLiteral("h.wav")));
     QCOMPARE(options->verdictFile, current.absoluteFilePath(QStringLiteral("v")));
-    QVERIFY(QDir::isAbsolutePath(options->configFolder));
+    QCOMPARE(options->configFolder, current.absoluteFilePath(QStringLiteral("settings")));
 }
 
 void TestHostOptions::answersHelpBeforeAnythingElse()
@@ -158,6 +161,7 @@ void TestHostOptions::refusesWhatItCannotDo_data()
     row("unknown language and version", "--language xx --version", "unknown language 'xx'");
     row("language and config", "--language de_DE --config .", "exclude each other");
     row("no such folder", "--config no/such/folder", "'no/such/folder' is no folder");
+    row("folder without settings", "--config /", "there is no config.ini in '/'");
     row("event without moment", "--simulate-event 3", "'3' is no event");
     row("event bit too high", "--simulate-event 32@1", "'32@1' is no event");
     row("event of words", "--simulate-event a@b", "'a@b' is no event");
