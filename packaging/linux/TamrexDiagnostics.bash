@@ -18,6 +18,6 @@ _TamrexDiagnostics() {
         --simulate-event) COMPREPLY=(); return ;;
         --stop-after) COMPREPLY=(); return ;;
     esac
-    mapfile -t COMPREPLY < <(compgen -W '--unattended --test --device --listen --microphone --speak-through --report --verdict-file --keep-audio --channel-check --screenshots --mistype --language --config --developer --simulate-event --stop-after --self-check --print-manual --print-completion --help --version' -- "$current")
+    mapfile -t COMPREPLY < <(compgen -W '--unattended --test --device --listen --microphone --speak-through --report --verdict-file --keep-audio --channel-check --screenshots --mistype --language --config --developer --simulate-event --stop-after --verbose --self-check --print-manual --print-completion --help --version' -- "$current")
 }
 complete -o filenames -F _TamrexDiagnostics TamrexDiagnostics
