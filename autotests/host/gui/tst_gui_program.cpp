@@ -228,7 +228,7 @@ void TestGuiProgram::tellsWhatAnInterruptedRunLeft()
     const QString file = state_->filePath(QStringLiteral("r.json"));
     const Outcome outcome =
         run({QStringLiteral("--unattended"), QStringLiteral("--test=p"), QStringLiteral("--device=Speakers"),
-             QStringLiteral("--listen=nobody"), QStringLiteral("--language=en_US"), QStringLiteral("--report=") + file});
+             QStringLiteral("--listen=Monitor of Headphones"), QStringLiteral("--language=en_US"), QStringLiteral("--report=") + file});
     QCOMPARE(outcome.code, 3);
     const pulse_truth::Devices devices = pulse_truth::devices();
     QCOMPARE(devices.at("sink1"), (pulse_truth::Device{{24576, 24576}, false}));
