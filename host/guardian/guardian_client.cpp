@@ -4,6 +4,7 @@
 #include "host/guardian/endpoint_words.h"
 #include "host/guardian/guardian_process.h"
 #include "host/guardian/guardian_session.h"
+#include "host/guardian/volume_lock.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -16,8 +17,10 @@ namespace {
 
 using Kind = GuardianMessage::Kind;
 
-// The guardian needs some ten milliseconds; at most a wait for another one's end, and four passes over the endpoints.
-constexpr std::chrono::milliseconds startBound{12'000};
+// The guardian needs some ten milliseconds; at most a wait for another one's end, and seven passes over the endpoints: three
+// that put back what an earlier run has left, with their names, and the one that is noted.
+constexpr std::chrono::milliseconds startBound{18'000};
+static_assert(startBound > VolumeLock::usualWait + 7 * ostra::audio::passBound);
 // Longer than the guardian's own bound, so that it is never killed at its work.
 constexpr std::chrono::milliseconds finishBound{20'000};
 static_assert(finishBound > guardianPatience.bound + 4 * ostra::audio::passBound);

@@ -2,6 +2,7 @@
 #include "host/precheck/listening_sources.h"
 
 #include "audio/endpoints/endpoint_volume.h"
+#include "host/core/capture_source.h"
 
 #include <algorithm>
 
@@ -9,14 +10,12 @@ namespace host {
 
 namespace {
 
-const QString monitorPrefix = QStringLiteral("Monitor of ");
 const QString monitorSuffix = QStringLiteral(".monitor");
-const QString loopbackPrefix = QStringLiteral("loopback:");
 
 // What sound servers call a monitor tells whose it is.
 std::optional<QString> outputInName(const QString &source)
 {
-    for (const QString &prefix : {monitorPrefix, loopbackPrefix}) {
+    for (const QLatin1StringView prefix : {monitorPrefix, loopbackPrefix}) {
         if (source.startsWith(prefix))
             return source.mid(prefix.size());
     }

@@ -2,6 +2,7 @@
 #include "host/precheck/listening_sources.h"
 
 #include "audio/endpoints/endpoint_volume.h"
+#include "host/core/capture_source.h"
 #include "host/precheck/endpoint_kinds_windows.h"
 
 #include <algorithm>
@@ -11,8 +12,6 @@ namespace host {
 namespace {
 
 using ostra::audio::EndpointVolume;
-
-const QString monitorPrefix = QStringLiteral("Monitor of ");
 
 ListeningSource sourceOf(const EndpointKind &endpoint, const ostra::audio::EndpointVolumes &volumes)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/precheck/run_names.h"
 
+#include "host/core/capture_source.h"
 #include "host/precheck/capture_devices.h"
 #include "host/precheck/listening_sources.h"
 
@@ -11,8 +12,6 @@
 namespace host {
 
 namespace {
-
-const QString loopbackPrefix = QStringLiteral("loopback:");
 
 // The other drivers of the sound library have names of their own.
 bool isDriverOfTheSystem()

@@ -50,7 +50,7 @@ void InputDialog::end(int result, Tell tell)
         if (self)
             emit finished(result);
     });
-    if (self && loop_ != nullptr)
+    if (self && loop_)
         loop_->quit();
 }
 
@@ -96,10 +96,8 @@ int InputDialog::runLoop()
     timer.start(utils::paced(watcherInterval));
     if (!hasFinished_)
         loop.exec();
-    if (self) {
+    if (self)
         outcome = result();
-        loop_ = nullptr;
-    }
     qDebug().nospace() << "After the event loop: " << outcome;
     return outcome;
 }

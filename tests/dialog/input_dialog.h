@@ -3,9 +3,9 @@
 
 #include "utils/accessible_dialog_base.h"
 
+#include <QEventLoop>
+#include <QPointer>
 #include <QString>
-
-class QEventLoop;
 
 namespace ostra {
 
@@ -55,7 +55,7 @@ private:
 
     QString title_;
     TestContext *watcher_ = nullptr;
-    QEventLoop *loop_ = nullptr; ///< while it runs
+    QPointer<QEventLoop> loop_; ///< while it runs
     bool hasFinished_ = false;
     bool hasWatcherFailed_ = false;
 };

@@ -51,6 +51,7 @@ private slots:
     void refusesFoldersThatTakeNoFile();
     void reportsWhatItCannotPerform();
     void tellsWhatAnInterruptedRunLeft();
+    void forgetsAnEarlierVerdict();
     void tellsWhatItsWindowsLack();
     void writesItsLanguage();
     void leavesAForeignConfigurationAlone();
@@ -218,6 +219,24 @@ void TestGuiProgram::reportsWhatItCannotPerform()
         QVERIFY2(text.contains(part), text.constData());
 }
 
+// A start that breaks down before its run must not leave the verdict of another one.
+void TestGuiProgram::forgetsAnEarlierVerdict()
+{
+    const QTemporaryDir folder; // without a module
+    const QString program = folder.filePath(QStringLiteral("TamrexDiagnostics"));
+    QVERIFY(QFile::copy(programPath(), program));
+    QFile verdict(folder.filePath(QStringLiteral("verdict")));
+    QVERIFY(verdict.open(QIODevice::WriteOnly) && verdict.write("0\n") == 2);
+    verdict.close();
+    QProcess process;
+    process.start(program,
+                  {QStringLiteral("--unattended"), QStringLiteral("--test=p"), QStringLiteral("--device=Speakers"),
+                   QStringLiteral("--listen=Monitor of Speakers"), QStringLiteral("--verdict-file=") + verdict.fileName()});
+    QVERIFY(process.waitForFinished(patienceMilliseconds));
+    QCOMPARE(process.exitCode(), 6);
+    QVERIFY(!verdict.exists());
+}
+
 // The killed run had raised both; somebody has lowered the second one since.
 void TestGuiProgram::tellsWhatAnInterruptedRunLeft()
 {
@@ -226,9 +245,9 @@ void TestGuiProgram::tellsWhatAnInterruptedRunLeft()
     const host::NoteFile note(QFileInfo(ownConfiguration()).path());
     QVERIFY(note.write({{{0.375F, false, u"sink1", {24576, 24576}}, {0.75F, true, u"sink2", {49152, 49152}}}, {}}));
     const QString file = state_->filePath(QStringLiteral("r.json"));
-    const Outcome outcome =
-        run({QStringLiteral("--unattended"), QStringLiteral("--test=p"), QStringLiteral("--device=Speakers"),
-             QStringLiteral("--listen=Monitor of Headphones"), QStringLiteral("--language=en_US"), QStringLiteral("--report=") + file});
+    const Outcome outcome = run({QStringLiteral("--unattended"), QStringLiteral("--test=p"),
+                                 QStringLiteral("--device=Speakers"), QStringLiteral("--listen=Monitor of Headphones"),
+                                 QStringLiteral("--language=en_US"), QStringLiteral("--report=") + file});
     QCOMPARE(outcome.code, 3);
     const pulse_truth::Devices devices = pulse_truth::devices();
     QCOMPARE(devices.at("sink1"), (pulse_truth::Device{{24576, 24576}, false}));
