@@ -29,15 +29,17 @@ void checkVolume(const EndpointVolume &volume)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t byteCount)
 {
     QString complaint;
-    const auto volumes = fromNote(fuzz::bytes(data, byteCount), complaint);
-    require(volumes.has_value() == complaint.isEmpty(), "a note is taken, or refused with the reason");
-    if (!volumes)
+    const auto note = fromNote(fuzz::bytes(data, byteCount), complaint);
+    require(note.has_value() == complaint.isEmpty(), "a note is taken, or refused with the reason");
+    if (!note)
         return 0;
-    require(volumes->size() <= 512, "a note has no more endpoints than a machine");
-    for (const EndpointVolume &volume : *volumes)
+    const EndpointVolumes &volumes = note->volumes;
+    require(volumes.size() <= 512, "a note has no more endpoints than a machine");
+    for (const EndpointVolume &volume : volumes)
         checkVolume(volume);
-    const auto again = fromNote(toNote(*volumes), complaint);
-    require(again && std::equal(again->begin(), again->end(), volumes->begin(), volumes->end(), isSame),
+    const auto again = fromNote(toNote(*note), complaint);
+    require(again && again->server == note->server &&
+                std::equal(again->volumes.begin(), again->volumes.end(), volumes.begin(), volumes.end(), isSame),
             "what was read can be noted and read again");
     return 0;
 }
