@@ -12,6 +12,7 @@
 #include "host/core/module_library.h"
 #include "host/core/run_reason.h"
 #include "host/precheck/run_names.h"
+#include "host/precheck/sound_state.h"
 #include "host/precheck/virtual_devices.h"
 #include "host/reports/run_report.h"
 
@@ -60,7 +61,7 @@ void noteLacking(const CommandLine &line, Subjects &subjects, Console &console)
 {
     for (const QString &device : line.all("device"))
         subjects.devices.append(Device{device, {}, {}});
-    subjects.lacking = reasonWords("REASON_NO_OUTPUT_DEVICE");
+    subjects.lacking = reasonWords(noOutputReason());
     console.complain(subjects.lacking);
 }
 

@@ -21,7 +21,7 @@ struct KnownReason {
 
 // In the words that the operator, the check of the channels and the programs of both say them with. The first that fits is
 // meant.
-constexpr std::array<KnownReason, 58> knownReasons{{
+constexpr std::array<KnownReason, 59> knownReasons{{
     {"REASON_STOPPED", "the run was stopped"},
     {"REASON_TOOK_TOO_LONG", "the run took longer than five minutes"},
     {"REASON_VIRTUAL_DEVICE", "'%1' is a virtual device: a verdict on it says nothing about this machine"},
@@ -76,6 +76,7 @@ constexpr std::array<KnownReason, 58> knownReasons{{
     {"REASON_HOST_NOT_STARTED", "the graphical host cannot be started: %1"},
     {"REASON_NO_MODULE", "the graphical host cannot use the audio module"},
     {"REASON_NO_OUTPUT_DEVICE", "no output device was found"},
+    {"REASON_NO_SERVER", "the sound server does not answer"},
     {"REASON_NO_DISPLAY", "the graphical host needs a display; try xvfb-run"},
     {"REASON_HEARS_ANOTHER", "'%1' hears another device than '%2', which would be blamed for its silence"},
     {"REASON_SERVER_SILENT", "audio_listener: no sound server: %1"},

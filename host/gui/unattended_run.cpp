@@ -15,6 +15,7 @@
 #include "host/precheck/listening_sources.h"
 #include "host/precheck/precheck.h"
 #include "host/precheck/run_names.h"
+#include "host/precheck/sound_state.h"
 #include "host/reports/run_report.h"
 #include "host/reports/writable_folder.h"
 
@@ -62,7 +63,7 @@ bool UnattendedRun::prepare(QString &problem)
     else if (test_ < 0)
         problem = QStringLiteral("the module has no test '%1'").arg(options_.test);
     else if (session_.deviceList().devices().isEmpty())
-        refusal_ = reasonWords("REASON_NO_OUTPUT_DEVICE");
+        refusal_ = reasonWords(noOutputReason());
     else if (device_ < 0)
         problem = unknownDevice(options_.device, session_.deviceList().devices());
     else if (problem = readable(wrongName({options_.source, options_.microphone, options_.speakThrough}, deviceNames()));

@@ -74,6 +74,8 @@ bool isSoundServerAnswering()
     return !isServerNeeded() || readEndpointNames(names) == 0;
 }
 
+const char *noOutputReason() { return isSoundServerAnswering() ? "REASON_NO_OUTPUT_DEVICE" : "REASON_NO_SERVER"; }
+
 SoundState readSoundState()
 {
     SoundState state;

@@ -37,6 +37,9 @@ SoundState readSoundState();
 /// Whether there is a sound server that answers, by the same rules.
 bool isSoundServerAnswering();
 
+/// Key of the reason why there is no output device: none was found, or nobody could be asked.
+const char *noOutputReason();
+
 /// The ids of the system's default output and input, where it has them and tells. Any thread.
 QStringList readDefaultEndpoints();
 

@@ -18,6 +18,7 @@ h1 { font-size: 1.6rem } h2 { font-size: 1.2rem; border-bottom: 1px solid #76767
 .code0 { color: #0b5a1e } .code1 { color: #9b1111 } .other { color: #6b4a00 }
 table { border-collapse: collapse; font-size: .9rem } caption { text-align: left; font-weight: bold; padding: .3rem 0 }
 th, td { border: 1px solid #8a8a8a; padding: .2rem .5rem; text-align: left; vertical-align: top; overflow-wrap: anywhere }
+th { overflow-wrap: normal }
 .digits th, .digits td { text-align: right; overflow-wrap: normal; padding: .25em } .digits { font-size: .8rem }
 .scroll { overflow-x: auto }
 figure { margin: 1rem 0; break-inside: avoid } figcaption { font-weight: bold } svg { width: 100%; max-width: 40rem; height: auto }
@@ -108,6 +109,8 @@ private:
         xml_.writeCharacters(QStringLiteral("Result %1: %2").arg(code).arg(view_.verdictName()));
         close();
         close();
+        if (code != 0 && !view_.reasonInEnglish().isEmpty())
+            element("p", view_.reasonInEnglish());
     }
 
     void writeFacts(const char *title, const char *caption, const QList<ReportFact> &facts)

@@ -40,6 +40,8 @@ public:
     /// Why there is no pass: in English, in the language of the run where that is another, and the keys; of a failure also
     /// that no person told it. Empty of a pass.
     QString reason() const;
+    /// The same in English with its keys, without who answered.
+    QString reasonInEnglish() const;
     /// A message in English, and in the language of the run where that is another; empty otherwise.
     QString messageText(const QJsonValue &message) const;
     QString translatedMessage(const QJsonValue &message) const;
@@ -56,7 +58,6 @@ public:
     QList<QStringList> digitRows() const;
 
 private:
-    QString reasonInEnglish() const;
     QString volume(const char *key, const char *when) const;
     void addWarnings(QList<ReportFact> &facts) const;
     void addMachine(QList<ReportFact> &facts) const;

@@ -264,6 +264,10 @@
         <translation>Das Gerät hat nichts abgespielt.</translation>
     </message>
     <message>
+        <source>REASON_NO_SERVER</source>
+        <translation>Der Soundserver antwortet nicht: Die Geräte können nicht aufgelistet werden.</translation>
+    </message>
+    <message>
         <source>REASON_SERVER_SILENT</source>
         <translation>Der Soundserver antwortet nicht: %1</translation>
     </message>

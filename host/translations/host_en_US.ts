@@ -264,6 +264,10 @@
         <translation>The device did not play anything.</translation>
     </message>
     <message>
+        <source>REASON_NO_SERVER</source>
+        <translation>The sound server does not answer: the devices cannot be listed.</translation>
+    </message>
+    <message>
         <source>REASON_SERVER_SILENT</source>
         <translation>The sound server does not answer: %1</translation>
     </message>

@@ -264,6 +264,10 @@
         <translation>El dispositivo no ha reproducido nada.</translation>
     </message>
     <message>
+        <source>REASON_NO_SERVER</source>
+        <translation>El servidor de sonido no responde: no se pueden mostrar los dispositivos.</translation>
+    </message>
+    <message>
         <source>REASON_SERVER_SILENT</source>
         <translation>El servidor de sonido no responde: %1</translation>
     </message>

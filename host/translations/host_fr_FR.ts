@@ -264,6 +264,10 @@
         <translation>Le périphérique n’a rien lu.</translation>
     </message>
     <message>
+        <source>REASON_NO_SERVER</source>
+        <translation>Le serveur audio ne répond pas : les périphériques ne peuvent pas être listés.</translation>
+    </message>
+    <message>
         <source>REASON_SERVER_SILENT</source>
         <translation>Le serveur audio ne répond pas : %1</translation>
     </message>

@@ -264,6 +264,10 @@
         <translation>Il dispositivo non ha riprodotto nulla.</translation>
     </message>
     <message>
+        <source>REASON_NO_SERVER</source>
+        <translation>Il server audio non risponde: i dispositivi non possono essere elencati.</translation>
+    </message>
+    <message>
         <source>REASON_SERVER_SILENT</source>
         <translation>Il server audio non risponde: %1</translation>
     </message>

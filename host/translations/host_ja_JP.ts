@@ -264,6 +264,10 @@
         <translation>デバイスから何も再生されませんでした。</translation>
     </message>
     <message>
+        <source>REASON_NO_SERVER</source>
+        <translation>サウンドサーバーが応答しないため、デバイスを一覧表示できません。</translation>
+    </message>
+    <message>
         <source>REASON_SERVER_SILENT</source>
         <translation>サウンドサーバーが応答しません: %1</translation>
     </message>

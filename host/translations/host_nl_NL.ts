@@ -264,6 +264,10 @@
         <translation>Het apparaat heeft niets afgespeeld.</translation>
     </message>
     <message>
+        <source>REASON_NO_SERVER</source>
+        <translation>De geluidsserver antwoordt niet: de apparaten kunnen niet worden weergegeven.</translation>
+    </message>
+    <message>
         <source>REASON_SERVER_SILENT</source>
         <translation>De geluidsserver antwoordt niet: %1</translation>
     </message>

@@ -264,6 +264,10 @@
         <translation>O dispositivo não reproduziu nada.</translation>
     </message>
     <message>
+        <source>REASON_NO_SERVER</source>
+        <translation>O servidor de som não responde: os dispositivos não podem ser listados.</translation>
+    </message>
+    <message>
         <source>REASON_SERVER_SILENT</source>
         <translation>O servidor de som não responde: %1</translation>
     </message>

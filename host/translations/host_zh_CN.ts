@@ -264,6 +264,10 @@
         <translation>设备没有播放任何声音。</translation>
     </message>
     <message>
+        <source>REASON_NO_SERVER</source>
+        <translation>声音服务器没有响应：无法列出设备。</translation>
+    </message>
+    <message>
         <source>REASON_SERVER_SILENT</source>
         <translation>声音服务器没有响应：%1</translation>
     </message>

@@ -167,6 +167,10 @@ void TestCliLinux::saysThatTheSoundServerDoesNotAnswer()
     QVERIFY(document.value(QLatin1String("devices")).isArray());
     QVERIFY(document.value(QLatin1String("devices")).toArray().isEmpty());
 
+    const CliRun run = runCli({QStringLiteral("run"), QStringLiteral("--device"), QStringLiteral("Speakers")}, environment);
+    QCOMPARE(run.errors, QByteArray("TamrexDiagnosticsCLI: the sound server does not answer\n"));
+    QCOMPARE(run.code, 3);
+
     const CliRun check = runCli({QStringLiteral("info"), QStringLiteral("--self-check")}, environment);
     QVERIFY2(check.output.contains("sound server                LACKING: it does not answer"), check.output.constData());
     QCOMPARE(check.code, 3);
