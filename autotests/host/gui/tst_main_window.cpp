@@ -85,8 +85,6 @@ private slots:
     void closesAfterTheRun();
     void namesEveryControl();
     void hasUniqueMnemonics();
-    void tabsInTheOrderOfSight();
-    void keepsTheKeyboardAtTheRun();
     void warnsOfAMutedDevice();
     void tellsWhyNobodyCanRunAlone();
 
@@ -445,46 +443,6 @@ void TestMainWindow::hasUniqueMnemonics()
     QCOMPARE(mnemonics.size(), 8);
     QVERIFY(!mnemonics.contains(QString()));
     QCOMPARE(mnemonics.removeDuplicates(), 0);
-}
-
-void TestMainWindow::tabsInTheOrderOfSight()
-{
-    Program program;
-    QVERIFY(QTest::qWaitForWindowExposed(&program.window));
-    program.module.playback = [](ostra::TestContext &context) {
-        context.messages()->addMessage("KEY", 2, 0);
-        return ostra::result::failed;
-    };
-    QVERIFY(program.session.run(0, 0, QStringLiteral("en_US"))); // an empty list of messages is left out
-    program.find<QTableWidget>("host_devices")->setFocus();
-    QStringList order;
-    for (int step = 0; step < 20 && !order.contains(program.window.focusWidget()->objectName()); ++step) {
-        order.append(program.window.focusWidget()->objectName());
-        QTest::keyClick(program.window.focusWidget(), Qt::Key_Tab);
-    }
-    order.removeAll(QStringLiteral("qt_tabwidget_tabbar"));
-    const QStringList expected{QStringLiteral("host_devices"),         QStringLiteral("host_refresh"),
-                               QStringLiteral("host_tests"),           QStringLiteral("host_run"),
-                               QStringLiteral("host_result_messages"), QStringLiteral("host_log")};
-    QCOMPARE(order, expected);
-}
-
-// Left to itself it would go on to whichever widget is next, or stay where nothing shows it.
-void TestMainWindow::keepsTheKeyboardAtTheRun()
-{
-    Program program;
-    QVERIFY(QTest::qWaitForWindowExposed(&program.window));
-    QString during;
-    program.module.playback = [&](ostra::TestContext &) {
-        during = program.window.focusWidget()->objectName();
-        return ostra::result::passed;
-    };
-    program.find<QPushButton>("host_run")->setFocus();
-    QVERIFY(program.session.run(0, 0, QStringLiteral("en_US")));
-    QCOMPARE(during, QStringLiteral("host_stop"));
-    QCOMPARE(program.window.focusWidget()->objectName(), QStringLiteral("host_run"));
-    QCOMPARE(program.find<QWidget>("host_result_messages")->focusPolicy(), Qt::NoFocus); // there are none
-    QCOMPARE(program.find<QWidget>("host_history")->focusPolicy(), Qt::StrongFocus);
 }
 
 void TestMainWindow::warnsOfAMutedDevice()
