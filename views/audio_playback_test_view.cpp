@@ -134,10 +134,10 @@ void AudioPlaybackTestView::startSecondSequence()
 
 void AudioPlaybackTestView::type(int digit)
 {
-    guard([this, digit] { accept(digit); });
+    guard([this, digit] { takeDigit(digit); });
 }
 
-void AudioPlaybackTestView::accept(int digit)
+void AudioPlaybackTestView::takeDigit(int digit)
 {
     // Keys that were pressed while a digit sounded arrive late, maybe after the end.
     if (hasFinished() || entered_.size() >= sequenceLength)

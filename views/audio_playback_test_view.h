@@ -98,7 +98,7 @@ private:
     void finish(int outcome);
     template <typename Body>
     void guard(Body body) noexcept;
-    void accept(int digit);
+    void takeDigit(int digit);
     void playNextClip();
     void takeBackLastDigit();
     void showPlayback();

@@ -19,6 +19,19 @@ namespace {
 // What a killed host has sent to the sound server may still be on its way there.
 constexpr std::chrono::milliseconds settlingTime{300};
 
+// Endpoints that never come back must not fill the note, which has a limit of its size.
+constexpr std::size_t absentLimit = 64;
+
+// An endpoint that was unplugged while its volume was raised comes back as loud: the system remembers that volume for it. Its
+// own waits in the note for the next start.
+void settleNote(const NoteFile &note, EndpointVolumes absent, const QString &server)
+{
+    if (absent.size() > absentLimit)
+        absent.erase(absent.begin(), absent.end() - absentLimit); // the oldest come first
+    if (absent.empty() || !note.write({std::move(absent), server}))
+        note.remove();
+}
+
 } // namespace
 
 GuardianSession::GuardianSession(const QString &stateFolder) : note_(stateFolder), lock_(stateFolder), folder_(stateFolder) {}
@@ -43,8 +56,8 @@ bool GuardianSession::begin()
     return errorText_.isEmpty();
 }
 
-// Where the former run's volumes did not come back, its note still knows them better than the endpoints do; where somebody has
-// set another one since, the endpoint does.
+// Where the former run's volumes did not come back, because the endpoint is not there or refused, its note still knows them
+// better than the endpoints do; where somebody has set another one since, the endpoint does.
 void GuardianSession::keepUnrestored(const EndpointVolumes &former)
 {
     EndpointVolumes unrestored = stillRaised(former, saved_);
@@ -57,17 +70,17 @@ void GuardianSession::keepUnrestored(const EndpointVolumes &former)
 
 bool GuardianSession::noteVolumes()
 {
-    const QString server = soundServerIdentity();
-    const std::optional<VolumeNote> former = note_.readFor(server);
-    const PutBack result = former ? putBackRaised(former->volumes) : PutBack{true, {}, {}};
+    server_ = soundServerIdentity();
+    const std::optional<VolumeNote> former = note_.readFor(server_);
+    const PutBack result = former ? putBackRaised(former->volumes) : PutBack{};
     leftovers_ = result.names;
     if (!readVolumes()) {
         errorText_ = QStringLiteral("The sound system does not tell its volumes.");
         return false;
     }
-    if (!result.isDone)
+    if (former)
         keepUnrestored(former->volumes);
-    if (note_.write({saved_, server}))
+    if (note_.write({saved_, server_}))
         return true;
     errorText_ = QStringLiteral("The volumes could not be noted in %1.").arg(QDir::toNativeSeparators(folder_));
     return false;
@@ -78,13 +91,14 @@ PutBack GuardianSession::end(Ending ending)
     PutBack result = putBack(saved_, guardianPatience);
     if (ending == Ending::hostsLoss && result.isDone) {
         std::this_thread::sleep_for(settlingTime);
-        const PutBack later = putBack(saved_, oneTry);
+        PutBack later = putBack(saved_, oneTry);
         result.names += later.names;
         result.names.removeDuplicates();
         result.isDone = later.isDone;
+        result.absent = std::move(later.absent);
     }
     if (result.isDone)
-        note_.remove();
+        settleNote(note_, result.absent, server_);
     lock_.giveBack();
     return result;
 }
@@ -93,18 +107,19 @@ PutBack putBackLeftovers(const QString &stateFolder, QString &complaint, NoteOwn
 {
     const NoteFile file(stateFolder);
     if (!file.isThere())
-        return {true, {}, {}};
+        return {true, {}, {}, {}};
     VolumeLock lock(stateFolder);
     if (!lock.take(std::chrono::milliseconds::zero())) {
         complaint = lock.errorText();
         return {};
     }
-    const std::optional<VolumeNote> note = file.readFor(soundServerIdentity());
+    const QString server = soundServerIdentity();
+    const std::optional<VolumeNote> note = file.readFor(server);
     if (!note)
-        return {true, {}, {}};
+        return {true, {}, {}, {}};
     const PutBack result = owner == NoteOwner::thisRun ? putBack(note->volumes, oneTry) : putBackRaised(note->volumes);
     if (result.isDone)
-        file.remove();
+        settleNote(file, result.absent, server);
     else
         complaint = QStringLiteral("The volumes of an earlier run could not be put back yet.");
     return result;

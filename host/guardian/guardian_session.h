@@ -29,7 +29,8 @@ public:
     /// Endpoints that a former run had left at another volume.
     const QStringList &leftovers() const noexcept { return leftovers_; }
 
-    /// Puts back whatever differs. The note is removed when that succeeded, and the lock given back in any case.
+    /// Puts back whatever differs. When that succeeded, the note keeps only the endpoints that are not there just now, or goes
+    /// where there is none. The lock is given back in any case.
     PutBack end(Ending ending);
 
 private:
@@ -40,6 +41,7 @@ private:
     NoteFile note_;
     VolumeLock lock_;
     QString folder_;
+    QString server_;
     QString errorText_;
     QStringList leftovers_;
     ostra::audio::EndpointVolumes saved_;
@@ -51,8 +53,8 @@ enum class NoteOwner {
     formerRun, ///< as `putBackRaised`
 };
 
-/// Puts back what a note holds that no guardian looks after, in one try, and removes the note if that succeeded; else
-/// `complaint` says why not. Not done, without a try, while another guardian is at work: that one does it itself. A note of
+/// Puts back what a note holds that no guardian looks after, in one try, and settles the note, as `GuardianSession::end` does, if
+/// that succeeded; else `complaint` says why not. Not done, without a try, while another guardian is at work: that one does it itself. A note of
 /// another sound server stays for that one.
 PutBack putBackLeftovers(const QString &stateFolder, QString &complaint, NoteOwner owner = NoteOwner::formerRun);
 

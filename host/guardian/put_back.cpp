@@ -24,6 +24,7 @@ using Ids = std::vector<std::u16string>;
 struct Endeavour {
     Ids found;
     Ids left;
+    EndpointVolumes absent;
 
     bool tryOnce(const EndpointVolumes &saved);
     Ids repaired() const;
@@ -39,17 +40,23 @@ Ids idsOf(const EndpointVolumes &volumes)
 
 bool isIn(const Ids &ids, const std::u16string &id) { return std::ranges::find(ids, id) != ids.end(); }
 
+const EndpointVolume *findById(const EndpointVolumes &list, const std::u16string &id)
+{
+    const auto found = std::ranges::find(list, id, &EndpointVolume::id);
+    return found == list.end() ? nullptr : &*found;
+}
+
+EndpointVolumes absentFrom(const EndpointVolumes &current, EndpointVolumes saved)
+{
+    std::erase_if(saved, [&current](const EndpointVolume &record) { return findById(current, record.id) != nullptr; });
+    return saved;
+}
+
 bool readCurrent(EndpointVolumes &current)
 {
     const bool isRead = ostra::audio::readEndpointVolumes(current) == 0;
     std::erase_if(current, [](const EndpointVolume &volume) { return volume.id.empty(); });
     return isRead;
-}
-
-const EndpointVolume *findById(const EndpointVolumes &list, const std::u16string &id)
-{
-    const auto found = std::ranges::find(list, id, &EndpointVolume::id);
-    return found == list.end() ? nullptr : &*found;
 }
 
 // The level alone hides what is louder than 100 %, which no run sets.
@@ -69,6 +76,7 @@ bool Endeavour::tryOnce(const EndpointVolumes &saved)
     EndpointVolumes current;
     if (!readCurrent(current))
         return false;
+    absent = absentFrom(current, saved);
     left = idsOf(ostra::audio::changedEndpoints(saved, current));
     std::ranges::copy_if(left, std::back_inserter(found), [this](const std::u16string &id) { return !isIn(found, id); });
     if (left.empty())
@@ -106,7 +114,7 @@ PutBack putBack(const EndpointVolumes &saved, const Patience &patience)
 {
     Endeavour endeavour;
     const bool isDone = tryPatiently(endeavour, saved, patience);
-    return {isDone, describeEndpoints(endeavour.repaired()), {}};
+    return {isDone, describeEndpoints(endeavour.repaired()), {}, std::move(endeavour.absent)};
 }
 
 EndpointVolumes stillRaised(const EndpointVolumes &saved, const EndpointVolumes &current)
@@ -128,6 +136,7 @@ PutBack putBackRaised(const EndpointVolumes &saved)
     EndpointVolumes others = ostra::audio::changedEndpoints(saved, current);
     std::erase_if(others, [&raised](const EndpointVolume &record) { return findById(raised, record.id) != nullptr; });
     PutBack result = putBack(raised, oneTry);
+    result.absent = absentFrom(current, saved);
     result.left = describeEndpoints(idsOf(others));
     for (const QString &name : std::as_const(result.left))
         qCWarning(guardianLog, "the volume of %s was changed since an interrupted run and is left as it is",

@@ -26,6 +26,7 @@ struct PutBack {
     bool isDone = false; ///< every noted endpoint that is there has its noted volume
     QStringList names;   ///< of the endpoints that had another one and have theirs again
     QStringList left;    ///< of those that have another one and were left alone
+    ostra::audio::EndpointVolumes absent; ///< the noted ones that are not there, if that could be read
 };
 
 /// The records of `saved` whose endpoint still stands, in `current`, where a run has put it: at full volume, and unmuted unless
@@ -33,8 +34,8 @@ struct PutBack {
 ostra::audio::EndpointVolumes stillRaised(const ostra::audio::EndpointVolumes &saved,
                                           const ostra::audio::EndpointVolumes &current);
 
-/// Gives every endpoint of `saved` that is there and has another volume its own again. Endpoints that are gone are passed over,
-/// new ones are left as they are. All records carry ids.
+/// Gives every endpoint of `saved` that is there and has another volume its own again. Endpoints that are gone are passed over
+/// and told as absent, new ones are left as they are. All records carry ids.
 PutBack putBack(const ostra::audio::EndpointVolumes &saved, const Patience &patience);
 
 /// The same, in one try, for volumes that were saved by a run of the past: somebody may have set others since, so that only the

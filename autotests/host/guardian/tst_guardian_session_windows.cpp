@@ -54,7 +54,8 @@ private slots:
     void putsBackWhatWasRaised();
     void putsBackNothingWhereNothingDiffers();
     void completesARestoreThatAnAddedEndpointStopped();
-    void passesOverAVanishedEndpoint();
+    void remembersAVanishedEndpointUntilItComesBack();
+    void remembersNoMoreThanTheLatestVanishedEndpoints();
     void triesAgainAfterAFailure();
     void keepsTheNoteWhenAnEndpointRefuses();
     void putsBackLeftovers();
@@ -127,17 +128,41 @@ void TestGuardianSessionWindows::completesARestoreThatAnAddedEndpointStopped()
     QCOMPARE(fake.states(), (std::vector<Endpoint>{before[0], added, before[1], before[2]}));
 }
 
-void TestGuardianSessionWindows::passesOverAVanishedEndpoint()
+void TestGuardianSessionWindows::remembersAVanishedEndpointUntilItComesBack()
 {
+    QString complaint;
     FakeCoreAudio fake;
     addAll(fake);
     GuardianSession session(folder());
     QVERIFY(session.begin());
     raise(fake);
+    const auto unplugged = fake.endpoints.front();
     fake.endpoints.erase(fake.endpoints.begin());
     QVERIFY(session.end(Ending::hostsLoss).isDone);
     QCOMPARE(fake.states(), (std::vector<Endpoint>{before[1], before[2]}));
+
+    GuardianSession next(folder()); // a whole run without it
+    QVERIFY(next.begin());
+    QVERIFY(next.end(Ending::normal).isDone);
+    fake.endpoints.insert(fake.endpoints.begin(), unplugged); // as loud as it went
+    QCOMPARE(putBackLeftovers(folder(), complaint).names, QStringList{QStringLiteral("Speakers")});
+    QCOMPARE(fake.states(), before);
     QVERIFY(!QFile::exists(note().path()));
+}
+
+void TestGuardianSessionWindows::remembersNoMoreThanTheLatestVanishedEndpoints()
+{
+    QString complaint;
+    FakeCoreAudio fake;
+    ostra::audio::EndpointVolumes gone;
+    for (char16_t number = 0; number < 100; ++number)
+        gone.push_back({0.5F, false, std::u16string(1, static_cast<char16_t>(u'\u4e00' + number)), {}});
+    QVERIFY(note().write({gone, {}}));
+    QVERIFY(putBackLeftovers(folder(), complaint).isDone);
+    const auto kept = note().read();
+    QVERIFY(kept);
+    QCOMPARE(kept->volumes.size(), std::size_t{64});
+    QCOMPARE(kept->volumes.back().id, gone.back().id);
 }
 
 void TestGuardianSessionWindows::triesAgainAfterAFailure()

@@ -76,7 +76,7 @@ private slots:
     void restoresOnItsOwnTermination();
     void putsBackNothingAfterAnUndisturbedRun();
     void completesTheRestoreThatAnAddedEndpointStopped();
-    void leavesAVanishedEndpointAlone();
+    void remembersAVanishedEndpointUntilItComesBack();
     void servesTheNextStartAfterAPowerCut();
     void servesTheNextStartWithoutEndpointsThatAreGone();
     void leavesWhatWasSetSinceAPowerCut();
@@ -199,7 +199,8 @@ void TestGuardianSound::completesTheRestoreThatAnAddedEndpointStopped()
     QVERIFY(isAtRest());
 }
 
-void TestGuardianSound::leavesAVanishedEndpointAlone()
+// The system gives it the volume that it went with.
+void TestGuardianSound::remembersAVanishedEndpointUntilItComesBack()
 {
     GuardedHost host(state());
     QCOMPARE(host.start(), holding);
@@ -208,6 +209,16 @@ void TestGuardianSound::leavesAVanishedEndpointAlone()
     Devices expected = before;
     expected.erase("headset");
     QCOMPARE(endpoints(), expected);
+    QVERIFY(!GuardedHost::isGuarded(state()));
+
+    GuardianClient client(state());
+    QVERIFY2(client.start(), qPrintable(client.errorText())); // a whole run without it
+    QCOMPARE(client.finish(), QStringList());
+    QCOMPARE(client.restoreLeftovers(), QStringList());
+    addSink("headset", "Headset");
+    pulse_truth::set(sinkKind, QStringLiteral("headset"), raised.at("headset").volumes, raised.at("headset").muted);
+    QCOMPARE(client.restoreLeftovers(), QStringList{QStringLiteral("Headset")});
+    QCOMPARE(endpoints(), before);
     QVERIFY(isAtRest());
 }
 
@@ -247,7 +258,10 @@ void TestGuardianSound::servesTheNextStartWithoutEndpointsThatAreGone()
     expected.erase("speakers");
     expected["just_plugged_in"] = {{full, full}, false};
     QCOMPARE(endpoints(), expected);
-    QVERIFY(isAtRest());
+    const auto waiting = note().read();
+    QVERIFY(waiting);
+    QCOMPARE(waiting->volumes.size(), std::size_t{1});
+    QCOMPARE(waiting->volumes.front().id, std::u16string(u"speakers"));
 }
 
 void TestGuardianSound::leavesWhatWasSetSinceAPowerCut()
