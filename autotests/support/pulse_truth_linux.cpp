@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/support/pulse_truth_linux.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QTest>
+#include <QThread>
 
 #include <csignal>
 
@@ -42,6 +44,13 @@ pid_t serverProcess()
     if (process <= 1) // signals to these numbers reach more than one process
         qFatal("the virtual sound card's server is unknown");
     return process;
+}
+
+bool doesAnswer()
+{
+    QProcess tool;
+    tool.start(QStringLiteral("pactl"), {QStringLiteral("info")});
+    return tool.waitForFinished(toolLimitMilliseconds) && tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
 }
 
 } // namespace
@@ -100,6 +109,14 @@ void remove(const QString &name)
 }
 
 FrozenServer::FrozenServer() { kill(serverProcess(), SIGSTOP); }
-FrozenServer::~FrozenServer() { kill(serverProcess(), SIGCONT); }
+
+// Whoever asked in vain still stands in the queue of the server's socket, and a full queue refuses the next one at once.
+FrozenServer::~FrozenServer()
+{
+    kill(serverProcess(), SIGCONT);
+    const QDeadlineTimer deadline(toolLimitMilliseconds);
+    while (!doesAnswer() && !deadline.hasExpired())
+        QThread::msleep(20);
+}
 
 } // namespace pulse_truth

@@ -37,7 +37,7 @@ void addSource(const QString &name);
 /// Removes a sink or microphone added by the two functions above.
 void remove(const QString &name);
 
-/// Freezes the server's process and wakes it again at the end of the scope.
+/// Freezes the server's process, and at the end of the scope wakes it and waits until it answers, 10 s at most.
 class FrozenServer {
 public:
     FrozenServer();
