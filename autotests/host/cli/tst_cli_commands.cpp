@@ -309,6 +309,8 @@ void TestCliCommands::refusesRuns_data()
         "unknown capture source 'Ear' (known: '");
     add("loopback of nothing", {QStringLiteral("--device=0"), QStringLiteral("--listen=loopback:Ear")},
         "unknown capture source '");
+    add("unknown microphone", {QStringLiteral("--device=0"), QStringLiteral("--test=m"), QStringLiteral("--microphone=Ear")},
+        "unknown microphone 'Ear' (known: '");
     add("unknown output", {QStringLiteral("--device=0"), QStringLiteral("--test=m"), QStringLiteral("--speak-through=Ear")},
         "unknown output 'Ear' (known: '");
     add("no settings", {QStringLiteral("--device=0"), QStringLiteral("--config=/")},
@@ -328,7 +330,8 @@ void TestCliCommands::refusesRuns()
     const CliRun run = runCli(arguments);
     QVERIFY2(run.errors.startsWith("TamrexDiagnosticsCLI: " + complaint), run.errors.constData());
     QCOMPARE(run.errors.count('\n'), 1);
-    QCOMPARE(run.errors.contains("known: "), run.errors.contains("Speakers'"));
+    const char *known = run.errors.contains("unknown microphone") ? "Desk Mic'" : "Speakers'";
+    QCOMPARE(run.errors.contains("known: "), run.errors.contains(known));
     QCOMPARE(run.code, 2);
 }
 

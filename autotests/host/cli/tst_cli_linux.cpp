@@ -75,7 +75,9 @@ private slots:
     void saysThatTheOutputCouldNotBeWritten();
     void needsNoUtf8Locale();
     void saysThatTheSoundServerDoesNotAnswer();
+    void listsNothingOfAFrozenSoundServer();
     void listsVolumesMuteAndDefault();
+    void listsVolumeAndMuteOfAMicrophone();
     void listsMonitors();
     void takesALimitForNoLack_data();
     void takesALimitForNoLack();
@@ -176,6 +178,22 @@ void TestCliLinux::saysThatTheSoundServerDoesNotAnswer()
     QCOMPARE(check.code, 3);
 }
 
+// It takes connections and says nothing on them; the sound library waits half a minute for it.
+void TestCliLinux::listsNothingOfAFrozenSoundServer()
+{
+    const pulse_truth::FrozenServer frozen;
+    QProcess process;
+    process.setProcessEnvironment(cliEnvironment());
+    process.start(cliPath(), {QStringLiteral("list"), QStringLiteral("--json")});
+    QVERIFY(process.waitForFinished(180'000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 3);
+    QCOMPARE(process.readAllStandardError(), QByteArray("The sound server does not answer.\n"));
+    const QJsonObject document = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+    QCOMPARE(document.value(QLatin1String("soundServerAnswers")), QJsonValue(false));
+    QCOMPARE(document.value(QLatin1String("devices")), QJsonValue(QJsonArray()));
+}
+
 // A muted PC is the commonest cause of one without sound.
 void TestCliLinux::listsVolumesMuteAndDefault()
 {
@@ -196,6 +214,21 @@ void TestCliLinux::listsVolumesMuteAndDefault()
     QCOMPARE(device[QLatin1String("volumePercent")], QJsonValue(137));
     QCOMPARE(device[QLatin1String("muted")], QJsonValue(true));
     QCOMPARE(device[QLatin1String("default")], QJsonValue(true));
+}
+
+void TestCliLinux::listsVolumeAndMuteOfAMicrophone()
+{
+    const QString name = QStringLiteral("quiet_microphone");
+    pulse_truth::addSource(name);
+    const auto back = qScopeGuard([&name] { pulse_truth::remove(name); });
+    pulse_truth::set(QStringLiteral("source"), name, {24248, 24248}, true); // 37 %
+    const CliRun table = runCli({QStringLiteral("list")});
+    QVERIFY2(table.output.simplified().contains(" - - - - yes 37 % yes "), table.output.constData());
+    const CliRun json = runCli({QStringLiteral("list"), QStringLiteral("--json")});
+    const QJsonValue input = QJsonDocument::fromJson(json.output)[QLatin1String("inputs")][0];
+    QCOMPARE(input[QLatin1String("id")].toString(), name);
+    QCOMPARE(input[QLatin1String("volumePercent")], QJsonValue(37));
+    QCOMPARE(input[QLatin1String("muted")], QJsonValue(true));
 }
 
 // By the names that --listen takes.

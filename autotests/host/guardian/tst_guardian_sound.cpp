@@ -79,6 +79,7 @@ private slots:
     void remembersAVanishedEndpointUntilItComesBack();
     void servesTheNextStartAfterAPowerCut();
     void servesTheNextStartWithoutEndpointsThatAreGone();
+    void forgetsTheOldestOfManyVanishedEndpoints();
     void leavesWhatWasSetSinceAPowerCut();
     void putsBackHalfARaiseButNothingLouder();
     void leavesTheEndpointsOfAnotherServer();
@@ -262,6 +263,23 @@ void TestGuardianSound::servesTheNextStartWithoutEndpointsThatAreGone()
     QVERIFY(waiting);
     QCOMPARE(waiting->volumes.size(), std::size_t{1});
     QCOMPARE(waiting->volumes.front().id, std::u16string(u"speakers"));
+}
+
+// A note has a limit of its size.
+void TestGuardianSound::forgetsTheOldestOfManyVanishedEndpoints()
+{
+    ostra::audio::EndpointVolumes vanished;
+    for (int number = 0; number < 70; ++number)
+        vanished.push_back({0.5F, false, QStringLiteral("gone%1").arg(number).toStdU16String(), {32768, 32768}});
+    QVERIFY(note().write({vanished, {}}));
+    GuardianClient client(state());
+    QCOMPARE(client.restoreLeftovers(), QStringList());
+    const auto waiting = note().read();
+    QVERIFY(waiting);
+    QCOMPARE(waiting->volumes.size(), std::size_t{64});
+    QCOMPARE(waiting->volumes.front().id, std::u16string(u"gone6"));
+    QCOMPARE(waiting->volumes.back().id, std::u16string(u"gone69"));
+    QCOMPARE(endpoints(), before);
 }
 
 void TestGuardianSound::leavesWhatWasSetSinceAPowerCut()
