@@ -4,6 +4,7 @@
 #include "contract/property_keys.h"
 #include "host/cli/console.h"
 #include "host/cli/json_output.h"
+#include "host/cli/missing_module.h"
 #include "host/cli/text_table.h"
 #include "host/core/device_list.h"
 #include "host/core/module_library.h"
@@ -148,23 +149,31 @@ void printTable(const Listed &listed, Console &console)
     console.print(textTable(header, rows, console.isStyled() ? TableStyle::boldHeader : TableStyle::plain));
 }
 
-Listed lookAround(const DeviceList &list)
+// Asked before the module starts the sound library, which would wait half a minute for a silent server.
+bool lookAround(ModuleLibrary &library, Listed &listed, bool &isComplete)
 {
-    Listed listed{list.devices(), {}, readSoundState()};
-    if (listed.sound.isAnswering)
-        listed.inputs = readCaptureDevices() + readMonitors();
-    return listed;
+    listed.sound = readSoundState();
+    if (!listed.sound.isAnswering)
+        return library.load();
+    if (!library.open())
+        return false;
+    DeviceList list;
+    ostra::SystemComponentManager *manager = library.module()->componentManager();
+    isComplete = manager == nullptr || list.refresh(*manager);
+    listed.devices = list.devices();
+    listed.inputs = readCaptureDevices() + readMonitors();
+    return true;
 }
 
 } // namespace
 
-ExitCode runList(const ModuleLibrary &library, bool isJson, Console &console)
+ExitCode runList(ModuleLibrary &library, bool isJson, Console &console)
 {
-    DeviceList list;
     console.tellProgress(QStringLiteral("Reading devices…"));
-    ostra::SystemComponentManager *manager = library.module()->componentManager();
-    const bool isComplete = manager == nullptr || list.refresh(*manager);
-    const Listed listed = lookAround(list);
+    Listed listed;
+    bool isComplete = true;
+    if (!lookAround(library, listed, isComplete))
+        return tellMissingModule(library.errorText(), isJson, console);
     if (isJson)
         printDocument(library, listed, console);
     else if (!listed.devices.isEmpty() || !listed.inputs.isEmpty())

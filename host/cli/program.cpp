@@ -6,9 +6,9 @@
 #include "host/cli/console.h"
 #include "host/cli/help_text.h"
 #include "host/cli/info_command.h"
-#include "host/cli/json_output.h"
 #include "host/cli/list_command.h"
 #include "host/cli/maudio_command.h"
+#include "host/cli/missing_module.h"
 #include "host/cli/report_command.h"
 #include "host/cli/run_command.h"
 #include "host/cli/run_plan.h"
@@ -37,10 +37,7 @@ ExitCode withModule(bool isJson, Console &console, const Run &run)
     ModuleLibrary library;
     if (library.open())
         return run(library);
-    console.complain(library.errorText());
-    if (isJson)
-        printJsonError(console, ExitCode::noModule, library.errorText());
-    return ExitCode::noModule;
+    return tellMissingModule(library.errorText(), isJson, console);
 }
 
 ExitCode runModuleOption(const QStringList &arguments, Console &console)
@@ -54,9 +51,12 @@ ExitCode runModuleOption(const QStringList &arguments, Console &console)
 
 ExitCode runModuleCommand(const CommandLine &line, Console &console)
 {
-    return withModule(line.isJson, console, [&](const ModuleLibrary &library) {
-        return line.command == Command::list ? runList(library, line.isJson, console) : runInfo(library, line.isJson, console);
-    });
+    if (line.command == Command::list) {
+        ModuleLibrary library;
+        return runList(library, line.isJson, console);
+    }
+    return withModule(line.isJson, console,
+                      [&](const ModuleLibrary &library) { return runInfo(library, line.isJson, console); });
 }
 
 ExitCode runVersionCommand(Console &console)

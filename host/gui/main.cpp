@@ -64,7 +64,8 @@ int main(int argc, char *argv[])
         host::print(text);
         return 0;
     }
-    QFile::remove(options.verdictFile); // an earlier run's must not outlive a start that breaks down
+    if (!options.verdictFile.isEmpty())
+        QFile::remove(options.verdictFile); // an earlier run's must not outlive a start that breaks down
     if (!options.isVerbose)
         host::hideDebugLines();
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0"); // the module's dialogs scale themselves

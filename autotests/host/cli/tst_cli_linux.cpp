@@ -123,7 +123,7 @@ void TestCliLinux::endsOnAnInterrupt()
 
     QProcess process;
     process.setProcessEnvironment(cliEnvironment());
-    process.start(cliPath(), {QStringLiteral("list")});
+    process.start(cliPath(), {QStringLiteral("info")});
     QVERIFY(process.waitForStarted());
     // The signal handlers come before the connection.
     QTRY_VERIFY_WITH_TIMEOUT(hasSocket(process.processId()), 30'000);
@@ -178,14 +178,14 @@ void TestCliLinux::saysThatTheSoundServerDoesNotAnswer()
     QCOMPARE(check.code, 3);
 }
 
-// It takes connections and says nothing on them; the sound library waits half a minute for it.
+// It takes connections and says nothing on them. The sound library would wait half a minute for it.
 void TestCliLinux::listsNothingOfAFrozenSoundServer()
 {
     const pulse_truth::FrozenServer frozen;
     QProcess process;
     process.setProcessEnvironment(cliEnvironment());
     process.start(cliPath(), {QStringLiteral("list"), QStringLiteral("--json")});
-    QVERIFY(process.waitForFinished(180'000));
+    QVERIFY(process.waitForFinished(20'000)); // ten times the bound of a question to the server
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 3);
     QCOMPARE(process.readAllStandardError(), QByteArray("The sound server does not answer.\n"));

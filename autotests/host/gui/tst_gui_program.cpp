@@ -269,6 +269,7 @@ void TestGuiProgram::tellsWhatItsWindowsLack()
 {
     const Outcome outcome = run({QStringLiteral("--self-check")});
     QCOMPARE(outcome.code, 0);
+    QVERIFY2(outcome.errors.isEmpty(), outcome.errors.constData());
     for (const char *name : {"pictures: svg", "texts: ja_JP", "texts of Qt: de_DE", "fonts: Chinese", "fonts: Japanese"})
         QVERIFY2(outcome.output.contains(QByteArray("\"name\":\"") + name + "\",\"ok\":true"), outcome.output.constData());
     QVERIFY2(outcome.output.contains("\"limit\":true,\"name\":\"pictures: svg\""), outcome.output.constData());
