@@ -4,6 +4,9 @@
 
 #include <QTest>
 
+#include <chrono>
+#include <thread>
+
 using namespace ostra::audio;
 using Rows = std::vector<sal::CimRow>;
 Q_DECLARE_METATYPE(Rows)
@@ -19,6 +22,7 @@ private slots:
     void isEmptyWhenTheQueryFails();
     void isEmptyWithoutTheService();
     void copesWithTenThousandRows();
+    void waitsForASlowAnswer();
 };
 
 void TestDriverVersion::asksForTheSignedDriversOfAudioEndpoints()
@@ -93,6 +97,16 @@ void TestDriverVersion::copesWithTenThousandRows()
     fake_sal::state().rows.assign(10000, sal::CimRow{"other", "1.0", "another"});
     fake_sal::state().rows.push_back({"Speakers", "2.0", "another"});
     QCOMPARE(lookUpDriverVersion("Speakers"), std::string("2.0"));
+}
+
+void TestDriverVersion::waitsForASlowAnswer()
+{
+    constexpr std::chrono::milliseconds delay{300};
+    fake_sal::state().rows = {{"Speakers", "1.0", "Speakers"}};
+    fake_sal::state().onCall = [delay](const std::string &) { std::this_thread::sleep_for(delay); };
+    const auto start = std::chrono::steady_clock::now();
+    QCOMPARE(lookUpDriverVersion("Speakers"), std::string("1.0"));
+    QVERIFY(std::chrono::steady_clock::now() - start >= delay);
 }
 
 QTEST_GUILESS_MAIN(TestDriverVersion)

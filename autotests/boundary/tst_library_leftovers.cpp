@@ -10,7 +10,6 @@
 #include <windows.h>
 
 #include <objbase.h>
-#include <psapi.h>
 #include <tlhelp32.h>
 
 #include <functional>
@@ -20,9 +19,6 @@
 using namespace ostra;
 
 namespace {
-
-constexpr ULONG startAddressClass = 9; // ThreadQuerySetWin32StartAddress
-using QueryThreadFunction = LONG(WINAPI *)(HANDLE, ULONG, void *, ULONG, ULONG *);
 
 std::vector<DWORD> threadIds()
 {
@@ -50,18 +46,6 @@ std::size_t windowCount()
     return count;
 }
 
-bool startsWithin(DWORD threadId, const MODULEINFO &library)
-{
-    static const auto query = reinterpret_cast<QueryThreadFunction>(
-        reinterpret_cast<void *>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryInformationThread")));
-    const HANDLE thread = OpenThread(THREAD_QUERY_INFORMATION, FALSE, threadId);
-    std::uintptr_t start = 0;
-    query(thread, startAddressClass, &start, sizeof start, nullptr);
-    CloseHandle(thread);
-    const auto base = reinterpret_cast<std::uintptr_t>(library.lpBaseOfDll);
-    return start >= base && start < base + library.SizeOfImage;
-}
-
 } // namespace
 
 class TestLibraryLeftovers : public QObject {
@@ -70,7 +54,7 @@ class TestLibraryLeftovers : public QObject {
 private slots:
     void initTestCase();
     void roundsLeaveNoThreadAndNoWindow();
-    void noThreadRunsTheModulesCode();
+    void theCodeStaysAndNothingOfItRuns();
     void comIsWhatItWasBefore();
 
 private:
@@ -118,17 +102,14 @@ void TestLibraryLeftovers::roundsLeaveNoThreadAndNoWindow()
     QVERIFY(windowCount() <= windows);
 }
 
-void TestLibraryLeftovers::noThreadRunsTheModulesCode()
+// Where threads start tells nothing about whose they are: in the compiler's run time. So they are counted.
+void TestLibraryLeftovers::theCodeStaysAndNothingOfItRuns()
 {
-    MODULEINFO library{};
-    QVERIFY(K32GetModuleInformation(GetCurrentProcess(), library_, &library, sizeof library) != 0);
-    for (const DWORD id : threadIds())
-        QVERIFY(!startsWithin(id, library));
-    MODULEINFO own{};
-    QVERIFY(K32GetModuleInformation(GetCurrentProcess(), GetModuleHandleW(nullptr), &own, sizeof own) != 0);
-    QVERIFY(startsWithin(GetCurrentThreadId(), own)); // the question is answered
+    const std::size_t threads = threadIds().size();
     FreeLibrary(library_);
+    QVERIFY(threadIds().size() <= threads);
     round(); // pinned: its code is still there
+    QTRY_VERIFY(threadIds().size() <= threads);
 }
 
 // A reference too few would end the host's apartment, one too many would keep it.

@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "utils/screen_sources.h"
 
+#include "autotests/utils/ask_monitor_dpi.h"
 #include "contract/sal.h"
 
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <windows.h>
+
+#include <string>
 
 using ostra::utils::monitorDpi;
 
@@ -36,6 +43,34 @@ public:
 
 RecordingLoader *loader = nullptr;
 
+/// shcore.dll of somebody else's making in `folder`, for as long as this lives.
+class PlantedLibrary {
+public:
+    explicit PlantedLibrary(const QString &folder) : file_(folder + QStringLiteral("/shcore.dll"))
+    {
+        QFile::remove(file_); // of a run that was cut off
+        isThere_ = QFile::copy(QCoreApplication::applicationDirPath() + QStringLiteral(PLANTED_LIBRARY_FILE), file_);
+    }
+    ~PlantedLibrary() { QFile::remove(file_); }
+    PlantedLibrary(const PlantedLibrary &) = delete;
+    PlantedLibrary &operator=(const PlantedLibrary &) = delete;
+
+    bool isThere() const { return isThere_; }
+
+private:
+    QString file_;
+    bool isThere_ = false;
+};
+
+int askInAProcessOfItsOwn(const QString &currentFolder, const QStringList &arguments = {})
+{
+    constexpr int limit = 30000; // ms
+    QProcess process;
+    process.setWorkingDirectory(currentFolder);
+    process.start(QCoreApplication::applicationDirPath() + QStringLiteral(ASKING_FOLDER "/ask_monitor_dpi.exe"), arguments);
+    return process.waitForFinished(limit) && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
 } // namespace
 
 extern "C" {
@@ -51,6 +86,7 @@ private slots:
     void toldNothingWithoutTheLibrary();
     void toldNothingByALibraryWithoutTheFunctions();
     void loadsTheLibraryItselfWithoutAHostsLoader();
+    void withoutAHostsLoaderAPlantedLibraryIsNotLoaded();
 };
 
 void TestMonitorDpiWindows::asksTheSystemsLibraryThroughTheHost()
@@ -87,7 +123,20 @@ void TestMonitorDpiWindows::toldNothingByALibraryWithoutTheFunctions()
 void TestMonitorDpiWindows::loadsTheLibraryItselfWithoutAHostsLoader()
 {
     loader = nullptr;
-    QVERIFY(monitorDpi().has_value());
+    const auto dpi = monitorDpi();
+    QVERIFY(dpi.has_value());
+    QVERIFY(*dpi >= 96 && *dpi <= 960);
+}
+
+void TestMonitorDpiWindows::withoutAHostsLoaderAPlantedLibraryIsNotLoaded()
+{
+    const QTemporaryDir current;
+    const PlantedLibrary inCurrentFolder(current.path());
+    const PlantedLibrary besideTheProgram(QCoreApplication::applicationDirPath() + QStringLiteral(ASKING_FOLDER));
+    QVERIFY(inCurrentFolder.isThere() && besideTheProgram.isThere());
+    QCOMPARE(askInAProcessOfItsOwn(current.path()), int{ask_monitor_dpi::told});
+    const QString bare = QString::fromLatin1(ask_monitor_dpi::byBareName);
+    QCOMPARE(askInAProcessOfItsOwn(current.path(), {bare}), int{ask_monitor_dpi::plantedRan}); // the trap was set
 }
 
 QTEST_GUILESS_MAIN(TestMonitorDpiWindows)
