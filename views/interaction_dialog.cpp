@@ -19,6 +19,7 @@
 #include <QPointer>
 
 #include <chrono>
+#include <utility>
 
 namespace ostra {
 
@@ -110,13 +111,13 @@ void InteractionDialog::Cancel() { done(dialog_result::cancelled); }
 
 void InteractionDialog::Abort()
 {
-    isAborted_ = true;
+    isAborted_ = isAborted_ || !hasEnded_;
     done(dialog_result::closed);
 }
 
 void InteractionDialog::AbortDeviceDisconnected()
 {
-    isDeviceDisconnected_ = true;
+    isDeviceDisconnected_ = isDeviceDisconnected_ || !hasEnded_;
     done(dialog_result::closed);
 }
 
@@ -175,6 +176,8 @@ void InteractionDialog::CheckSystemEvent()
 
 void InteractionDialog::done(int result)
 {
+    if (std::exchange(hasEnded_, true))
+        return; // a click or a tick that was under way when it ended does not change the answer
     isReady_ = false; // the end changes the window, and a change asks for events
     const QPointer<InteractionDialog> self(this);
     InputDialog::done(result);

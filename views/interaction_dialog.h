@@ -49,6 +49,7 @@ public:
     /// Whether a recording or playback failed.
     bool isAborted() const noexcept { return isAborted_; }
 
+    /// The first call ends the dialog, with its flags as they are then; later ones do nothing.
     void done(int result) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -98,6 +99,7 @@ private:
     static constexpr int noPage = -1;
     int checkedPage_ = noPage; ///< whose device is known to be there, while it comes up
     bool isReady_ = false; ///< constructed and not ended, so that events of the machine may close it
+    bool hasEnded_ = false; ///< by a result of its own; a stop by the watcher is none
     bool isApplicationQuitting_ = false;
 };
 

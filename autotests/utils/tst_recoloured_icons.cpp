@@ -2,6 +2,7 @@
 #include "utils/icon_recolouring.h"
 
 #include "autotests/support/fake_sal.h"
+#include "autotests/utils/file_size_limit.h"
 #include "utils/high_contrast_style.h"
 #include "utils/style_rules.h"
 
@@ -24,6 +25,7 @@ private slots:
     void aFolderBreaksNoRuleAndAddsNone_data();
     void aFolderBreaksNoRuleAndAddsNone();
     void anExclamationMarkInAPathEndsNoValue();
+    void aFullDiskLeavesTheIconAsItWas();
     void keepsAnIconWhoseFolderCannotStandInAStylesheet_data();
     void keepsAnIconWhoseFolderCannotStandInAStylesheet();
 
@@ -123,6 +125,25 @@ void TestRecolouredIcons::anExclamationMarkInAPathEndsNoValue()
     };
     QCOMPARE(backgroundOf(QStringLiteral("QLabel")), QStringLiteral("url(\"/a!b/c.png\") #ffffff"));
     QCOMPARE(backgroundOf(QStringLiteral("QFrame")), QStringLiteral("url(/a!b/c.png) #ffffff"));
+}
+
+void TestRecolouredIcons::aFullDiskLeavesTheIconAsItWas()
+{
+    const QTemporaryDir root;
+    fake_sal::state().temporaryPath = root.path().toStdString();
+    QWidget widget;
+    widget.setAttribute(Qt::WA_StyledBackground);
+    widget.resize(32, 32);
+    QString value;
+    {
+        const FileSizeLimit limit(40); // bytes; the icon has some more
+        value = recolourIcon(&widget, original(), QStringLiteral("#00ff00"));
+    }
+    QCOMPARE(value, original());
+    const QDir folder(root.filePath(QStringLiteral("temp")));
+    QVERIFY(folder.exists() && folder.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot));
+    widget.setStyleSheet(QStringLiteral("QWidget { image: ") + value + QStringLiteral("; }"));
+    QCOMPARE(widget.grab().toImage().pixelColor(16, 16), QColor(0x12, 0x34, 0x56));
 }
 
 void TestRecolouredIcons::keepsAnIconWhoseFolderCannotStandInAStylesheet_data()

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "utils/temporary_icon_folder.h"
 
+#include "autotests/support/process_facts.h"
+#include "autotests/utils/file_size_limit.h"
 #include "utils/icon_recolouring.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
@@ -19,6 +24,11 @@ mode_t modeOf(const QString &folder)
 {
     struct stat facts {};
     return ::stat(QFile::encodeName(folder).constData(), &facts) == 0 ? facts.st_mode & 07777 : 0;
+}
+
+QStringList entriesOf(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
 bool setMode(const QString &folder, mode_t mode) { return ::chmod(QFile::encodeName(folder).constData(), mode) == 0; }
@@ -39,6 +49,9 @@ private slots:
     void refusesAFileInItsPlace();
     void refusesNoName();
     void filesArePrivate();
+    void leavesNoHalfFileWhenTheDiskIsFull_data();
+    void leavesNoHalfFileWhenTheDiskIsFull();
+    void managesWithAFolderThatTakesNoFiles();
 };
 
 void TestTemporaryIconFolder::makesEveryMissingFolderPrivate()
@@ -129,6 +142,51 @@ void TestTemporaryIconFolder::filesArePrivate()
     ::umask(before);
     QVERIFY(file != nullptr);
     QCOMPARE(modeOf(file->fileName()), mode_t{0600});
+}
+
+void TestTemporaryIconFolder::leavesNoHalfFileWhenTheDiskIsFull_data()
+{
+    QTest::addColumn<qsizetype>("byteCount");
+    QTest::addColumn<qsizetype>("room");
+    QTest::newRow("no room for an icon") << qsizetype(400) << qsizetype(0);
+    QTest::newRow("room for a part of it") << qsizetype(400) << qsizetype(100);
+    QTest::newRow("more than is written at once") << qsizetype(1 << 20) << qsizetype(100);
+    QTest::newRow("all but the last byte") << qsizetype(1 << 20) << qsizetype((1 << 20) - 1);
+}
+
+void TestTemporaryIconFolder::leavesNoHalfFileWhenTheDiskIsFull()
+{
+    QFETCH(const qsizetype, byteCount);
+    QFETCH(const qsizetype, room);
+    const QTemporaryDir root;
+    const QString text(byteCount, u'x');
+    QObject dialog;
+    const std::size_t descriptors = process_facts::now().handles;
+    bool isInForce = false;
+    const QTemporaryFile *file = nullptr;
+    {
+        const FileSizeLimit limit(static_cast<rlim_t>(room));
+        isInForce = limit.isInForce();
+        file = ostra::utils::writeTemporarySvg(&dialog, QStringLiteral("play"), text, root.path());
+    }
+    QVERIFY(isInForce);
+    QCOMPARE(file, nullptr);
+    QVERIFY(dialog.children().isEmpty());
+    QCOMPARE(entriesOf(root.path()), QStringList());
+    QCOMPARE(process_facts::now().handles, descriptors);
+    file = ostra::utils::writeTemporarySvg(&dialog, QStringLiteral("play"), text, root.path()); // there is room again
+    QVERIFY(file != nullptr);
+    QCOMPARE(QFileInfo(file->fileName()).size(), byteCount);
+}
+
+// Of this user and closed to others, as it has to be; but even the superuser makes no file there.
+void TestTemporaryIconFolder::managesWithAFolderThatTakesNoFiles()
+{
+    const QString folder = QStringLiteral("/proc/self/task");
+    QVERIFY(ensureTemporaryIconFolder(folder));
+    QObject dialog;
+    QCOMPARE(ostra::utils::writeTemporarySvg(&dialog, QStringLiteral("play"), QStringLiteral("<svg/>"), folder), nullptr);
+    QVERIFY(dialog.children().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestTemporaryIconFolder)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "views/interaction_dialog.h"
 
+#include "audio/worker_status.h"
 #include "autotests/views/dialog_stage.h"
 
 #include <QAccessible>
@@ -14,15 +15,68 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QStringList>
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 #include <utility>
 
 using namespace ostra;
 using namespace dialog_stage;
 using page_probe::named;
+
+namespace {
+
+/// A host that wants the test to stop, and at whose question other ends are under way.
+class StoppingHost final : public TestContext {
+public:
+    StoppingHost(std::function<void()> before, std::function<void()> after)
+        : before_(std::move(before)), after_(std::move(after))
+    {}
+    SystemComponent *component() override { return nullptr; }
+    MessageSink *messages() override { return nullptr; }
+    ProgressReporter *reporter() override { return nullptr; }
+    void reserved4() override {}
+    bool continueOnOutcome() override;
+    EventSource *events() override { return nullptr; }
+
+private:
+    std::function<void()> before_;
+    std::function<void()> after_;
+};
+
+bool StoppingHost::continueOnOutcome()
+{
+    before_();
+    QCoreApplication::sendPostedEvents();
+    after_();
+    return true;
+}
+
+// In the order of the letters: the user's close (c), or the report of a worker and the tick behind it, for a loss (l), or for a
+// success and the user's word that it was heard (t).
+void queueEnds(Stage &stage, const QString &ends)
+{
+    const auto queue = [&stage](const Action action) {
+        QMetaObject::invokeMethod(
+            stage.dialog.get(), [&stage, action] { action(stage); }, Qt::QueuedConnection);
+    };
+    for (const QChar end : ends) {
+        if (end == u'c') {
+            queue([](Stage &ended) { ended.close().click(); });
+            continue;
+        }
+        queue(end == u't' ? Action([](Stage &ended) { ended.play().set_result_status(audio::worker_status::finished); })
+                          : Action([](Stage &ended) { ended.play().set_result_status(audio::worker_status::disconnected); }));
+        queue([](Stage &ended) { ended.play().OnTimerTick(); });
+        if (end == u't')
+            queue([](Stage &ended) { ended.play().OnBtnNextClicked(); });
+    }
+}
+
+} // namespace
 
 class TestInteractionDialogEnd : public QObject {
     Q_OBJECT
@@ -38,6 +92,8 @@ private slots:
     void closingStopsWhatRuns_data();
     void closingStopsWhatRuns();
     void noSignalFollowsTheEnd();
+    void theFirstOfEndsInOneTurnCounts_data();
+    void theFirstOfEndsInOneTurnCounts();
     void isDraggedByItsHeader_data();
     void isDraggedByItsHeader();
     void isNotDraggedByAnythingElse_data();
@@ -176,6 +232,46 @@ void TestInteractionDialogEnd::noSignalFollowsTheEnd()
     QTest::qWait(1500); // the next tick of the page would come in here
     QCOMPARE(finished.size(), 1);
     QCOMPARE(stage.dialog->result(), 5);
+}
+
+void TestInteractionDialogEnd::theFirstOfEndsInOneTurnCounts_data()
+{
+    QTest::addColumn<QString>("ends"); // w: the watcher
+    QTest::addColumn<int>("result");
+    QTest::addColumn<bool>("isLost");
+    const std::pair<const char *, int> orders[] = {{"tcw", 1}, {"twc", 1}, {"ctw", 5}, {"cwt", 5}, {"wtc", 1}, {"wct", 5},
+                                                   {"clw", 5}, {"cwl", 5}, {"wcl", 5}, {"ccw", 5}, {"ttw", 1}};
+    for (const auto &[ends, result] : orders)
+        QTest::newRow(ends) << QString::fromLatin1(ends) << result << false;
+    for (const char *ends : {"lcw", "lwc", "wlc", "ltw"})
+        QTest::newRow(ends) << QString::fromLatin1(ends) << 5 << true;
+}
+
+void TestInteractionDialogEnd::theFirstOfEndsInOneTurnCounts()
+{
+    QFETCH(const QString, ends);
+    QFETCH(const bool, isLost);
+    const QStringList parts = ends.split(u'w');
+    Stage stage;
+    StoppingHost host([&] { queueEnds(stage, parts.at(0)); }, [&] { queueEnds(stage, parts.at(1)); });
+    QSignalSpy finished(stage.dialog.get(), &QDialog::finished);
+    const int result = stage.resultOf([&] {
+        stage.goToPlayPage();
+        QTRY_COMPARE_WITH_TIMEOUT(stage.sound.openedCount.load(), 2, bound);
+        stage.dialog->setCancellationWatcher(&host);
+    });
+    // A watcher that comes first ends the loop only, and tells so; the dialog ends behind that.
+    const bool isStoppedFirst = parts.at(0).isEmpty();
+    if (isStoppedFirst)
+        QCOMPARE(result, 0);
+    else
+        QTEST(result, "result");
+    QCoreApplication::processEvents();
+    QTEST(stage.dialog->result(), "result");
+    QCOMPARE(stage.dialog->isDeviceDisconnected(), isLost);
+    QVERIFY(!stage.dialog->isAborted() && !stage.dialog->isVisible() && stage.isQuiet());
+    QCOMPARE(finished.size(), isStoppedFirst ? 2 : 1);
+    QTEST(finished.last().first().toInt(), "result");
 }
 
 void TestInteractionDialogEnd::isDraggedByItsHeader_data()

@@ -61,8 +61,9 @@ void InputDialog::done(int result)
 
 void InputDialog::askWatcher()
 {
+    const QPointer<InputDialog> self(this); // the host may run a loop while it is asked, and the dialog end there
     // Only the loop ends: whoever made the dialog closes it.
-    if (watcher_ != nullptr && wantsStop())
+    if (watcher_ != nullptr && wantsStop() && self && !hasFinished_)
         end(0, [this] { emit finished(0); });
 }
 
