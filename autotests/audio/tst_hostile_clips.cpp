@@ -20,7 +20,8 @@ constexpr int hostileDigit = 3;
 constexpr int soundDigit = 7;
 constexpr int soundRate = 48000;
 constexpr Uint32 soundByteCount = 480 * 2 * 2;
-constexpr qint64 loadMillisecondsAtMost = 2000; // below 5 were measured
+constexpr qint64 loadMillisecondsAtMost = 2000;  // below 5 were measured
+constexpr qint64 hugeMillisecondsAtMost = 15000; // Wine 8 takes 3 s to hand out four gigabytes
 
 /// What the sound library says of a file when nothing of ours is between. It keeps as much memory as the file claims to need,
 /// so that is given back at once.
@@ -97,7 +98,8 @@ void TestHostileClips::load(AudioComponent &component, int digit)
     QElapsedTimer time;
     time.start();
     QCOMPARE(loadClip(component, digit), 1); // the device opens and ten clips are there
-    QVERIFY2(time.elapsed() < loadMillisecondsAtMost, qPrintable(QString::number(time.elapsed())));
+    QFETCH(const std::optional<bool>, isAccepted);
+    QVERIFY2(time.elapsed() < (isAccepted ? loadMillisecondsAtMost : hugeMillisecondsAtMost), qPrintable(QString::number(time.elapsed())));
 }
 
 // Without this the comparisons below could be those of refused files alone.
