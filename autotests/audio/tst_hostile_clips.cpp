@@ -99,7 +99,8 @@ void TestHostileClips::load(AudioComponent &component, int digit)
     time.start();
     QCOMPARE(loadClip(component, digit), 1); // the device opens and ten clips are there
     QFETCH(const std::optional<bool>, isAccepted);
-    QVERIFY2(time.elapsed() < (isAccepted ? loadMillisecondsAtMost : hugeMillisecondsAtMost), qPrintable(QString::number(time.elapsed())));
+    QVERIFY2(time.elapsed() < (isAccepted ? loadMillisecondsAtMost : hugeMillisecondsAtMost),
+             qPrintable(QString::number(time.elapsed())));
 }
 
 // Without this the comparisons below could be those of refused files alone.
