@@ -221,7 +221,7 @@ void Driver::giveUp()
         dialog->done(99);
 }
 
-std::string leftovers(std::size_t threadCount)
+std::string leftovers(std::size_t threadCount, LooseWidgets loose)
 {
     QElapsedTimer waited;
     waited.start();
@@ -234,8 +234,8 @@ std::string leftovers(std::size_t threadCount)
     if (audio::abandonedWorkerCount() != 0)
         text += "an abandoned worker ";
     for (QWidget *widget : QApplication::topLevelWidgets()) {
-        // What a form's generated code had made when it got no more memory, before it found a place for it.
-        if (qstrcmp(widget->metaObject()->className(), "QWidget") == 0 && widget->isHidden())
+        const bool isLoose = qstrcmp(widget->metaObject()->className(), "QWidget") == 0 && widget->isHidden();
+        if (isLoose && loose == LooseWidgets::areDeleted)
             delete widget;
         else
             text += "a window of " + std::string(widget->metaObject()->className()) + ' ';

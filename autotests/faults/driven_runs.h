@@ -75,7 +75,11 @@ private:
     QElapsedTimer sinceStart_;
 };
 
+/// Hidden widgets without a class of their own: what a form's generated code has made when it gets no more memory, before it
+/// finds a place for it. Only runs without memory may leave any.
+enum class LooseWidgets { areLeftovers, areDeleted };
+
 /// What must be as before when a run is over, as text to compare; waits for threads that are about to end.
-std::string leftovers(std::size_t threadCount);
+std::string leftovers(std::size_t threadCount, LooseWidgets loose = LooseWidgets::areLeftovers);
 
 } // namespace driven_runs

@@ -28,8 +28,10 @@ ReleaseModuleInterfaceInstanceFunction ReleaseModuleInterfaceInstance;
 namespace {
 
 constexpr int warmUpRuns = 5;
-// One forgotten dialog would be some 200 KiB a run, one forgotten recording a megabyte, one forgotten icon 4 KiB on disk.
-constexpr qint64 liveBytesPerRun = 2 * 1024;
+// One forgotten dialog would be some 200 KiB a run, one forgotten recording a megabyte, one forgotten icon 4 KiB on disk. On
+// Linux no byte stays after a thousand runs; Wine's private memory, counted in pages, grew by 28 KiB in two hundred.
+constexpr qint64 liveBytesPerRun = 128;
+constexpr qint64 liveBytesInAll = 64 * 1024;             // caches that fill once; real devices took 19 KiB in fifty runs
 constexpr qint64 residentBytesAtMost = 24 * 1024 * 1024; // the allocators' own slack
 
 int runCount() { return std::max(1, qEnvironmentVariableIntValue("ENDURANCE_RUNS")); }
@@ -121,6 +123,8 @@ void TestEndurance::manyRunsLeaveEverythingAsItWas()
 {
     QFETCH(const int, kind);
     runOften(Kind(kind), devices_ ? warmUpRuns : 1);
+    if (QTest::currentTestFailed())
+        return;
     QVERIFY(driven_runs::leftovers(process_facts::now().threads).empty());
     const QDir folder = QDir::current();
     const auto fileCount = [&folder] { return QDir(folder.filePath(QStringLiteral("temp"))).entryList(QDir::Files).size(); };
@@ -129,6 +133,8 @@ void TestEndurance::manyRunsLeaveEverythingAsItWas()
     QElapsedTimer time;
     time.start();
     runOften(Kind(kind), runCount());
+    if (QTest::currentTestFailed())
+        return;
     const qint64 took = time.elapsed();
     const std::string left = driven_runs::leftovers(before.facts.threads);
     QVERIFY2(left.empty(), left.c_str());
@@ -140,7 +146,7 @@ void TestEndurance::manyRunsLeaveEverythingAsItWas()
     QCOMPARE(fileCount(), files);
     QVERIFY(after.facts.threads <= before.facts.threads);
     QVERIFY(after.facts.handles <= before.facts.handles + 8); // the system opens some for itself now and then
-    QVERIFY(after.liveBytes - before.liveBytes < (runCount() + 50) * liveBytesPerRun);
+    QVERIFY(after.liveBytes - before.liveBytes < liveBytesInAll + runCount() * liveBytesPerRun);
     QVERIFY(qint64(after.facts.residentBytes) - qint64(before.facts.residentBytes) < residentBytesAtMost);
     if (devices_)
         QCOMPARE(devices_->sound.openedCount.load(), devices_->sound.closedCount.load());
