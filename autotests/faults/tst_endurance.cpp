@@ -28,9 +28,8 @@ ReleaseModuleInterfaceInstanceFunction ReleaseModuleInterfaceInstance;
 namespace {
 
 constexpr int warmUpRuns = 5;
-// One forgotten dialog would be some 200 KiB a run, one forgotten recording a megabyte, one forgotten icon 4 KiB on disk. On
-// Linux no byte stays after a thousand runs; Wine's private memory, counted in pages, grew by 28 KiB in two hundred.
-constexpr qint64 liveBytesPerRun = 128;
+// One forgotten dialog would be some 200 KiB a run, one forgotten recording a megabyte, one forgotten icon 4 KiB on disk.
+constexpr qint64 liveBytesPerRun = LIVE_BYTES_PER_RUN;
 constexpr qint64 liveBytesInAll = 64 * 1024;             // caches that fill once; real devices took 19 KiB in fifty runs
 constexpr qint64 residentBytesAtMost = 24 * 1024 * 1024; // the allocators' own slack
 
