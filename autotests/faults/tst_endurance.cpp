@@ -5,7 +5,6 @@
 #include "autotests/support/fake_sal.h"
 #include "autotests/support/live_memory.h"
 #include "autotests/support/process_facts.h"
-#include "autotests/support/wave_files.h"
 #include "contract/exports.h"
 #include "contract/style_manager.h"
 #include "utils/screen_sources.h"
@@ -39,7 +38,7 @@ class IconStyle final : public utils::style_manager::StyleManager {
 public:
     std::string Stylesheet() const override
     {
-        return "QPushButton { image: url(\"" + QDir::currentPath().toStdString() + "/icon.svg\"); }";
+        return "QPushButton { image: url(\":/audio/resources/icons/close.svg\"); }";
     }
 };
 
@@ -81,7 +80,6 @@ void TestEndurance::initTestCase()
         devices_.emplace();
     }
     playbackSources().digit = &driven_runs::nextDigit;
-    wave_files::write(QStringLiteral("icon.svg"), "<svg xmlns=\"http://www.w3.org/2000/svg\"><path fill=\"#123456\"/></svg>");
     fake_sal::state().temporaryPath = QDir::currentPath().toStdString();
     utils::screenSources().highContrastOn = [] { return true; };
     module_ = GetModuleInterfaceInstance();
@@ -125,6 +123,7 @@ void TestEndurance::manyRunsLeaveEverythingAsItWas()
     if (QTest::currentTestFailed())
         return;
     QVERIFY(driven_runs::leftovers(process_facts::now().threads).empty());
+    QVERIFY(QDir(QStringLiteral("temp")).exists()); // icons were recoloured
     const QDir folder = QDir::current();
     const auto fileCount = [&folder] { return QDir(folder.filePath(QStringLiteral("temp"))).entryList(QDir::Files).size(); };
     const qsizetype files = fileCount();
