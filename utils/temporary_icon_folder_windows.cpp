@@ -18,6 +18,8 @@ std::wstring systemName(const QString &folder)
     // Only with this prefix does the system take as long a name as Qt has just made a folder of.
     if (name.size() >= MAX_PATH && !name.startsWith(QLatin1StringView("\\\\")))
         name.prepend(QLatin1StringView("\\\\?\\"));
+    else if (name.size() >= MAX_PATH && name[2] != QLatin1Char('?') && name[2] != QLatin1Char('.'))
+        name.replace(0, 2, QLatin1StringView("\\\\?\\UNC\\"));
     return name.toStdWString();
 }
 

@@ -181,6 +181,8 @@ void InteractionDialog::done(int result)
     isReady_ = false; // the end changes the window, and a change asks for events
     const QPointer<InteractionDialog> self(this);
     InputDialog::done(result);
+    if (self && isVisible())
+        utils::guarded([this] { hide(); }); // a filter that kept it open would keep it for ever
     if (self)
         stopJobs(); // a listener that throws may have kept `closing` from being told
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/cli/list_command.h"
 
+#include "audio/endpoints/endpoint_volume.h"
 #include "contract/property_keys.h"
 #include "host/cli/console.h"
 #include "host/cli/json_output.h"
@@ -11,8 +12,11 @@
 #include "host/precheck/capture_devices.h"
 #include "host/precheck/sound_state.h"
 
+#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonObject>
+
+#include <chrono>
 
 namespace host {
 
@@ -149,11 +153,19 @@ void printTable(const Listed &listed, Console &console)
     console.print(textTable(header, rows, console.isStyled() ? TableStyle::boldHeader : TableStyle::plain));
 }
 
+// One that refuses at once is not silent: the sound library may start it.
+bool isServerSilent()
+{
+    constexpr std::chrono::milliseconds rounding{50}; // of the waits that the bound is made of
+    QElapsedTimer asked;
+    asked.start();
+    return !isSoundServerAnswering() && asked.elapsed() >= (ostra::audio::passBound - rounding).count();
+}
+
 // Asked before the module starts the sound library, which would wait half a minute for a silent server.
 bool lookAround(ModuleLibrary &library, Listed &listed, bool &isComplete)
 {
-    listed.sound = readSoundState();
-    if (!listed.sound.isAnswering)
+    if (isServerSilent())
         return library.load();
     if (!library.open())
         return false;
@@ -161,7 +173,9 @@ bool lookAround(ModuleLibrary &library, Listed &listed, bool &isComplete)
     ostra::SystemComponentManager *manager = library.module()->componentManager();
     isComplete = manager == nullptr || list.refresh(*manager);
     listed.devices = list.devices();
-    listed.inputs = readCaptureDevices() + readMonitors();
+    listed.sound = readSoundState();
+    if (listed.sound.isAnswering)
+        listed.inputs = readCaptureDevices() + readMonitors();
     return true;
 }
 

@@ -23,7 +23,7 @@ constexpr std::chrono::milliseconds startBound{18'000};
 static_assert(startBound > VolumeLock::usualWait + 7 * ostra::audio::passBound);
 // Longer than the guardian's own bound, so that it is never killed at its work.
 constexpr std::chrono::milliseconds finishBound{20'000};
-static_assert(finishBound > guardianPatience.bound + 4 * ostra::audio::passBound);
+static_assert(finishBound > guardianPatience.bound + 5 * ostra::audio::passBound);
 
 constexpr std::chrono::milliseconds endBound{3000};
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "host/guardian/guardian_session.h"
 
+#include "host/guardian/guardian_log.h"
 #include "host/guardian/sound_server_identity.h"
 
 #include <QDir>
@@ -28,8 +29,12 @@ void settleNote(const NoteFile &note, EndpointVolumes absent, const QString &ser
 {
     if (absent.size() > absentLimit)
         absent.erase(absent.begin(), absent.end() - absentLimit); // the oldest come first
-    if (absent.empty() || !note.write({std::move(absent), server}))
-        note.remove();
+    const bool isAnyAbsent = !absent.empty();
+    if (isAnyAbsent && note.write({std::move(absent), server}))
+        return;
+    if (isAnyAbsent)
+        qCWarning(guardianLog, "the volumes of endpoints that are not there could not be noted and are forgotten");
+    note.remove();
 }
 
 } // namespace
@@ -62,8 +67,10 @@ void GuardianSession::keepUnrestored(const EndpointVolumes &former)
 {
     EndpointVolumes unrestored = stillRaised(former, saved_);
     for (const EndpointVolume &record : former) {
-        if (std::ranges::find(saved_, record.id, &EndpointVolume::id) == saved_.end())
-            unrestored.push_back(record); // not there just now
+        if (std::ranges::find(saved_, record.id, &EndpointVolume::id) != saved_.end())
+            continue;
+        unrestored.push_back(record); // not there just now
+        awaited_.push_back(record.id);
     }
     saved_ = ostra::audio::withNewcomers(std::move(unrestored), saved_);
 }
@@ -72,6 +79,8 @@ bool GuardianSession::noteVolumes()
 {
     server_ = soundServerIdentity();
     const std::optional<VolumeNote> former = note_.readFor(server_);
+    if (former && server_.isEmpty())
+        server_ = former->server; // not told just now
     const PutBack result = former ? putBackRaised(former->volumes) : PutBack{};
     leftovers_ = result.names;
     if (!readVolumes()) {
@@ -86,8 +95,25 @@ bool GuardianSession::noteVolumes()
     return false;
 }
 
+// An endpoint that came back during the run may have been set by its owner since its volume was noted: only where it stands
+// raised, the note is about it.
+void GuardianSession::leaveWhatCameBackChanged()
+{
+    EndpointVolumes current;
+    if (awaited_.empty() || ostra::audio::readEndpointVolumes(current) != 0)
+        return;
+    const EndpointVolumes raised = stillRaised(saved_, current);
+    const auto isIn = [](const EndpointVolumes &list, const std::u16string &id) {
+        return std::ranges::find(list, id, &EndpointVolume::id) != list.end();
+    };
+    std::erase_if(saved_, [&](const EndpointVolume &record) {
+        return std::ranges::find(awaited_, record.id) != awaited_.end() && isIn(current, record.id) && !isIn(raised, record.id);
+    });
+}
+
 PutBack GuardianSession::end(Ending ending)
 {
+    leaveWhatCameBackChanged();
     PutBack result = putBack(saved_, guardianPatience);
     if (ending == Ending::hostsLoss && result.isDone) {
         std::this_thread::sleep_for(settlingTime);
@@ -119,7 +145,7 @@ PutBack putBackLeftovers(const QString &stateFolder, QString &complaint, NoteOwn
         return {true, {}, {}, {}};
     const PutBack result = owner == NoteOwner::thisRun ? putBack(note->volumes, oneTry) : putBackRaised(note->volumes);
     if (result.isDone)
-        settleNote(file, result.absent, server);
+        settleNote(file, result.absent, server.isEmpty() ? note->server : server);
     else
         complaint = QStringLiteral("The volumes of an earlier run could not be put back yet.");
     return result;

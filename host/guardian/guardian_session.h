@@ -7,6 +7,9 @@
 
 #include <QString>
 
+#include <string>
+#include <vector>
+
 namespace host {
 
 /// The guardian's work from the noting to the putting back, without its process and pipes. One at a time per state folder, on
@@ -37,6 +40,7 @@ private:
     bool noteVolumes();
     bool readVolumes();
     void keepUnrestored(const ostra::audio::EndpointVolumes &former);
+    void leaveWhatCameBackChanged();
 
     NoteFile note_;
     VolumeLock lock_;
@@ -45,6 +49,7 @@ private:
     QString errorText_;
     QStringList leftovers_;
     ostra::audio::EndpointVolumes saved_;
+    std::vector<std::u16string> awaited_; ///< endpoints of earlier runs that were not there at the beginning
 };
 
 /// Whose note it is that is left.
@@ -53,9 +58,9 @@ enum class NoteOwner {
     formerRun, ///< as `putBackRaised`
 };
 
-/// Puts back what a note holds that no guardian looks after, in one try, and settles the note, as `GuardianSession::end` does, if
-/// that succeeded; else `complaint` says why not. Not done, without a try, while another guardian is at work: that one does it itself. A note of
-/// another sound server stays for that one.
+/// Puts back what a note holds that no guardian looks after, in one try, and settles the note, as `GuardianSession::end` does,
+/// if that succeeded; else `complaint` says why not. Not done, without a try, while another guardian is at work: that one does
+/// it itself. A note of another sound server stays for that one.
 PutBack putBackLeftovers(const QString &stateFolder, QString &complaint, NoteOwner owner = NoteOwner::formerRun);
 
 } // namespace host

@@ -136,10 +136,11 @@ PutBack putBackRaised(const EndpointVolumes &saved)
     EndpointVolumes others = ostra::audio::changedEndpoints(saved, current);
     std::erase_if(others, [&raised](const EndpointVolume &record) { return findById(raised, record.id) != nullptr; });
     PutBack result = putBack(raised, oneTry);
-    result.absent = absentFrom(current, saved);
+    for (EndpointVolume &record : absentFrom(current, saved))
+        result.absent.push_back(std::move(record));
     result.left = describeEndpoints(idsOf(others));
     for (const QString &name : std::as_const(result.left))
-        qCWarning(guardianLog, "the volume of %s was changed since an interrupted run and is left as it is",
+        qCWarning(guardianLog, "the volume of %s was changed since an earlier run and is left as it is",
                   qUtf8Printable(name));
     return result;
 }

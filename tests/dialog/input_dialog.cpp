@@ -61,19 +61,23 @@ void InputDialog::done(int result)
 
 void InputDialog::askWatcher()
 {
+    if (watcher_ == nullptr || hasFinished_)
+        return;
     const QPointer<InputDialog> self(this); // the host may run a loop while it is asked, and the dialog end there
     // Only the loop ends: whoever made the dialog closes it.
-    if (watcher_ != nullptr && wantsStop() && self && !hasFinished_)
+    if (wantsStop() && self && !hasFinished_)
         end(0, [this] { emit finished(0); });
 }
 
 // An exception must not unwind through the event dispatcher; a host that cannot answer any more ends the test.
 bool InputDialog::wantsStop() noexcept
 {
+    const QPointer<InputDialog> self(this);
     try {
         return watcher_->continueOnOutcome();
     } catch (...) {
-        hasWatcherFailed_ = true;
+        if (self && !hasFinished_) // an end that was there before the failure counts
+            hasWatcherFailed_ = true;
         return true;
     }
 }

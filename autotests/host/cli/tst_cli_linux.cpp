@@ -77,6 +77,7 @@ private slots:
     void saysThatTheSoundServerDoesNotAnswer();
     void listsNothingOfAFrozenSoundServer();
     void listsVolumesMuteAndDefault();
+    void asksTheServerWhateverDriverIsSet();
     void listsVolumeAndMuteOfAMicrophone();
     void listsMonitors();
     void takesALimitForNoLack_data();
@@ -214,6 +215,17 @@ void TestCliLinux::listsVolumesMuteAndDefault()
     QCOMPARE(device[QLatin1String("volumePercent")], QJsonValue(137));
     QCOMPARE(device[QLatin1String("muted")], QJsonValue(true));
     QCOMPARE(device[QLatin1String("default")], QJsonValue(true));
+}
+
+// The module chooses the driver by itself.
+void TestCliLinux::asksTheServerWhateverDriverIsSet()
+{
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    const auto unset = qScopeGuard([] { qunsetenv("SDL_AUDIODRIVER"); });
+    const CliRun run = runCli({QStringLiteral("list"), QStringLiteral("--json")});
+    const QJsonValue device = QJsonDocument::fromJson(run.output)[QLatin1String("devices")][0];
+    QCOMPARE(device[QLatin1String("virtual")], QJsonValue(true));
+    QVERIFY(device[QLatin1String("volumePercent")].isDouble());
 }
 
 void TestCliLinux::listsVolumeAndMuteOfAMicrophone()

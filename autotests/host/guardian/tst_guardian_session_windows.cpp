@@ -55,6 +55,8 @@ private slots:
     void putsBackNothingWhereNothingDiffers();
     void completesARestoreThatAnAddedEndpointStopped();
     void remembersAVanishedEndpointUntilItComesBack();
+    void leavesAnEndpointThatComesBackChanged_data();
+    void leavesAnEndpointThatComesBackChanged();
     void remembersNoMoreThanTheLatestVanishedEndpoints();
     void triesAgainAfterAFailure();
     void keepsTheNoteWhenAnEndpointRefuses();
@@ -147,6 +149,32 @@ void TestGuardianSessionWindows::remembersAVanishedEndpointUntilItComesBack()
     fake.endpoints.insert(fake.endpoints.begin(), unplugged); // as loud as it went
     QCOMPARE(putBackLeftovers(folder(), complaint).names, QStringList{QStringLiteral("Speakers")});
     QCOMPARE(fake.states(), before);
+    QVERIFY(!QFile::exists(note().path()));
+}
+
+void TestGuardianSessionWindows::leavesAnEndpointThatComesBackChanged_data()
+{
+    QTest::addColumn<float>("level");
+    QTest::addColumn<float>("levelAfterwards");
+    QTest::newRow("set by its owner meanwhile") << 0.6F << 0.6F;
+    QTest::newRow("as loud as it went") << 1.0F << before[0].level;
+}
+
+// In the midst of a later run.
+void TestGuardianSessionWindows::leavesAnEndpointThatComesBackChanged()
+{
+    QFETCH(const float, level);
+    FakeCoreAudio fake;
+    addAll(fake);
+    QVERIFY(note().write({{{before[0].level, before[0].muted, u"one", {}}}, {}}));
+    const auto unplugged = fake.endpoints.front();
+    fake.endpoints.erase(fake.endpoints.begin());
+    GuardianSession session(folder());
+    QVERIFY(session.begin());
+    unplugged->level = level;
+    fake.endpoints.insert(fake.endpoints.begin(), unplugged);
+    QVERIFY(session.end(Ending::normal).isDone);
+    QTEST(fake.endpoints.front()->level, "levelAfterwards");
     QVERIFY(!QFile::exists(note().path()));
 }
 
