@@ -31,14 +31,16 @@ void ListenerProcess::readLines()
         events_.append(QJsonDocument::fromJson(process_.readLine()).object());
 }
 
-QJsonObject ListenerProcess::waitFor(const QString &event)
+QJsonObject ListenerProcess::waitFor(const QString &event) { return waitForOneOf({event}); }
+
+QJsonObject ListenerProcess::waitForOneOf(const QStringList &events)
 {
     const QDeadlineTimer limit(limitMilliseconds);
     while (!limit.hasExpired()) {
         readLines();
         while (used_ < events_.size()) {
             const QJsonObject &next = events_.at(used_++);
-            if (next.value(QLatin1String("event")).toString() == event)
+            if (events.contains(next.value(QLatin1String("event")).toString()))
                 return next;
         }
         if (process_.state() == QProcess::NotRunning)

@@ -16,6 +16,8 @@ public:
     QProcess &process() { return process_; }
     /// Waits for the next event of that name; the others are kept. Empty when the program ended or 30 s have passed.
     QJsonObject waitFor(const QString &event);
+    /// The same for the next of several.
+    QJsonObject waitForOneOf(const QStringList &events);
     /// Every event that was read.
     const QList<QJsonObject> &events() const { return events_; }
     int countOf(const QString &event) const;

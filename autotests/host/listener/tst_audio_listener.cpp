@@ -5,6 +5,7 @@
 
 #include <SDL.h>
 
+#include <QJsonDocument>
 #include <QObject>
 #include <QTest>
 
@@ -118,10 +119,17 @@ void TestAudioListener::hearsWhatADevicePlays()
     const QJsonObject ready = listener.waitFor(QStringLiteral("ready"));
     QCOMPARE(textOf(ready, "source"), monitor);
     const Player player(language.toLatin1().constData());
+    const QString sound = QStringLiteral("sound"); // that is no digit
+    int tornCount = 0;
     for (const int digit : {4, 0, 9}) {
-        const qint64 begin = player.play(digit, gain);
+        qint64 begin = player.play(digit, gain);
         QVERIFY(begin > 0);
-        const QJsonObject event = listener.waitFor(QStringLiteral("digit"));
+        QJsonObject event = listener.waitForOneOf({QStringLiteral("digit"), sound});
+        if (textOf(event, "event") == sound && ++tornCount <= TORN_AT_MOST) {
+            qInfo("digit %d was torn: %s", digit, QJsonDocument(event).toJson(QJsonDocument::Compact).constData());
+            begin = player.play(digit, gain);
+            event = listener.waitForOneOf({QStringLiteral("digit"), sound});
+        }
         QCOMPARE(event.value(QLatin1String("digit")).toInt(-1), digit);
         const auto delay = static_cast<qint64>(event.value(QLatin1String("startMs")).toDouble()) - begin;
         QVERIFY2(delay > -100 && delay < 1000, qPrintable(QString::number(delay)));
@@ -132,7 +140,7 @@ void TestAudioListener::hearsWhatADevicePlays()
     listener.process().closeWriteChannel();
     QVERIFY(listener.waitForEnd());
     QCOMPARE(listener.countOf(QStringLiteral("digit")), 3);
-    QCOMPARE(listener.countOf(QStringLiteral("sound")), 0);
+    QCOMPARE(listener.countOf(sound), tornCount);
 }
 
 void TestAudioListener::hearsSilenceWhileNothingPlays()
