@@ -46,19 +46,6 @@ class Keys:
 
         return wait_until(f"the keyboard does not leave {before.path()}", look)
 
-    def leave(self, key, role):
-        """Presses `key` until the open window has given the keyboard to a `role`: one that comes too early for it is lost."""
-        for patience in (MENU_SECONDS, MENU_SECONDS, PATIENCE_SECONDS):
-            here = self.reader.active()
-            if here is None or here.role != role:
-                self.stage.press(key)
-            try:
-                return wait_until(f"no {role} gets the keyboard after {key}, which {here.path() if here else 'nothing'} had",
-                                  lambda: self.reader.active().role == role, patience)
-            except Failure as failure:
-                last = failure
-        raise last
-
     def open_menu(self, key, first):
         """Presses `key` until the menu is open whose first entry is `first`: one that comes while another menu closes is lost."""
         for patience in (MENU_SECONDS, MENU_SECONDS, PATIENCE_SECONDS):
