@@ -9,8 +9,8 @@
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QStringConverter>
 #include <QTemporaryFile>
-#include <QTextStream>
 
 #include <algorithm>
 #include <memory>
@@ -35,9 +35,11 @@ QString quotedPath(const QString &propertyValue)
 QString textOfFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!file.open(QIODevice::ReadOnly))
         return {};
-    return QTextStream(&file).readAll();
+    const QByteArray bytes = file.readAll();
+    QStringDecoder decode(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
+    return QString(decode(bytes)).remove(u'\r');
 }
 
 QString recoloured(QString svgText, const QString &colour)

@@ -58,6 +58,7 @@ private slots:
     void firstQuotedPathStandsForTheWholeValue();
     void filesGoWithTheirDialog();
     void writesUtf8WithLineFeeds();
+    void readsTheEncodingThatAMarkTells();
     void namesAFileWithoutABase();
     void refusesNamesThatCannotBeFiles_data();
     void refusesNamesThatCannotBeFiles();
@@ -214,6 +215,14 @@ void TestIconRecolouring::writesUtf8WithLineFeeds()
     QCOMPARE(bytesOf(recolouredFile(QStringLiteral("carriage_returns.svg"))), QByteArray("<svg fill=\"#ffffff\">\n</svg>\n"));
     QCOMPARE(bytesOf(recolouredFile(QStringLiteral("bad_utf8.svg"))),
              QByteArray("<svg fill=\"#ffffff\">\xC3\xA4\xEF\xBF\xBD</svg>\n"));
+}
+
+// The letter of UTF-16 whose second byte is that of a carriage return stays.
+void TestIconRecolouring::readsTheEncodingThatAMarkTells()
+{
+    const QByteArray expected("<svg fill=\"#ffffff\">\xC3\xA4\xE0\xB4\x85</svg>\n");
+    QCOMPARE(bytesOf(recolouredFile(QStringLiteral("marked_utf8.svg"))), expected);
+    QCOMPARE(bytesOf(recolouredFile(QStringLiteral("marked_utf16.svg"))), expected);
 }
 
 void TestIconRecolouring::namesAFileWithoutABase()
