@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QPixmapCache>
 #include <QTest>
 
 #include <optional>
@@ -32,13 +33,26 @@ constexpr qint64 liveBytesPerRun = LIVE_BYTES_PER_RUN;
 constexpr qint64 liveBytesInAll = 64 * 1024;             // caches that fill once; real devices took 19 KiB in fifty runs
 constexpr qint64 residentBytesAtMost = 24 * 1024 * 1024; // the allocators' own slack
 
+// Qt keeps an icon's pictures until its cache is full, at 10 MB, which would look like growth: a few runs fill this one. When a
+// picture has left it, Qt 6.4 still keeps its name and its key. Of the 669 bytes that a playback run left, heaptrack shows 663
+// as theirs; a microphone run leaves 988.
+constexpr int pictureCacheLimit = 40; // KB
+constexpr qint64 pictureNamesOf(Kind kind) { return kind == Kind::playback ? 704 : 1024; }
+
 int runCount() { return std::max(1, qEnvironmentVariableIntValue("ENDURANCE_RUNS")); }
 
-class IconStyle final : public utils::style_manager::StyleManager {
+bool &hasIcons()
+{
+    static bool has = false;
+    return has;
+}
+
+class SomeStyle final : public utils::style_manager::StyleManager {
 public:
     std::string Stylesheet() const override
     {
-        return "QPushButton { image: url(\":/audio/resources/icons/close.svg\"); }";
+        return hasIcons() ? "QPushButton { image: url(\":/audio/resources/icons/close.svg\"); }"
+                          : "QPushButton { color: #123456; }";
     }
 };
 
@@ -51,7 +65,7 @@ struct Measure {
 
 utils::style_manager::StyleManager *utils::style_manager::StyleManager::instance()
 {
-    static IconStyle style;
+    static SomeStyle style;
     return &style;
 }
 
@@ -79,6 +93,7 @@ void TestEndurance::initTestCase()
         qputenv("PULSE_SERVER", "none"); // the volumes are not what is measured here
         devices_.emplace();
     }
+    QPixmapCache::setCacheLimit(pictureCacheLimit);
     playbackSources().digit = &driven_runs::nextDigit;
     fake_sal::state().temporaryPath = QDir::currentPath().toStdString();
     utils::screenSources().highContrastOn = [] { return true; };
@@ -112,18 +127,26 @@ void TestEndurance::runOften(Kind kind, int count)
 void TestEndurance::manyRunsLeaveEverythingAsItWas_data()
 {
     QTest::addColumn<int>("kind");
-    QTest::newRow("playback") << int(Kind::playback);
-    QTest::newRow("microphone") << int(Kind::microphone);
+    QTest::addColumn<bool>("withIcons");
+    QTest::newRow("playback") << int(Kind::playback) << false;
+    QTest::newRow("microphone") << int(Kind::microphone) << false;
+    if (!devices_)
+        return; // icons know nothing of devices
+    QTest::newRow("playback, icons recoloured") << int(Kind::playback) << true;
+    QTest::newRow("microphone, icons recoloured") << int(Kind::microphone) << true;
 }
 
 void TestEndurance::manyRunsLeaveEverythingAsItWas()
 {
     QFETCH(const int, kind);
+    QFETCH(const bool, withIcons);
+    hasIcons() = withIcons;
+    QDir(QStringLiteral("temp")).removeRecursively(); // an earlier test's
     runOften(Kind(kind), devices_ ? warmUpRuns : 1);
     if (QTest::currentTestFailed())
         return;
     QVERIFY(driven_runs::leftovers(process_facts::now().threads).empty());
-    QVERIFY(QDir(QStringLiteral("temp")).exists()); // icons were recoloured
+    QCOMPARE(QDir(QStringLiteral("temp")).exists(), withIcons);
     const QDir folder = QDir::current();
     const auto fileCount = [&folder] { return QDir(folder.filePath(QStringLiteral("temp"))).entryList(QDir::Files).size(); };
     const qsizetype files = fileCount();
@@ -144,7 +167,8 @@ void TestEndurance::manyRunsLeaveEverythingAsItWas()
     QCOMPARE(fileCount(), files);
     QVERIFY(after.facts.threads <= before.facts.threads);
     QVERIFY(after.facts.handles <= before.facts.handles + 8); // the system opens some for itself now and then
-    QVERIFY(after.liveBytes - before.liveBytes < liveBytesInAll + runCount() * liveBytesPerRun);
+    const qint64 bytesPerRun = liveBytesPerRun + (withIcons ? pictureNamesOf(Kind(kind)) : 0);
+    QVERIFY(after.liveBytes - before.liveBytes < liveBytesInAll + runCount() * bytesPerRun);
     QVERIFY(qint64(after.facts.residentBytes) - qint64(before.facts.residentBytes) < residentBytesAtMost);
     if (devices_)
         QCOMPARE(devices_->sound.openedCount.load(), devices_->sound.closedCount.load());
