@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Clips are not judged: what the sound library makes of a file is what is opened and queued, and nothing else.
 #include "audio/audio_component.h"
+#include "audio/sdl_api.h"
 #include "audio/sound_clip.h"
 #include "autotests/support/fake_sdl.h"
 #include "autotests/support/hostile_waves.h"
@@ -40,6 +41,29 @@ struct Direct {
     SDL_AudioSpec spec{};
     Uint32 byteCount = 0;
     QByteArray content;
+};
+
+/// What was given to be played, and how often. One lives at a time.
+struct Queued {
+    Queued()
+    {
+        current = this;
+        sdl().queueAudio = [](SDL_AudioDeviceID id, const void *data, Uint32 byteCount) {
+            ++current->count;
+            current->deviceId = id;
+            current->hasSamples = data != nullptr;
+            current->content = QByteArray(static_cast<const char *>(data), static_cast<qsizetype>(byteCount));
+            return 0;
+        };
+    }
+
+    int count = 0;
+    SDL_AudioDeviceID deviceId = 0;
+    bool hasSamples = false;
+    QByteArray content;
+
+private:
+    static inline Queued *current = nullptr;
 };
 
 QByteArray contentOf(const ClipState &state)
@@ -119,11 +143,15 @@ void TestHostileClips::queuesWhatTheLibraryLoads()
     wave_files::write(hostileClip(), content);
     const Direct direct(hostileClip());
     const FakeSdl fake;
+    const Queued queued;
     AudioComponent component("Speakers");
     load(component, hostileDigit);
     QCOMPARE(textOf(fake.openedSpec), textOf(direct.spec));
     QCOMPARE(contentOf(component.clipState()), direct.content);
-    QCOMPARE(fake.count("queue 2 " + std::to_string(direct.byteCount) + (direct.hasSamples ? "" : " null")), 1);
+    QCOMPARE(queued.count, 1);
+    QCOMPARE(queued.deviceId, fake.nextDeviceId);
+    QCOMPARE(queued.hasSamples, direct.hasSamples);
+    QCOMPARE(queued.content, direct.content);
     QVERIFY(component.clipState().spec.freq > 0 && component.clipState().spec.channels > 0); // else the fallback sound's
     if (!direct.isLoaded)
         QCOMPARE(component.clipState().spec.freq, 22050);

@@ -2,10 +2,10 @@
 // What the built module leaves in its host's process when both of its dialogs were closed in the middle of their jobs: nothing.
 #include "autotests/support/polling_host.h"
 #include "autotests/support/process_facts.h"
+#include "autotests/support/theme_message.h"
 #include "autotests/support/wave_files.h"
 #include "contract/exports.h"
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -47,17 +47,6 @@ void startRecording(QWidget &dialog)
     button(pages->currentWidget(), "microphone_test_record_button")->click();
 }
 
-bool someFilterTakesThemeMessages()
-{
-    struct Message {
-        void *window = nullptr;
-        unsigned int number = 794; // WM_THEMECHANGED
-        char rest[64] = {};
-    } message;
-    qintptr result = 0;
-    return QAbstractEventDispatcher::instance()->filterNativeEvent("windows_generic_MSG", &message, &result);
-}
-
 struct Leftovers {
     std::size_t threads = process_facts::now().threads;
     int windows = process_facts::nativeWindowCount();
@@ -65,7 +54,7 @@ struct Leftovers {
     qsizetype widgets = QApplication::allWidgets().size();
     qsizetype timers = qApp->findChildren<QTimer *>().size();
     bool hasApartment = process_facts::isInApartment();
-    bool hasFilter = someFilterTakesThemeMessages();
+    bool hasFilter = theme_message::isTakenBySomeFilter();
 };
 
 } // namespace
@@ -77,7 +66,7 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
     void dialogsClosedInMidJobLeaveNothing();
-    void theCodeStaysAndNothingOfItRuns();
+    void theCodeStaysAndNothingMoreRuns();
 
 private:
     void runBoth();
@@ -163,7 +152,7 @@ void TestDialogLeftovers::dialogsClosedInMidJobLeaveNothing()
     QVERIFY(!after.hasFilter);
 }
 
-void TestDialogLeftovers::theCodeStaysAndNothingOfItRuns()
+void TestDialogLeftovers::theCodeStaysAndNothingMoreRuns()
 {
     const Leftovers before;
     library_.unload();

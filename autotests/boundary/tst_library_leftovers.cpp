@@ -54,7 +54,7 @@ class TestLibraryLeftovers : public QObject {
 private slots:
     void initTestCase();
     void roundsLeaveNoThreadAndNoWindow();
-    void theCodeStaysAndNothingOfItRuns();
+    void theCodeStaysAndNothingMoreRuns();
     void comIsWhatItWasBefore();
 
 private:
@@ -103,7 +103,7 @@ void TestLibraryLeftovers::roundsLeaveNoThreadAndNoWindow()
 }
 
 // Where threads start tells nothing about whose they are: in the compiler's run time. So they are counted.
-void TestLibraryLeftovers::theCodeStaysAndNothingOfItRuns()
+void TestLibraryLeftovers::theCodeStaysAndNothingMoreRuns()
 {
     const std::size_t threads = threadIds().size();
     FreeLibrary(library_);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/support/fake_sdl.h"
 #include "autotests/support/scripted_context.h"
+#include "autotests/support/theme_message.h"
 #include "autotests/support/wave_files.h"
 #include "contract/exports.h"
 #include "utils/dpi.h"
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -30,21 +30,6 @@ namespace {
 
 using Calls = std::vector<std::string>;
 
-// What a Windows message looks like to a filter: a window handle, then the number.
-struct Message {
-    void *window = nullptr;
-    unsigned int number = 794; // WM_THEMECHANGED
-    char rest[64] = {};
-};
-
-// The theme message goes to every native filter; the module's answer that they took it.
-bool someFilterTakesThemeMessages()
-{
-    Message message;
-    qintptr result = 0;
-    return QAbstractEventDispatcher::instance()->filterNativeEvent("windows_generic_MSG", &message, &result);
-}
-
 // Called again and again until a dialog's window is there.
 void closeTheDialogWhenItIsThere(QTimer &timer, QPointer<QWidget> &dialog, bool &isFiltered)
 {
@@ -53,7 +38,7 @@ void closeTheDialogWhenItIsThere(QTimer &timer, QPointer<QWidget> &dialog, bool 
         if (dialog.isNull())
             return;
         timer.stop();
-        isFiltered = someFilterTakesThemeMessages();
+        isFiltered = theme_message::isTakenBySomeFilter();
         dialog->findChild<QPushButton *>(QStringLiteral("audio_playback_test_header_close"))->click();
     });
     timer.start(10);
@@ -147,7 +132,7 @@ void TestModuleDialogs::aRunShowsTheRealDialogAndTheReleaseLeavesNothing()
     QCOMPARE(QApplication::allWidgets(), QWidgetList{&host});
     QVERIFY(host.findChildren<QObject *>().isEmpty());
     QVERIFY(qApp->findChildren<QTimer *>().isEmpty());
-    QVERIFY(!someFilterTakesThemeMessages());
+    QVERIFY(!theme_message::isTakenBySomeFilter());
 }
 
 QTEST_MAIN(TestModuleDialogs)

@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QThread>
 
+#include <algorithm>
 #include <csignal>
 
 namespace pulse_truth {
@@ -106,6 +107,25 @@ void remove(const QString &name)
                                                                           : QStringLiteral("source_name=") + name))
             run({QStringLiteral("unload-module"), columns[0]});
     }
+}
+
+// The short lists only: the words of the long ones are translated.
+QString numberOf(const QString &sinkName)
+{
+    const QString list = run({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sinks")});
+    for (const QString &line : list.split(u'\n')) {
+        if (line.section(u'\t', 1, 1) == sinkName)
+            return line.section(u'\t', 0, 0);
+    }
+    return {};
+}
+
+bool isPlayedOn(const QString &sinkName)
+{
+    const QString number = numberOf(sinkName);
+    const QString list = run({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sink-inputs")});
+    const QStringList streams = list.split(u'\n', Qt::SkipEmptyParts);
+    return std::ranges::any_of(streams, [&](const QString &stream) { return stream.section(u'\t', 1, 1) == number; });
 }
 
 FrozenServer::FrozenServer() { kill(serverProcess(), SIGSTOP); }

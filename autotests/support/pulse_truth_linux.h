@@ -37,6 +37,11 @@ void addSource(const QString &name);
 /// Removes a sink or microphone added by the two functions above.
 void remove(const QString &name);
 
+/// The number by which the server knows a sink; empty without such a sink.
+QString numberOf(const QString &sinkName);
+/// Whether a stream plays on that sink.
+bool isPlayedOn(const QString &sinkName);
+
 /// Freezes the server's process, and at the end of the scope wakes it and waits until it answers, 10 s at most.
 class FrozenServer {
 public:

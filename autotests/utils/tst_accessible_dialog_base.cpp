@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "autotests/support/theme_message.h"
 #include "contract/style_manager.h"
 #include "utils/accessible_dialog_base.h"
 #include "utils/high_contrast_event_filter.h"
@@ -9,7 +10,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QEvent>
 #include <QLabel>
 #include <QMetaMethod>
 #include <QObject>
@@ -24,6 +24,7 @@
 using namespace ostra::utils;
 using accessibility::AccessibleDialogBase;
 using event_filters::HighContrastEventFilter;
+using theme_message::RestyleCounter;
 
 namespace {
 
@@ -54,30 +55,9 @@ public:
     std::string Stylesheet() const override { return productSheet; }
 };
 
-class RestyleCounter final : public QObject {
-public:
-    explicit RestyleCounter(QObject &dialog) { dialog.installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::StyleChange ? 1 : 0;
-        return false;
-    }
-    int count = 0;
-};
-
-// What a Windows message looks like to a filter: a window handle, then the number.
-struct Message {
-    void *window = nullptr;
-    unsigned int number = 794; // WM_THEMECHANGED
-    char rest[64] = {};
-};
-
 void sendThemeMessage(const QObject &dialog)
 {
-    auto *filter = dialog.findChild<HighContrastEventFilter *>();
-    Message message;
-    qintptr result = 0;
-    QVERIFY(filter->nativeEventFilter("windows_generic_MSG", &message, &result));
+    QVERIFY(theme_message::isTakenBy(*dialog.findChild<HighContrastEventFilter *>()));
 }
 
 bool isInHighContrast(const QDialog &dialog) { return dialog.styleSheet() != QLatin1StringView(productSheet); }
@@ -292,7 +272,7 @@ void TestAccessibleDialogBase::nothingElseRestyles()
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     const RestyleCounter counter(dialog);
     screen().highContrast = true;
-    Message message;
+    theme_message::Message message;
     message.number = 795;
     qintptr result = 0;
     QVERIFY(!dialog.findChild<HighContrastEventFilter *>()->nativeEventFilter("windows_generic_MSG", &message, &result));
@@ -328,7 +308,7 @@ void TestAccessibleDialogBase::theInterfaceIsOneAndBoundToTheFirstDialog()
     QCOMPARE(interface->role(), QAccessible::Client);
     QCOMPARE(static_cast<int>(interface->role()), 10);
     QVERIFY(QAccessible::queryAccessibleInterface(first) != interface); // Qt knows another, its own
-    QTimer::singleShot(0, first, &QObject::deleteLater); // the next test finds it gone
+    QTimer::singleShot(0, first, &QObject::deleteLater);                // the next test finds it gone
     QTRY_VERIFY_WITH_TIMEOUT(interface->object() == nullptr, bound);
 }
 

@@ -7,7 +7,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <windows.h>
@@ -62,11 +61,10 @@ private:
     bool isThere_ = false;
 };
 
-int askInAProcessOfItsOwn(const QString &currentFolder, const QStringList &arguments = {})
+int askInAProcessOfItsOwn(const QStringList &arguments = {})
 {
     constexpr int limit = 30000; // ms
     QProcess process;
-    process.setWorkingDirectory(currentFolder);
     process.start(QCoreApplication::applicationDirPath() + QStringLiteral(ASKING_FOLDER "/ask_monitor_dpi.exe"), arguments);
     return process.waitForFinished(limit) && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
 }
@@ -130,13 +128,11 @@ void TestMonitorDpiWindows::loadsTheLibraryItselfWithoutAHostsLoader()
 
 void TestMonitorDpiWindows::withoutAHostsLoaderAPlantedLibraryIsNotLoaded()
 {
-    const QTemporaryDir current;
-    const PlantedLibrary inCurrentFolder(current.path());
     const PlantedLibrary besideTheProgram(QCoreApplication::applicationDirPath() + QStringLiteral(ASKING_FOLDER));
-    QVERIFY(inCurrentFolder.isThere() && besideTheProgram.isThere());
-    QCOMPARE(askInAProcessOfItsOwn(current.path()), int{ask_monitor_dpi::told});
+    QVERIFY(besideTheProgram.isThere());
+    QCOMPARE(askInAProcessOfItsOwn(), int{ask_monitor_dpi::told});
     const QString bare = QString::fromLatin1(ask_monitor_dpi::byBareName);
-    QCOMPARE(askInAProcessOfItsOwn(current.path(), {bare}), int{ask_monitor_dpi::plantedRan}); // the trap was set
+    QCOMPARE(askInAProcessOfItsOwn({bare}), int{ask_monitor_dpi::plantedRan}); // the trap was set
 }
 
 QTEST_GUILESS_MAIN(TestMonitorDpiWindows)

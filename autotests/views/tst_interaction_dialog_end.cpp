@@ -76,6 +76,20 @@ void queueEnds(Stage &stage, const QString &ends)
     }
 }
 
+// A host's filter that lets no window be closed.
+class CloseKeeper final : public QObject {
+public:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() != QEvent::Close)
+            return false;
+        ++keptCount;
+        event->ignore();
+        return true;
+    }
+    int keptCount = 0;
+};
+
 } // namespace
 
 class TestInteractionDialogEnd : public QObject {
@@ -94,6 +108,7 @@ private slots:
     void noSignalFollowsTheEnd();
     void theFirstOfEndsInOneTurnCounts_data();
     void theFirstOfEndsInOneTurnCounts();
+    void isHiddenWhereAFilterKeepsItOpen();
     void isDraggedByItsHeader_data();
     void isDraggedByItsHeader();
     void isNotDraggedByAnythingElse_data();
@@ -272,6 +287,17 @@ void TestInteractionDialogEnd::theFirstOfEndsInOneTurnCounts()
     QVERIFY(!stage.dialog->isAborted() && !stage.dialog->isVisible() && stage.isQuiet());
     QCOMPARE(finished.size(), isStoppedFirst ? 2 : 1);
     QTEST(finished.last().first().toInt(), "result");
+}
+
+void TestInteractionDialogEnd::isHiddenWhereAFilterKeepsItOpen()
+{
+    Stage stage;
+    CloseKeeper keeper;
+    qApp->installEventFilter(&keeper);
+    const int result = stage.resultOf([&] { stage.dialog->Cancel(); });
+    QCOMPARE(result, int(dialog_result::cancelled));
+    QCOMPARE(keeper.keptCount, 1);
+    QVERIFY(!stage.dialog->isVisible());
 }
 
 void TestInteractionDialogEnd::isDraggedByItsHeader_data()

@@ -3,6 +3,7 @@
 
 #include "autotests/support/fake_core_audio_windows.h"
 
+#include <QDir>
 #include <QFile>
 #include <QObject>
 #include <QRegularExpression>
@@ -58,6 +59,7 @@ private slots:
     void leavesAnEndpointThatComesBackChanged_data();
     void leavesAnEndpointThatComesBackChanged();
     void remembersNoMoreThanTheLatestVanishedEndpoints();
+    void saysWhereAVanishedEndpointCannotBeNoted();
     void triesAgainAfterAFailure();
     void keepsTheNoteWhenAnEndpointRefuses();
     void putsBackLeftovers();
@@ -191,6 +193,20 @@ void TestGuardianSessionWindows::remembersNoMoreThanTheLatestVanishedEndpoints()
     QVERIFY(kept);
     QCOMPARE(kept->volumes.size(), std::size_t{64});
     QCOMPARE(kept->volumes.back().id, gone.back().id);
+}
+
+void TestGuardianSessionWindows::saysWhereAVanishedEndpointCannotBeNoted()
+{
+    FakeCoreAudio fake;
+    addAll(fake);
+    GuardianSession session(folder());
+    QVERIFY(session.begin());
+    raise(fake);
+    fake.endpoints.erase(fake.endpoints.begin());
+    QVERIFY(QFile::remove(note().path()) && QDir().mkpath(note().path())); // no file can be written in the place of a folder
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("endpoints that are not there could not be noted")));
+    QVERIFY(session.end(Ending::normal).isDone);
+    QCOMPARE(fake.states(), (std::vector<Endpoint>{before[1], before[2]}));
 }
 
 void TestGuardianSessionWindows::triesAgainAfterAFailure()

@@ -3,12 +3,12 @@
 
 #include "audio/abandoned_workers.h"
 #include "autotests/support/process_facts.h"
+#include "autotests/support/theme_message.h"
 #include "autotests/support/wave_files.h"
 #include "contract/exports.h"
 #include "utils/pace.h"
 #include "views/digit_sequence.h"
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QDir>
 #include <QTest>
@@ -32,18 +32,6 @@ int nextDigit()
 }
 
 ostra::audio::VolumeGuard noGuard(std::int32_t) { return {}; }
-
-// The theme message goes to every native filter; one of the module's would take it.
-bool someFilterTakesThemeMessages()
-{
-    struct Message {
-        void *window = nullptr;
-        unsigned int number = 794; // WM_THEMECHANGED
-        char rest[64] = {};
-    } message;
-    qintptr result = 0;
-    return QAbstractEventDispatcher::instance()->filterNativeEvent("windows_generic_MSG", &message, &result);
-}
 
 } // namespace
 
@@ -96,7 +84,7 @@ QString ModuleStage::leftovers() const
         left << QLatin1String(widget->metaObject()->className());
     for (const QObject *object : qApp->findChildren<QTimer *>())
         left << QLatin1String(object->metaObject()->className());
-    if (someFilterTakesThemeMessages())
+    if (theme_message::isTakenBySomeFilter())
         left << QStringLiteral("a native event filter");
     return left.join(QStringLiteral(", "));
 }

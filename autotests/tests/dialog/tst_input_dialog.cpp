@@ -31,6 +31,8 @@ public:
     bool continueOnOutcome() override
     {
         askedAt.append(clock.elapsed());
+        if (whenAsked)
+            whenAsked();
         if (throws)
             throw std::runtime_error("the host is gone");
         return wantsStop;
@@ -39,6 +41,7 @@ public:
 
     bool wantsStop = false;
     bool throws = false;
+    std::function<void()> whenAsked;
     QList<qint64> askedAt; ///< ms since `clock` was started
     QElapsedTimer clock;
 };
@@ -113,6 +116,7 @@ private slots:
     void neverAsksAWatcherThatIsNull();
     void aWatcherThatSaysYesLeavesTheDialogVisible();
     void aWatcherThatThrowsEndsTheLoop();
+    void aWatcherThatFailsBehindAnEndChangesNothing();
     void aListenerThatThrowsAtTheEndIsToldAgain_data();
     void aListenerThatThrowsAtTheEndIsToldAgain();
     void raisesAboveAllOthersAndHidesAgain();
@@ -263,6 +267,22 @@ void TestInputDialog::aWatcherThatThrowsEndsTheLoop()
     dialog.setCancellationWatcher(&watcher);
     QCOMPARE(run(dialog, {}), 0);
     QCOMPARE(watcher.askedAt.size(), 1);
+    QVERIFY(dialog.hasWatcherFailed());
+}
+
+void TestInputDialog::aWatcherThatFailsBehindAnEndChangesNothing()
+{
+    InputDialog dialog(nullptr, nullptr);
+    Watcher watcher;
+    watcher.throws = true;
+    watcher.whenAsked = [&dialog] { dialog.done(5); }; // a host that runs a loop in which somebody ends the dialog
+    watcher.clock.start();
+    dialog.setCancellationWatcher(&watcher);
+    const QSignalSpy finished(&dialog, &QDialog::finished);
+    QCOMPARE(run(dialog, {}), 5);
+    QCOMPARE(watcher.askedAt.size(), 1);
+    QCOMPARE(finished, QList<QVariantList>{{5}});
+    QVERIFY(!dialog.hasWatcherFailed());
 }
 
 void TestInputDialog::aListenerThatThrowsAtTheEndIsToldAgain_data()
