@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t byte
 {
     static const PatternOracle oracle;
     const std::string line(fuzz::chars(data), byteCount);
-    require(configLineCode(line) == oracle.code(line), "the code is that of the patterns");
+    require(configLineCode(line, configMarks(line)) == oracle.code(line), "the code is that of the patterns");
     require(isBlankConfigLine(line) == oracle.isBlank(line), "blank is what the pattern takes for blank");
 
     const auto section = findSectionName(line);

@@ -116,11 +116,11 @@ bool isKeyWithoutValue(std::string_view line) noexcept
     return wordEnd > 0 && isAt(line, equals, '=') && afterBlanks(line, equals + 1) == line.size();
 }
 
-std::uint32_t bracketCode(std::string_view line, bool hasOpening, bool hasClosing) noexcept
+std::uint32_t bracketCode(std::string_view line, const ConfigMarks &marks) noexcept
 {
-    if (!hasClosing)
+    if (!marks.hasClosing)
         return touchesWord(line, '[') ? 1007 : 0;
-    if (!hasOpening)
+    if (!marks.hasOpening)
         return touchesWord(line, ']') ? 1008 : 0;
     if (hasReversedBrackets(line))
         return 1009;
@@ -142,25 +142,27 @@ std::string_view withoutComment(std::string_view line) noexcept { return line.su
 
 bool isBlankConfigLine(std::string_view line) noexcept { return afterBlanks(line, 0) == line.size(); }
 
-// The first rule that fires decides. Rules that need a mark the line lacks are left out: they cannot fire.
-std::uint32_t configLineCode(std::string_view line) noexcept
+ConfigMarks configMarks(std::string_view line) noexcept
 {
-    const bool hasOpening = contains(line, '[');
-    const bool hasClosing = contains(line, ']');
-    const bool hasBracket = hasOpening || hasClosing;
-    const bool hasEquals = contains(line, '=');
-    if (!hasBracket && !hasEquals)
+    return {contains(line, '['), contains(line, ']'), contains(line, '=')};
+}
+
+// The first rule that fires decides. Rules that need a mark the line lacks are left out: they cannot fire.
+std::uint32_t configLineCode(std::string_view line, const ConfigMarks &marks) noexcept
+{
+    const bool hasBracket = marks.hasOpening || marks.hasClosing;
+    if (!hasBracket && !marks.hasEquals)
         return 1010;
-    if (hasOpening && isMarkRepeated(line, '['))
+    if (marks.hasOpening && isMarkRepeated(line, '['))
         return 1001;
-    if (hasClosing && isMarkRepeated(line, ']'))
+    if (marks.hasClosing && isMarkRepeated(line, ']'))
         return 1002;
-    if (hasEquals && isMarkRepeated(line, '='))
+    if (marks.hasEquals && isMarkRepeated(line, '='))
         return 1003;
-    if (hasEquals && hasBracket && mixesBracketAndEquals(line))
+    if (marks.hasEquals && hasBracket && mixesBracketAndEquals(line))
         return 1006;
-    const std::uint32_t code = hasBracket ? bracketCode(line, hasOpening, hasClosing) : 0;
-    if (code != 0 || !hasEquals)
+    const std::uint32_t code = hasBracket ? bracketCode(line, marks) : 0;
+    if (code != 0 || !marks.hasEquals)
         return code;
     return pairCode(line);
 }
@@ -169,7 +171,7 @@ ConfigParseResult validateConfigLine(std::string_view line, std::int32_t lineNum
 {
     ConfigParseResult result;
     result.fileRead = true;
-    result.code = configLineCode(line);
+    result.code = configLineCode(line, configMarks(line));
     result.line = result.isError() ? lineNumber : -1;
     return result;
 }

@@ -38,14 +38,24 @@ struct ConfigPair {
     std::string_view value;
 };
 
+/// Which of the marks that have a meaning the line holds.
+struct ConfigMarks {
+    bool hasOpening = false; ///< "["
+    bool hasClosing = false; ///< "]"
+    bool hasEquals = false;  ///< "="
+};
+
 /// The line without its comment: everything before the first ";". There is no quoting.
 std::string_view withoutComment(std::string_view line) noexcept;
 
 /// True when the line is empty or holds blanks only.
 bool isBlankConfigLine(std::string_view line) noexcept;
 
-/// Syntax code of a line without comment: 0, or 1001-1003, 1006-1012 or 1014. A blank line gives 1010.
-std::uint32_t configLineCode(std::string_view line) noexcept;
+/// The marks of a line without comment: looked for once, as a line may be millions of bytes long.
+ConfigMarks configMarks(std::string_view line) noexcept;
+
+/// Syntax code of a line without comment: 0, or 1001-1003, 1006-1012 or 1014. A blank line gives 1010. `marks` are the line's.
+std::uint32_t configLineCode(std::string_view line, const ConfigMarks &marks) noexcept;
 
 /// `configLineCode` as a result: `fileRead` true, `line` the given number for a rejected line and -1 otherwise.
 ConfigParseResult validateConfigLine(std::string_view line, std::int32_t lineNumber);

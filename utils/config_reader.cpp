@@ -66,10 +66,13 @@ ConfigTextParser::Rejection ConfigTextParser::parseLine(std::string_view line)
     line = withoutComment(line);
     if (isBlankConfigLine(line))
         return std::nullopt;
-    if (const std::uint32_t code = configLineCode(line); code != 0)
+    const ConfigMarks marks = configMarks(line);
+    if (const std::uint32_t code = configLineCode(line, marks); code != 0)
         return rejected(code);
-    if (const auto name = findSectionName(line))
-        return openSection(*name);
+    if (marks.hasOpening) {
+        if (const auto name = findSectionName(line))
+            return openSection(*name);
+    }
     if (const auto pair = findKeyAndValue(line))
         return storePair(*pair);
     return std::nullopt;
@@ -114,6 +117,8 @@ std::string_view view(const QByteArray &bytes) { return {bytes.constData(), stat
 /// inside a sequence of bytes spoils the sequence.
 QByteArray decoded(QByteArray bytes)
 {
+    if (isAsciiWithoutCarriageReturn(view(bytes))) // most files; looked for in one go
+        return bytes;
     if (bytes.startsWith(byteOrderMark))
         bytes.remove(0, byteOrderMark.size());
     if (!isUtf8(view(bytes)))

@@ -52,10 +52,11 @@ std::size_t sequenceByteCount(std::string_view bytes, std::size_t at) noexcept
     return isContinuationAt(bytes, at + 3) ? 4 : 0;
 }
 
+constexpr std::uint64_t highBits = 0x8080808080808080U;
+
 /// First position from `at` on that is not ASCII; eight bytes at a time, as most files are ASCII throughout.
 std::size_t afterAscii(std::string_view bytes, std::size_t at) noexcept
 {
-    constexpr std::uint64_t highBits = 0x8080808080808080U;
     std::uint64_t block = 0;
     while (bytes.size() - at >= sizeof block) {
         std::memcpy(&block, bytes.data() + at, sizeof block);
@@ -84,6 +85,25 @@ std::size_t afterWellFormed(std::string_view bytes, std::size_t at) noexcept
 } // namespace
 
 bool isUtf8(std::string_view bytes) noexcept { return afterWellFormed(bytes, 0) == bytes.size(); }
+
+// Eight bytes at a time. The "xor" makes zeros of carriage returns, and of ASCII bytes only a zero gets its highest bit set
+// when one is taken from it.
+bool isAsciiWithoutCarriageReturn(std::string_view bytes) noexcept
+{
+    constexpr std::uint64_t ones = 0x0101010101010101U;
+    std::uint64_t block = 0;
+    while (bytes.size() >= sizeof block) {
+        std::memcpy(&block, bytes.data(), sizeof block);
+        if (((block | ((block ^ (ones * '\r')) - ones)) & highBits) != 0)
+            return false;
+        bytes.remove_prefix(sizeof block);
+    }
+    for (std::size_t at = 0; at < bytes.size(); ++at) {
+        if (byteAt(bytes, at) >= 0x80 || bytes[at] == '\r')
+            return false;
+    }
+    return true;
+}
 
 std::string repairedUtf8(std::string_view bytes)
 {

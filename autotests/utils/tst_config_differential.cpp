@@ -102,7 +102,7 @@ private:
 void TestConfigDifferential::compare(const std::string &line)
 {
     const std::uint32_t code = oracle_.code(line);
-    QVERIFY2(configLineCode(line) == code, "code: " + shown(line));
+    QVERIFY2(configLineCode(line, configMarks(line)) == code, "code: " + shown(line));
     QVERIFY2(isBlankConfigLine(line) == oracle_.isBlank(line), "blank: " + shown(line));
     const auto section = oracle_.section(line);
     QVERIFY2(copied(findSectionName(line)) == section, "section: " + shown(line));

@@ -128,7 +128,7 @@ void TestConfigLine::rejectsOrAccepts()
 {
     QFETCH(std::string, line);
     QFETCH(std::uint32_t, code);
-    QCOMPARE(configLineCode(line), code);
+    QCOMPARE(configLineCode(line, configMarks(line)), code);
     QCOMPARE(validateConfigLine(line, 7).code, code);
 }
 

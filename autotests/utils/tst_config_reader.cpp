@@ -74,6 +74,7 @@ private slots:
     void secondByteOrderMarkIsText();
     void replacesMalformedUtf8_data();
     void replacesMalformedUtf8();
+    void knowsPlainTextByEachByteAtEachPlace();
     void decodesLikeATextStream();
     void ignoresTheLocale();
 
@@ -349,6 +350,22 @@ void TestConfigReader::replacesMalformedUtf8()
     QCOMPARE(getConfigValue(table, "", "K"), expected);
     QVERIFY(!isUtf8(value));
     QVERIFY(isUtf8(expected));
+}
+
+void TestConfigReader::knowsPlainTextByEachByteAtEachPlace()
+{
+    QVERIFY(isAsciiWithoutCarriageReturn(""));
+    for (int value = 0; value < 256; ++value) {
+        for (std::size_t at = 0; at < 19; ++at) { // two blocks of eight bytes and a rest
+            for (const char other : {'\0', 'a', '\x0C', '\x7F'}) {
+                std::string text(19, other);
+                text[at] = static_cast<char>(value);
+                const bool isPlain = value < 0x80 && value != '\r';
+                QVERIFY2(isAsciiWithoutCarriageReturn(text) == isPlain,
+                         qPrintable(QStringLiteral("%1 at %2").arg(value).arg(at)));
+            }
+        }
+    }
 }
 
 void TestConfigReader::decodesLikeATextStream()
