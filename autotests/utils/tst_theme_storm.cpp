@@ -25,8 +25,11 @@ constexpr int bound = 10000; // ms; the designed delay is 100
 constexpr int messageCount = 100;
 #ifdef Q_OS_WIN
 constexpr std::size_t handleSlack = 8; // the system opens some for itself now and then; Wine tells of none at all
+// Windows has a thread for precise timers, of which each change takes one; it ends a while after them.
+constexpr int threadEndLimit = bound;
 #else
 constexpr std::size_t handleSlack = 0;
+constexpr int threadEndLimit = 0;
 #endif
 
 bool &isHighContrast()
@@ -89,7 +92,9 @@ void TestThemeStorm::holdsNoMoreThan(const process_facts::Facts &before, std::si
 {
     const process_facts::Facts facts = process_facts::now();
     QVERIFY2(facts.handles <= before.handles + handleCount + handleSlack, process_facts::text(facts).c_str());
-    QVERIFY2(facts.threads <= before.threads, process_facts::text(facts).c_str());
+    // Windows has a thread for precise timers, of which each change takes one; it ends a while after the last.
+    QTRY_VERIFY2_WITH_TIMEOUT(process_facts::now().threads <= before.threads, process_facts::text(process_facts::now()).c_str(),
+                              threadEndLimit);
 }
 
 // Two switches never share a file, since the dialog may still paint with the one before; so files grow while it lives, by one

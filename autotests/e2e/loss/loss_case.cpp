@@ -227,6 +227,7 @@ void LossCase::checkMicrophone()
     checkMessages(plan_.isLoss());
     if (plan_.isLoss())
         return checkTold();
+    findings_.expectAtMost(microphonePerson_->statusCount(), 1, "the number of statuses");
     findings_.expectEqual(microphonePerson_->lostCount(), 0, "the number of signals of a lost device");
     findings_.expectAtMost(microphonePerson_->longestSilenceMs(), usuallyAtMostMs, "the time without an event");
     findings_.expectAtMost(microphonePerson_->endMs() - closeMs_, answerLimitMs, "the time until the dialog's answer");

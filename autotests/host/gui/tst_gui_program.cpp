@@ -83,7 +83,8 @@ Outcome TestGuiProgram::run(const QStringList &arguments, const std::function<vo
         return {};
     if (whileRunning)
         whileRunning(process);
-    if (!process.waitForFinished(patienceMilliseconds) || process.exitStatus() != QProcess::NormalExit) {
+    const bool hasEnded = process.state() == QProcess::NotRunning || process.waitForFinished(patienceMilliseconds);
+    if (!hasEnded || process.exitStatus() != QProcess::NormalExit) {
         process.kill();
         process.waitForFinished();
         return {-1, process.readAllStandardOutput(), process.readAllStandardError() + process.errorString().toUtf8()};
