@@ -59,6 +59,7 @@ private slots:
     void filesGoWithTheirDialog();
     void writesUtf8WithLineFeeds();
     void readsTheEncodingThatAMarkTells();
+    void leavesADrawingOutsideOfTheResourcesAlone();
     void namesAFileWithoutABase();
     void refusesNamesThatCannotBeFiles_data();
     void refusesNamesThatCannotBeFiles();
@@ -223,6 +224,16 @@ void TestIconRecolouring::readsTheEncodingThatAMarkTells()
     const QByteArray expected("<svg fill=\"#ffffff\">\xC3\xA4\xE0\xB4\x85</svg>\n");
     QCOMPARE(bytesOf(recolouredFile(QStringLiteral("marked_utf8.svg"))), expected);
     QCOMPARE(bytesOf(recolouredFile(QStringLiteral("marked_utf16.svg"))), expected);
+}
+
+// What a stylesheet could be made to name: a drawing of any size and content.
+void TestIconRecolouring::leavesADrawingOutsideOfTheResourcesAlone()
+{
+    QFile file(root_->filePath(QStringLiteral("outside.svg")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("<path fill=\"#123456\"/>") > 0);
+    file.close();
+    const QString value = QStringLiteral("url(\"%1\")").arg(file.fileName());
+    QCOMPARE(recolourIcon(dialog_.get(), value, white), value);
 }
 
 void TestIconRecolouring::namesAFileWithoutABase()
