@@ -2,9 +2,11 @@
 #include "utils/config_line.h"
 
 #include "utils/ascii_text.h"
+#include "utils/byte_blocks.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
 namespace ostra::utils {
 
@@ -13,6 +15,17 @@ namespace {
 constexpr std::size_t none = std::string_view::npos;
 
 bool contains(std::string_view line, char mark) noexcept { return line.find(mark) != none; }
+
+bool hasAnyBracket(std::string_view line) noexcept
+{
+    while (line.size() >= byte_blocks::byteCount) {
+        const std::uint64_t block = byte_blocks::firstOf(line);
+        if (byte_blocks::hasZero(block ^ byte_blocks::allOf('[')) || byte_blocks::hasZero(block ^ byte_blocks::allOf(']')))
+            return true;
+        line.remove_prefix(byte_blocks::byteCount);
+    }
+    return std::ranges::any_of(line, [](char byte) { return byte == '[' || byte == ']'; });
+}
 
 bool isAt(std::string_view line, std::size_t at, char mark) noexcept { return at < line.size() && line[at] == mark; }
 
@@ -144,7 +157,8 @@ bool isBlankConfigLine(std::string_view line) noexcept { return afterBlanks(line
 
 ConfigMarks configMarks(std::string_view line) noexcept
 {
-    return {contains(line, '['), contains(line, ']'), contains(line, '=')};
+    const bool hasBrackets = hasAnyBracket(line); // most lines have none
+    return {hasBrackets && contains(line, '['), hasBrackets && contains(line, ']'), contains(line, '=')};
 }
 
 // The first rule that fires decides. Rules that need a mark the line lacks are left out: they cannot fire.

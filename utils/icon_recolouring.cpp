@@ -5,6 +5,7 @@
 #include "utils/application_folders.h"
 #include "utils/guarded.h"
 #include "utils/temporary_icon_folder.h"
+#include "utils/utf8_text.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -13,6 +14,7 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 
 namespace ostra::utils {
@@ -32,25 +34,31 @@ QString quotedPath(const QString &propertyValue)
     return {};
 }
 
-QString textOfFile(const QString &path)
+// As UTF-8; a mark at its beginning tells another encoding. Most drawings are taken as they are.
+QByteArray textOfFile(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    const QByteArray bytes = file.readAll();
-    QStringDecoder decode(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
-    return QString(decode(bytes)).remove(u'\r');
+    QByteArray bytes = file.readAll();
+    const auto marked = QStringConverter::encodingForData(bytes);
+    if (marked || !isUtf8({bytes.constData(), static_cast<std::size_t>(bytes.size())})) {
+        QStringDecoder decode(marked.value_or(QStringConverter::Utf8));
+        bytes = QString(decode(bytes)).toUtf8();
+    }
+    bytes.removeIf([](char byte) { return byte == '\r'; });
+    return bytes;
 }
 
-QString recoloured(QString svgText, const QString &colour)
+QByteArray recoloured(QByteArray svgText, const QByteArray &colour)
 {
-    constexpr QLatin1StringView fill("fill=\"");
+    constexpr QByteArrayView fill("fill=\"");
     const qsizetype start = svgText.indexOf(fill);
-    const qsizetype end = start < 0 ? -1 : svgText.indexOf(u'"', start + fill.size());
-    const QString oldColour = end < 0 ? QString() : svgText.mid(start + fill.size(), end - start - fill.size());
+    const qsizetype end = start < 0 ? -1 : svgText.indexOf('"', start + fill.size());
+    const QByteArray oldColour = end < 0 ? QByteArray() : svgText.mid(start + fill.size(), end - start - fill.size());
     if (oldColour.isEmpty()) // an empty text would be found between all characters
         return svgText;
-    return svgText.replace(oldColour, colour, Qt::CaseSensitive);
+    return svgText.replace(oldColour, colour);
 }
 
 QString temporaryFolder()
@@ -78,21 +86,29 @@ bool isFileStem(const QString &baseName)
     return canStandInUrl(baseName) && !baseName.contains(u':');
 }
 
-bool writeText(QTemporaryFile &file, const QString &text)
+QTemporaryFile *writeNewFile(QObject *dialog, const QString &baseName, const QByteArray &bytes, const QString &folder)
 {
-    const QByteArray bytes = text.toUtf8();
-    return file.write(bytes) == bytes.size() && file.flush();
+    if (!isFileStem(baseName) || !ensureTemporaryIconFolder(folder))
+        return nullptr;
+    const QString stem = baseName.isEmpty() ? QStringLiteral("temp_svg") : baseName;
+    auto file = std::make_unique<QTemporaryFile>(folder + u'/' + stem + QStringLiteral("_XXXXXX.svg"));
+    // Asking for its name gives it one: on Linux it is made without.
+    if (!file->open() || file->fileName().isEmpty() || !canStandInUrl(file->fileName()) || file->write(bytes) != bytes.size() ||
+        !file->flush())
+        return nullptr;
+    file->setParent(dialog);
+    return file.release();
 }
 
 } // namespace
 
 QString recolourIcon(QObject *dialog, const QString &propertyValue, const QString &colour)
 {
-    const QString svgText = textOfFile(quotedPath(propertyValue));
-    if (svgText.isEmpty() || svgText.contains(QChar::Null)) // a zero character: a bitmap, which must not pass through as text
+    const QByteArray svgText = textOfFile(quotedPath(propertyValue));
+    if (svgText.isEmpty() || svgText.contains('\0')) // a zero character: a bitmap, which must not pass through as text
         return propertyValue;
     const QString baseName = iconBaseName(propertyValue);
-    QTemporaryFile *file = writeTemporarySvg(dialog, baseName, recoloured(svgText, colour), temporaryFolder());
+    QTemporaryFile *file = writeNewFile(dialog, baseName, recoloured(svgText, colour.toUtf8()), temporaryFolder());
     return file == nullptr ? propertyValue : QStringLiteral("url(\"") + file->fileName() + QStringLiteral("\")");
 }
 
@@ -108,15 +124,7 @@ QString iconBaseName(const QString &propertyValue)
 
 QTemporaryFile *writeTemporarySvg(QObject *dialog, const QString &baseName, const QString &svgText, const QString &folder)
 {
-    if (!isFileStem(baseName) || !ensureTemporaryIconFolder(folder))
-        return nullptr;
-    const QString stem = baseName.isEmpty() ? QStringLiteral("temp_svg") : baseName;
-    auto file = std::make_unique<QTemporaryFile>(folder + u'/' + stem + QStringLiteral("_XXXXXX.svg"));
-    // Asking for its name gives it one: on Linux it is made without.
-    if (!file->open() || file->fileName().isEmpty() || !canStandInUrl(file->fileName()) || !writeText(*file, svgText))
-        return nullptr;
-    file->setParent(dialog);
-    return file.release();
+    return writeNewFile(dialog, baseName, svgText.toUtf8(), folder);
 }
 
 } // namespace ostra::utils

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "utils/utf8_text.h"
 
+#include "utils/byte_blocks.h"
+
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace ostra::utils {
 
@@ -52,18 +54,11 @@ std::size_t sequenceByteCount(std::string_view bytes, std::size_t at) noexcept
     return isContinuationAt(bytes, at + 3) ? 4 : 0;
 }
 
-constexpr std::uint64_t highBits = 0x8080808080808080U;
-
 /// First position from `at` on that is not ASCII; eight bytes at a time, as most files are ASCII throughout.
 std::size_t afterAscii(std::string_view bytes, std::size_t at) noexcept
 {
-    std::uint64_t block = 0;
-    while (bytes.size() - at >= sizeof block) {
-        std::memcpy(&block, bytes.data() + at, sizeof block);
-        if ((block & highBits) != 0)
-            break;
-        at += sizeof block;
-    }
+    while (bytes.size() - at >= byte_blocks::byteCount && (byte_blocks::firstOf(bytes.substr(at)) & byte_blocks::highBits) == 0)
+        at += byte_blocks::byteCount;
     while (at < bytes.size() && byteAt(bytes, at) < 0x80)
         ++at;
     return at;
@@ -86,23 +81,15 @@ std::size_t afterWellFormed(std::string_view bytes, std::size_t at) noexcept
 
 bool isUtf8(std::string_view bytes) noexcept { return afterWellFormed(bytes, 0) == bytes.size(); }
 
-// Eight bytes at a time. The "xor" makes zeros of carriage returns, and of ASCII bytes only a zero gets its highest bit set
-// when one is taken from it.
 bool isAsciiWithoutCarriageReturn(std::string_view bytes) noexcept
 {
-    constexpr std::uint64_t ones = 0x0101010101010101U;
-    std::uint64_t block = 0;
-    while (bytes.size() >= sizeof block) {
-        std::memcpy(&block, bytes.data(), sizeof block);
-        if (((block | ((block ^ (ones * '\r')) - ones)) & highBits) != 0)
+    while (bytes.size() >= byte_blocks::byteCount) {
+        const std::uint64_t block = byte_blocks::firstOf(bytes);
+        if ((block & byte_blocks::highBits) != 0 || byte_blocks::hasZero(block ^ byte_blocks::allOf('\r')))
             return false;
-        bytes.remove_prefix(sizeof block);
+        bytes.remove_prefix(byte_blocks::byteCount);
     }
-    for (std::size_t at = 0; at < bytes.size(); ++at) {
-        if (byteAt(bytes, at) >= 0x80 || bytes[at] == '\r')
-            return false;
-    }
-    return true;
+    return std::ranges::none_of(bytes, [](char byte) { return static_cast<unsigned char>(byte) >= 0x80 || byte == '\r'; });
 }
 
 std::string repairedUtf8(std::string_view bytes)
