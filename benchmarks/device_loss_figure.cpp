@@ -114,7 +114,7 @@ void deviceLossFigure(const QStringList &arguments)
         return;
     const bool areAllReported = static_cast<qsizetype>(delays.size()) == arguments.size() - 1;
     const double longest = *std::max_element(delays.begin(), delays.end());
-    print({"device lost → status signal, the longest", "SDL's own flag + the prescribed poll of 500 ms", "≤ 520 ms",
+    print({"playing device lost → status signal, the longest", "SDL's own flag + the prescribed poll of 500 ms", "≤ 520 ms",
            shown(longest) + " ms",
            shown(quantile(delays, 0.25)) + "–" + shown(quantile(delays, 0.75)) + " ms, median " + shown(median(delays)) +
                ", in " + std::to_string(delays.size()) + " of " + std::to_string(arguments.size() - 1) + " losses",

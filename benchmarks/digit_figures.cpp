@@ -23,15 +23,14 @@ double secondsToTransform(measure::RealFft &fft, std::span<const float> window)
 }
 
 void compareWith(const measure::MatchedFilter &filter, const measure::MonoSound &capture, const char *name,
-                 std::vector<float> window, bool isGoal)
+                 std::vector<float> window)
 {
     window.resize(window.size() / 2 * 2);
     measure::RealFft fft(window.size());
     const Comparison comparison =
         compare([&] { return fastest([&] { return secondsOf([&] { static_cast<void>(filter.recognise(capture)); }); }); },
                 [&] { return fastest([&] { return secondsToTransform(fft, window); }); });
-    const Row row = ratioRow("the operator's decision on a digit", name, 1.2, comparison);
-    print(isGoal ? row : withoutGoal(row));
+    print(ratioRow("the operator's decision on a digit", name, 1.2, comparison));
 }
 
 } // namespace
@@ -41,9 +40,9 @@ void digitFigures()
     const measure::DigitClips clips = digitClips();
     const measure::MatchedFilter filter(clips);
     const measure::MonoSound capture = digitCapture(clips);
-    compareWith(filter, capture, "12 transforms by KissFFT of the window as captured, 48 kHz", capture.samples, true);
+    compareWith(filter, capture, "12 transforms by KissFFT of the window as captured, 48 kHz", capture.samples);
     compareWith(filter, capture, "12 transforms by KissFFT of the window at 8 kHz, where it is compared",
-                measure::toAnalysisRate(capture.samples, capture.sampleRate), false);
+                measure::toAnalysisRate(capture.samples, capture.sampleRate));
 }
 
 } // namespace bench

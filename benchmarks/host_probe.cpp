@@ -2,13 +2,12 @@
 // A host of the smallest kind, which loads the module as every host does. Prints what it was asked to measure.
 #include "autotests/support/live_memory.h"
 #include "autotests/support/scripted_context.h"
+#include "benchmarks/bare_listing.h"
 #include "benchmarks/loaded_library.h"
 #include "benchmarks/pairs.h"
 #include "benchmarks/resident_memory.h"
 #include "contract/abstract_widget_wrapper.h"
 #include "contract/exports.h"
-
-#include <SDL.h>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -42,25 +41,11 @@ int refresh(const char *modulePath)
     return 0;
 }
 
-void openEachDevice(const char *driver)
+/// memory-bare SDL_LIBRARY DRIVER: kilobytes of a host with Qt and the sound library, without the module.
+int memoryBare(const char *libraryPath, const char *driver)
 {
-    SDL_setenv("SDL_AUDIODRIVER", driver, 1);
-    SDL_InitSubSystem(SDL_INIT_AUDIO);
-    SDL_AudioSpec spec{};
-    spec.freq = 48000;
-    spec.format = AUDIO_S16LSB;
-    spec.channels = 2;
-    spec.samples = 4096;
-    for (int index = 0; index < SDL_GetNumAudioDevices(0); ++index) {
-        const std::string name = SDL_GetAudioDeviceName(index, 0);
-        SDL_CloseAudioDevice(SDL_OpenAudioDevice(name.c_str(), 0, &spec, nullptr, 0));
-    }
-}
-
-/// memory-bare DRIVER: kilobytes of a host with Qt and the sound library, without the module.
-int memoryBare(const char *driver)
-{
-    openEachDevice(driver);
+    const bench::BareListing listing(libraryPath, driver);
+    listing.openAll({});
     QApplication::processEvents();
     std::printf("%.0f\n", bench::residentKilobytes());
     return 0;
@@ -112,6 +97,16 @@ double kilobytesAfterHundredRuns(ostra::ModuleInterface &module)
     return static_cast<double>(liveByteCount()) / 1024;
 }
 
+/// memory-module-runs MODULE: kilobytes of the host with the module behind 100 runs.
+int memoryModuleAfterRuns(const char *modulePath)
+{
+    ostra::ModuleInterface *module = loadModule(modulePath);
+    module->componentManager()->refresh();
+    kilobytesAfterHundredRuns(*module);
+    std::printf("%.0f\n", bench::residentKilobytes());
+    return 0;
+}
+
 /// memory-runs MODULE: kilobytes held after 100 and after 200 runs of the playback test, each closed as soon as it is shown.
 int memoryRuns(const char *modulePath)
 {
@@ -127,10 +122,10 @@ int measure(const std::string &what, const char *argument)
 {
     if (what == "refresh")
         return refresh(argument);
-    if (what == "memory-bare")
-        return memoryBare(argument);
     if (what == "memory-module")
         return memoryModule(argument);
+    if (what == "memory-module-runs")
+        return memoryModuleAfterRuns(argument);
     return what == "memory-runs" ? memoryRuns(argument) : 2;
 }
 
@@ -138,9 +133,12 @@ int measure(const std::string &what, const char *argument)
 
 int main(int argumentCount, char **arguments)
 {
-    if (argumentCount != 3)
+    if (argumentCount < 3)
         return 2;
     const QApplication application(argumentCount, arguments);
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // a host shows no debug texts
-    return measure(arguments[1], arguments[2]);
+    const std::string what = arguments[1];
+    if (argumentCount == 4)
+        return what == "memory-bare" ? memoryBare(arguments[2], arguments[3]) : 2;
+    return measure(what, arguments[2]);
 }

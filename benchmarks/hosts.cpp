@@ -6,13 +6,17 @@
 #include <QProcess>
 #include <QStringList>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
+#include <vector>
 
 namespace {
 
 const QString probe = QStringLiteral("host_probe");
 const QString bare = QStringLiteral("refresh_bare");
+const QString parts = QStringLiteral("bench_sound");
 
 QString beside(const QString &program) { return QCoreApplication::applicationDirPath() + u'/' + program; }
 
@@ -39,7 +43,7 @@ struct Libraries {
     QString driver;
 };
 
-// The drivers' versions are looked up while a device is open. `held` is how long the bare program keeps each open, in ms.
+// The drivers' versions are looked up while a device is open. `held` is how long the bare program keeps each open, in µs.
 void refreshFigure(const Libraries &libraries, int held)
 {
     double deviceCount = 0;
@@ -51,10 +55,42 @@ void refreshFigure(const Libraries &libraries, int held)
     const auto peer = [&] { return numbersOf(bare, {libraries.sound, libraries.driver, QString::number(held)}).at(0); };
     const bench::Comparison comparison = bench::compare(ours, peer);
     print(ratioRow("load library, get instance, refresh: " + QString::number(deviceCount).toStdString() + " devices",
-                   held == 0
-                       ? "bare SDL: start, list, open and close each"
-                       : "the same, each device open for " + std::to_string(held) + " ms, as the look-up of its driver is",
+                   held == 0 ? "bare SDL: start, list, open and close each"
+                             : "the same, each device open for " + bench::shown(held / 1e3) + " ms",
                    1.05, comparison));
+}
+
+// Where the time of a refresh goes, device by device.
+void refreshPartsFigure()
+{
+    constexpr std::array names{"opening", "open until its closing begins", "closing", "everything else"};
+    const auto run = [](const QString &who) { return numbersOf(parts, {QStringLiteral("refresh-parts"), who}); };
+    std::vector<QList<double>> ours;
+    std::vector<QList<double>> peer;
+    for (std::size_t pair = 0; pair < bench::usualPairCount; ++pair) {
+        if (pair % 2 != 0)
+            peer.push_back(run(QStringLiteral("bare")));
+        ours.push_back(run(QStringLiteral("module")));
+        if (pair % 2 == 0)
+            peer.push_back(run(QStringLiteral("bare")));
+    }
+    const std::string deviceCount = QString::number(ours.front().at(4)).toStdString();
+    for (std::size_t part = 0; part < names.size(); ++part) {
+        const auto valuesOf = [part](const std::vector<QList<double>> &runs) {
+            std::vector<double> values;
+            for (const QList<double> &numbers : runs)
+                values.push_back(numbers.at(static_cast<qsizetype>(part)));
+            return values;
+        };
+        const auto quartiles = [](const std::vector<double> &list) {
+            return bench::shown(bench::quantile(list, 0.25)) + "–" + bench::shown(bench::quantile(list, 0.75));
+        };
+        const std::vector<double> own = valuesOf(ours);
+        const std::vector<double> other = valuesOf(peer);
+        bench::print({"refresh, for each of " + deviceCount + " devices: " + names.at(part), "bare SDL", "-",
+                      bench::shown(bench::median(own)) + " ms, bare " + bench::shown(bench::median(other)) + " ms",
+                      quartiles(own) + ", bare " + quartiles(other) + " ms in " + std::to_string(own.size()) + " pairs"});
+    }
 }
 
 // Of one refresh, for a comparison across cards
@@ -64,19 +100,35 @@ void refreshSeconds(const Libraries &libraries)
     std::printf("%.6f\n", numbers.at(0));
 }
 
-void memoryFigures(const Libraries &libraries)
+// `peer` is what the added memory is added to, and its name.
+void memoryFigure(const std::string &name, const bench::Measurement &subject, const std::string &peerName,
+                  const bench::Measurement &peer)
 {
     std::vector<double> added;
     for (std::size_t pair = 0; pair < bench::usualPairCount; ++pair) {
-        const double without = numbersOf(probe, {QStringLiteral("memory-bare"), libraries.driver}).at(0);
-        const double with = numbersOf(probe, {QStringLiteral("memory-module"), libraries.module}).at(0);
-        added.push_back((with - without) / 1024);
+        const double without = peer();
+        added.push_back((subject() - without) / 1024);
     }
     const std::string pairs = " MB in " + std::to_string(bench::usualPairCount) + " pairs";
-    bench::print({"resident memory that the module adds, idle", "a bare host with Qt and SDL", "≤ 3 MB",
+    bench::print({"resident memory that the module adds, " + name, peerName, "≤ 3 MB",
                   bench::shown(bench::median(added)) + " MB",
                   bench::shown(bench::quantile(added, 0.25)) + "–" + bench::shown(bench::quantile(added, 0.75)) + pairs,
                   bench::median(added) <= 3});
+}
+
+void memoryFigures(const Libraries &libraries)
+{
+    const auto kilobytesOf = [](const QString &program, const QStringList &arguments) {
+        return [=] { return numbersOf(program, arguments).at(0); };
+    };
+    const std::string bareName = "a bare host with Qt and SDL";
+    const auto bareHost = kilobytesOf(probe, {QStringLiteral("memory-bare"), libraries.sound, libraries.driver});
+    memoryFigure("idle", kilobytesOf(probe, {QStringLiteral("memory-module"), libraries.module}), bareName, bareHost);
+    const std::string name = "after 100 runs, Qt's picture cache emptied";
+    const auto afterRuns = kilobytesOf(probe, {QStringLiteral("memory-module-runs"), libraries.module});
+    memoryFigure(name, afterRuns, bareName, bareHost);
+    memoryFigure(name, afterRuns, "such a host that has shown the playback test's form 100 times by bare Qt",
+                 kilobytesOf(parts, {QStringLiteral("memory-of-dialogs")}));
 }
 
 // One process, 200 runs.
@@ -92,7 +144,7 @@ void growthFigure(const Libraries &libraries)
 
 } // namespace
 
-/// bench_hosts WHAT MODULE SDL_LIBRARY DRIVER
+/// bench_hosts WHAT MODULE SDL_LIBRARY DRIVER [MICROSECONDS]
 int main(int argumentCount, char **arguments)
 {
     const QCoreApplication application(argumentCount, arguments);
@@ -103,7 +155,9 @@ int main(int argumentCount, char **arguments)
     if (words.at(1) == u"refresh")
         refreshFigure(libraries, 0);
     else if (words.at(1) == u"refresh-held")
-        refreshFigure(libraries, 3);
+        refreshFigure(libraries, words.value(5).toInt());
+    else if (words.at(1) == u"refresh-parts")
+        refreshPartsFigure();
     else if (words.at(1) == u"seconds")
         refreshSeconds(libraries);
     else if (words.at(1) == u"memory")

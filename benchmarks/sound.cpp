@@ -15,8 +15,11 @@
 namespace {
 
 using Figure = void (*)(const QStringList &);
-constexpr std::array<std::pair<const char *, Figure>, 3> figures{
-    {{"first-digit", &bench::firstDigitFigure}, {"run", &bench::playbackRunFigures}, {"loss", &bench::deviceLossFigure}}};
+constexpr std::array<std::pair<const char *, Figure>, 5> figures{{{"first-digit", &bench::firstDigitFigure},
+                                                                  {"run", &bench::playbackRunFigures},
+                                                                  {"loss", &bench::deviceLossFigure},
+                                                                  {"refresh-parts", &bench::refreshParts},
+                                                                  {"memory-of-dialogs", &bench::memoryOfDialogs}}};
 
 bool startSound()
 {

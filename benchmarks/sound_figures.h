@@ -3,7 +3,7 @@
 
 #include <QStringList>
 
-/// Figures that need a sound server with a device "Speakers". Each measures and prints its rows.
+/// Figures that need a sound server, most of them with a device "Speakers". Each measures and prints its rows.
 namespace bench {
 
 /// From the start of a digit to its first sound. `arguments`: a file that a recorder of the device's monitor is filling
@@ -15,5 +15,14 @@ void playbackRunFigures(const QStringList &arguments);
 /// From the sound library's notice of a lost device to the worker's report. `arguments`: the sound server's tool, then for
 /// each device "Speakers 01", "Speakers 02", … the number of the server's module that makes it.
 void deviceLossFigure(const QStringList &arguments);
+
+/// What a process spends on each device when it lists them for the first time, with its sound library started: milliseconds for
+/// opening it, until its closing begins, for closing it and for everything else, and the number of devices. `arguments`:
+/// "module", or anything else for the bare sound library.
+void refreshParts(const QStringList &arguments);
+
+/// Resident memory, in kilobytes, of a program that has opened and closed each device and then shown the playback test's form
+/// 100 times in dialogs of bare Qt, with Qt's cache of pictures emptied. `arguments`: none.
+void memoryOfDialogs(const QStringList &arguments);
 
 } // namespace bench
