@@ -104,10 +104,12 @@ QTemporaryFile *writeNewFile(QObject *dialog, const QString &baseName, const QBy
 
 QString recolourIcon(QObject *dialog, const QString &propertyValue, const QString &colour)
 {
+    const QString baseName = iconBaseName(propertyValue);
+    if (!isFileStem(baseName)) // which a path outside of the resources never is: nothing of it is read
+        return propertyValue;
     const QByteArray svgText = textOfFile(quotedPath(propertyValue));
     if (svgText.isEmpty() || svgText.contains('\0')) // a zero character: a bitmap, which must not pass through as text
         return propertyValue;
-    const QString baseName = iconBaseName(propertyValue);
     QTemporaryFile *file = writeNewFile(dialog, baseName, recoloured(svgText, colour.toUtf8()), temporaryFolder());
     return file == nullptr ? propertyValue : QStringLiteral("url(\"") + file->fileName() + QStringLiteral("\")");
 }
