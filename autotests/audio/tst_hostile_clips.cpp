@@ -143,7 +143,7 @@ void TestHostileClips::queuesWhatTheLibraryLoads()
     wave_files::write(hostileClip(), content);
     const Direct direct(hostileClip());
     const FakeSdl fake;
-    const Queued queued;
+    Queued queued; // the library's stand-in writes to it
     AudioComponent component("Speakers");
     load(component, hostileDigit);
     QCOMPARE(textOf(fake.openedSpec), textOf(direct.spec));

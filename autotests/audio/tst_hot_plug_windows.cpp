@@ -63,6 +63,7 @@ private:
 
 void TestHotPlugWindows::init()
 {
+    system_.reset();
     system_ = std::make_unique<hot_plug::HotPlug>();
     SDL_setenv("SDL_AUDIODRIVER", soundDriverName(), 1);
     QCOMPARE(SDL_InitSubSystem(SDL_INIT_AUDIO), 0);

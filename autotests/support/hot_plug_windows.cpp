@@ -24,6 +24,7 @@ struct HotPlug::Core {
     std::atomic<IMMNotificationClient *> client = nullptr;
     std::atomic<long> references = 0;
     DWORD classCookie = 0;
+    bool isEntered = false;
 };
 
 namespace {
@@ -186,16 +187,20 @@ HotPlug::HotPlug() : core_(std::make_unique<Core>())
 {
     current = core_.get();
     // Where this fails nobody is heard, which a test sees.
-    if (SUCCEEDED(CoInitialize(nullptr)))
+    core_->isEntered = SUCCEEDED(CoInitialize(nullptr));
+    if (core_->isEntered)
         CoRegisterClassObject(ostra::audio::deviceEnumeratorClass, &classObject, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE,
                               &core_->classCookie);
 }
 
 HotPlug::~HotPlug()
 {
-    CoRevokeClassObject(core_->classCookie);
-    CoUninitialize();
-    current = nullptr;
+    if (core_->classCookie != 0)
+        CoRevokeClassObject(core_->classCookie);
+    if (core_->isEntered)
+        CoUninitialize();
+    if (current == core_.get())
+        current = nullptr;
 }
 
 bool HotPlug::isHeard() const { return core_->client != nullptr; }

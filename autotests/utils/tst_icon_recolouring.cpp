@@ -226,7 +226,7 @@ void TestIconRecolouring::readsTheEncodingThatAMarkTells()
     QCOMPARE(bytesOf(recolouredFile(QStringLiteral("marked_utf16.svg"))), expected);
 }
 
-// What a stylesheet could be made to name: a drawing of any size and content.
+// What a stylesheet could be made to name.
 void TestIconRecolouring::leavesADrawingOutsideOfTheResourcesAlone()
 {
     QFile file(root_->filePath(QStringLiteral("outside.svg")));

@@ -92,7 +92,6 @@ void TestThemeStorm::holdsNoMoreThan(const process_facts::Facts &before, std::si
 {
     const process_facts::Facts facts = process_facts::now();
     QVERIFY2(facts.handles <= before.handles + handleCount + handleSlack, process_facts::text(facts).c_str());
-    // Windows has a thread for precise timers, of which each change takes one; it ends a while after the last.
     QTRY_VERIFY2_WITH_TIMEOUT(process_facts::now().threads <= before.threads, process_facts::text(process_facts::now()).c_str(),
                               threadEndLimit);
 }
