@@ -60,7 +60,7 @@ void contrastFigures()
                                       [&] { return fastest([&] { return secondsToRewrite(quarter, colors); }); });
     const double lengthRatio = static_cast<double>(whole.size()) / static_cast<double>(quarter.size());
     print(ratioRow("high-contrast rewriting, growth to a sheet " + shown(lengthRatio) + " times as long",
-                   "linear, and a tenth for the spread", lengthRatio * 1.1, growth));
+                   "linear, and a tenth more", lengthRatio * 1.1, growth));
 }
 
 } // namespace bench

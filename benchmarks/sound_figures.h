@@ -21,8 +21,8 @@ void deviceLossFigure(const QStringList &arguments);
 /// "module", or anything else for the bare sound library.
 void refreshParts(const QStringList &arguments);
 
-/// Resident memory, in kilobytes, of a program that has opened and closed each device and then shown the playback test's form
-/// 100 times in dialogs of bare Qt, with Qt's cache of pictures emptied. `arguments`: none.
+/// The resident memory, in kilobytes, that showing the playback test's form 100 times in dialogs of bare Qt adds, with Qt's
+/// cache of pictures emptied. `arguments`: none.
 void memoryOfDialogs(const QStringList &arguments);
 
 } // namespace bench
