@@ -11,6 +11,17 @@
 
 namespace bench {
 
+/// That of the digits' clips.
+inline SDL_AudioSpec digitFormat()
+{
+    SDL_AudioSpec spec{};
+    spec.freq = 48000;
+    spec.format = AUDIO_S16LSB;
+    spec.channels = 2;
+    spec.samples = 4096;
+    return spec;
+}
+
 /// Lists the output devices as a program without our module would. The sound library is loaded here, not linked: its loading
 /// counts, as it does for the module, which brings it along.
 class BareListing {
@@ -25,11 +36,7 @@ public:
     /// Opens each device once with the format of the digits' clips, holds it so long, and closes it. Returns their number.
     int openAll(std::chrono::microseconds held) const
     {
-        SDL_AudioSpec spec{};
-        spec.freq = 48000;
-        spec.format = AUDIO_S16LSB;
-        spec.channels = 2;
-        spec.samples = 4096;
+        const SDL_AudioSpec spec = digitFormat();
         const int count = count_(0);
         for (int index = 0; index < count; ++index) {
             const std::string name = name_(index, 0);

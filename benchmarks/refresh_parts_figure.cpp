@@ -3,6 +3,7 @@
 
 #include "audio/audio_component_manager.h"
 #include "audio/sdl_api.h"
+#include "benchmarks/bare_listing.h"
 
 #include <SDL.h>
 
@@ -58,11 +59,7 @@ void SDLCALL closeWatched(SDL_AudioDeviceID device)
 
 void listBare()
 {
-    SDL_AudioSpec spec{};
-    spec.freq = 48000;
-    spec.format = AUDIO_S16LSB;
-    spec.channels = 2;
-    spec.samples = 4096;
+    const SDL_AudioSpec spec = digitFormat();
     const int count = SDL_GetNumAudioDevices(0);
     for (int index = 0; index < count; ++index) {
         const std::string name = SDL_GetAudioDeviceName(index, 0);
