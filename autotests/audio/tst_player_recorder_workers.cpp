@@ -336,6 +336,7 @@ void TestPlayerRecorderWorkers::stopFromAnotherThreadEndsTheJob()
     worker->StopRecordAudio(); // a queued call would never be heard
     QTRY_COMPARE_WITH_TIMEOUT(statuses, std::vector<int>{0}, bound);
     QVERIFY(thread.wait(bound));
+    QCOMPARE(fake_->threadCleanUps.load(), 1);
 }
 
 void TestPlayerRecorderWorkers::everyJobHasAFlagOfItsOwn()
@@ -401,6 +402,7 @@ void TestPlayerRecorderWorkers::openAndCloseOnTheirOwnThread()
           [&status](int reported) { status = reported; });
     QTRY_COMPARE_WITH_TIMEOUT(status, 0, bound);
     QTRY_VERIFY_WITH_TIMEOUT(thread.isFinished(), bound);
+    QCOMPARE(fake_->threadCleanUps.load(), 1);
     QCOMPARE(uses.front().first, "open " + speakers.toStdString() + " 0 obtained");
     QCOMPARE(uses.back().first, std::string("close 2"));
     for (const auto &[call, user] : uses)
@@ -441,6 +443,7 @@ void TestPlayerRecorderWorkers::aDeadPageIsNotReported()
     }
     flag->exchange(false);
     QTRY_VERIFY_WITH_TIMEOUT(thread.isFinished(), bound);
+    QCOMPARE(fake_->threadCleanUps.load(), 1);
     QVERIFY(!wasReported);
     QCOMPARE(fake_->calls.back(), std::string("close 2"));
 }

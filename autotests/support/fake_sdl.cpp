@@ -92,6 +92,12 @@ void fakeFree(Uint8 *samples)
 void fakeDelay(Uint32 milliseconds) { record("delay " + std::to_string(milliseconds)); }
 void fakeQuit() { record("quit"); }
 
+void fakeCleanUp()
+{
+    SDL_TLSCleanup();
+    ++current->threadCleanUps;
+}
+
 int fakeInit(Uint32 flags)
 {
     record("init " + std::to_string(flags));
@@ -123,6 +129,7 @@ FakeSdl::FakeSdl() : previous_(ostra::audio::sdl())
     api.freeWav = fakeFree;
     api.delay = fakeDelay;
     api.quit = fakeQuit;
+    api.cleanUpThread = fakeCleanUp;
     api.initSubSystem = fakeInit;
     api.setEnvironment = fakeSetEnvironment;
 }

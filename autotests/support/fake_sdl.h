@@ -3,6 +3,7 @@
 
 #include "audio/sdl_api.h"
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -33,6 +34,9 @@ public:
     std::vector<std::string> calls;
     /// Called with each of them, on the thread that made it, before it takes effect.
     std::function<void(const std::string &call)> onCall;
+    /// How many workers have given back what the library keeps for their thread, which is the last they do with it. Who has seen
+    /// their number may read everything else: ThreadSanitizer does not see that Qt, which is not built for it, waits for a thread.
+    std::atomic<int> threadCleanUps = 0;
 
     /// Calls the callback of the last opening as the library's thread would, whether the device is paused or not.
     void callBack(std::vector<std::uint8_t> &stream) const;
