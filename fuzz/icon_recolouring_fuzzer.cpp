@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "autotests/support/fake_sal.h"
 #include "fuzz/fuzz_check.h"
+#include "resources/icons.h"
 #include "utils/icon_recolouring.h"
 #include "utils/style_rules.h"
 #include "utils/utf8_text.h"
@@ -35,10 +36,12 @@ std::string takeLine(std::string_view &text)
     return line;
 }
 
-/// The same on bytes. Only for texts that a text stream passes through as they are.
+/// What is to come of a text that needs no decoding; nothing of one with a zero character.
 std::string expectedBytes(std::string svg)
 {
     constexpr std::string_view fill = "fill=\"";
+    if (svg.find('\0') != std::string::npos)
+        return {};
     const std::size_t at = svg.find(fill);
     const std::size_t end = at == std::string::npos ? at : svg.find('"', at + fill.size());
     if (end == std::string::npos)
@@ -65,7 +68,7 @@ bool passesAsItIs(const std::string &svg)
 QByteArray contentOf(const QString &fileName)
 {
     QFile file(fileName);
-    require(file.open(QIODevice::ReadOnly), "the recoloured icon is there");
+    require(file.open(QIODevice::ReadOnly), "the drawing is there");
     return file.readAll();
 }
 
@@ -80,21 +83,32 @@ void checkInSheet(const QString &value)
     require(first.value(QStringLiteral("image")) == value, "a path is read as it was written");
 }
 
-void checkRecolouring(const Input &input)
+void checkDrawing(const std::string &svg)
 {
-    static const fuzz::MemoryFile icon;
-    icon.setContent(input.svg.data(), input.svg.size());
-    const QString value = QStringLiteral("url(\"%1\")").arg(QString::fromStdString(icon.path()));
+    const std::string result =
+        recolouredSvg(QByteArray::fromStdString(svg), QByteArray(newColour.data(), newColour.size())).toStdString();
+    require(isUtf8(result) && result.find('\r') == std::string::npos, "a recoloured drawing is UTF-8 with line feeds");
+    require(result.find('\0') == std::string::npos, "no bitmap passes as a text");
+    if (passesAsItIs(svg))
+        require(result == expectedBytes(svg), "only the first fill's colour is replaced");
+}
+
+/// True when it was recoloured, which depends on the folder.
+bool checkIcon()
+{
+    const QString path = QStringLiteral(":/audio/resources/icons/close.svg");
+    const QString value = QStringLiteral("url(\"%1\")").arg(path);
+    const QString colour = QString::fromLatin1(newColour.data(), newColour.size());
     QObject dialog;
-    const QString result = recolourIcon(&dialog, value, QString::fromLatin1(newColour.data(), newColour.size()));
+    const QString result = recolourIcon(&dialog, value, colour);
     require(dialog.children().size() == (result == value ? 0 : 1), "a new value has a file of its own");
     checkInSheet(result);
     if (result == value)
-        return;
+        return false;
     const QString fileName = result.sliced(5, result.size() - 7);
     require(QFileInfo(fileName).isAbsolute(), "the file can be found from any current folder");
-    if (passesAsItIs(input.svg))
-        require(contentOf(fileName).toStdString() == expectedBytes(input.svg), "only the first fill's colour is replaced");
+    require(contentOf(fileName) == recolouredSvg(contentOf(path), colour.toLatin1()), "the file holds the recoloured drawing");
+    return true;
 }
 
 void checkFileName(const Input &input, const QString &folder)
@@ -113,6 +127,12 @@ void checkFileName(const Input &input, const QString &folder)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t byteCount)
 {
     static const QTemporaryDir root(QStringLiteral("/dev/shm/fuzz_XXXXXX"));
+    static const bool isPlainFolderUsed = [] {
+        ostra::initIcons();
+        fake_sal::state().temporaryPath = root.path().toStdString();
+        return checkIcon();
+    }();
+    require(isPlainFolderUsed, "icons are recoloured at all");
     std::string_view rest(fuzz::chars(data), byteCount);
     const Input input{takeLine(rest), takeLine(rest), std::string(rest)};
     // A single new name below the own folder, whatever the engine makes up: it is removed with all that is in it.
@@ -121,7 +141,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t byte
         return -1;
     const QString folder = root.path() + u'/' + QString::fromStdString(input.folder);
     fake_sal::state().temporaryPath = folder.toStdString();
-    checkRecolouring(input);
+    checkDrawing(input.svg);
+    checkIcon();
     checkFileName(input, folder);
     QDir(folder).removeRecursively();
     return 0;

@@ -22,11 +22,11 @@ inline std::uint64_t firstOf(std::string_view text) noexcept
     return block;
 }
 
-/// `byte` in each byte. For ASCII.
+/// `byte` in each byte.
 constexpr std::uint64_t allOf(char byte) noexcept { return ones * static_cast<unsigned char>(byte); }
 
-/// True when one byte of the block is zero: only a zero both lacks its highest bit and gets it when one is taken from it, or
-/// from a zero below it.
+/// True when one byte of the block is zero: a byte that lacks its highest bit gets it only by being zero or by a borrow, and
+/// only a zero below it starts one.
 constexpr bool hasZero(std::uint64_t block) noexcept { return ((block - ones) & ~block & highBits) != 0; }
 
 } // namespace ostra::utils::byte_blocks

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <utility>
 
 namespace ostra::utils {
 
@@ -34,17 +35,20 @@ QString quotedPath(const QString &propertyValue)
     return {};
 }
 
-// As UTF-8; a mark at its beginning tells another encoding. Most drawings are taken as they are.
-QByteArray textOfFile(const QString &path)
+QByteArray contentOf(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray bytes = file.readAll();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// As UTF-8 without carriage returns. Most drawings are taken as they are.
+QByteArray textOf(QByteArray bytes)
+{
     const auto marked = QStringConverter::encodingForData(bytes);
     if (marked || !isUtf8({bytes.constData(), static_cast<std::size_t>(bytes.size())})) {
-        QStringDecoder decode(marked.value_or(QStringConverter::Utf8));
-        bytes = QString(decode(bytes)).toUtf8();
+        // Stateless: a sequence that the end of the file cuts is malformed, too.
+        QStringDecoder decode(marked.value_or(QStringConverter::Utf8), QStringConverter::Flag::Stateless);
+        return QString(decode(bytes)).remove(u'\r').toUtf8();
     }
     bytes.removeIf([](char byte) { return byte == '\r'; });
     return bytes;
@@ -104,14 +108,23 @@ QTemporaryFile *writeNewFile(QObject *dialog, const QString &baseName, const QBy
 
 QString recolourIcon(QObject *dialog, const QString &propertyValue, const QString &colour)
 {
+    const QString path = quotedPath(propertyValue);
     const QString baseName = iconBaseName(propertyValue);
-    if (!isFileStem(baseName)) // which a path outside of the resources never is: nothing of it is read
+    if (!path.startsWith(QLatin1String(":/")) || !isFileStem(baseName)) // nothing is read that will not be written
         return propertyValue;
-    const QByteArray svgText = textOfFile(quotedPath(propertyValue));
-    if (svgText.isEmpty() || svgText.contains('\0')) // a zero character: a bitmap, which must not pass through as text
+    const QByteArray svg = recolouredSvg(contentOf(path), colour.toUtf8());
+    if (svg.isEmpty())
         return propertyValue;
-    QTemporaryFile *file = writeNewFile(dialog, baseName, recoloured(svgText, colour.toUtf8()), temporaryFolder());
+    QTemporaryFile *file = writeNewFile(dialog, baseName, svg, temporaryFolder());
     return file == nullptr ? propertyValue : QStringLiteral("url(\"") + file->fileName() + QStringLiteral("\")");
+}
+
+QByteArray recolouredSvg(QByteArray fileBytes, const QByteArray &colour)
+{
+    QByteArray text = textOf(std::move(fileBytes));
+    if (text.contains('\0')) // a bitmap, which must not pass through as text
+        return {};
+    return recoloured(std::move(text), colour);
 }
 
 QString iconBaseName(const QString &propertyValue)

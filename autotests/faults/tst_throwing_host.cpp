@@ -3,7 +3,6 @@
 #include "autotests/faults/driven_runs.h"
 #include "autotests/support/fake_sal.h"
 #include "autotests/support/process_facts.h"
-#include "autotests/support/wave_files.h"
 #include "autotests/tests/sound_truth.h"
 #include "contract/exports.h"
 #include "contract/property_keys.h"
@@ -49,7 +48,7 @@ public:
     {
         if (stylesheetThrows() != nullptr)
             stylesheetThrows()();
-        return "QPushButton { image: url(\"" + QDir::currentPath().toStdString() + "/icon.svg\"); }";
+        return "QPushButton { image: url(\":/audio/resources/icons/close.svg\"); }";
     }
 };
 
@@ -106,7 +105,6 @@ private:
 void TestThrowingHost::initTestCase()
 {
     qputenv("XDG_DATA_HOME", QDir::currentPath().toUtf8()); // where icons go when the host names no folder
-    wave_files::write(QStringLiteral("icon.svg"), "<svg xmlns=\"http://www.w3.org/2000/svg\"><path fill=\"#123456\"/></svg>");
     fake_sal::state().temporaryPath = QDir::currentPath().toStdString();
     utils::screenSources().highContrastOn = [] { return true; };
     ModuleInterface *module = GetModuleInterfaceInstance();

@@ -42,6 +42,7 @@ private slots:
     void findsSectionName();
     void findsKeyAndValue_data();
     void findsKeyAndValue();
+    void seesEachMarkAtEachPlace();
     void bytesAbove127BelongToNoClass();
     void caseConversionTouchesAsciiLettersOnly();
     void valuePatternsAreValidAndAnchored();
@@ -270,6 +271,26 @@ void TestConfigLine::findsKeyAndValue()
     QCOMPARE(pair.has_value(), !key.empty());
     QCOMPARE(std::string(pair.value_or(ConfigPair{}).key), key);
     QTEST(std::string(pair.value_or(ConfigPair{}).value), "value");
+}
+
+void TestConfigLine::seesEachMarkAtEachPlace()
+{
+    const auto isSeen = [](const std::string &line, char mark) {
+        const ConfigMarks marks = configMarks(line);
+        return marks.hasOpening == (mark == '[') && marks.hasClosing == (mark == ']') && marks.hasEquals == (mark == '=');
+    };
+    for (std::size_t length = 0; length < 20; ++length) { // two blocks of eight bytes and a rest
+        for (const char other : {'a', '\0', 'Z', '\\', '^', '<', '>', '\xDB', '\xDD', '\xBD'}) { // neighbours, with a bit more
+            QVERIFY(isSeen(std::string(length, other), other));
+            for (std::size_t at = 0; at < length; ++at) {
+                for (const char mark : {'[', ']', '='}) {
+                    std::string line(length, other);
+                    line[at] = mark;
+                    QVERIFY2(isSeen(line, mark), line.c_str());
+                }
+            }
+        }
+    }
 }
 
 void TestConfigLine::bytesAbove127BelongToNoClass()

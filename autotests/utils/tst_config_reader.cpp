@@ -354,15 +354,18 @@ void TestConfigReader::replacesMalformedUtf8()
 
 void TestConfigReader::knowsPlainTextByEachByteAtEachPlace()
 {
-    QVERIFY(isAsciiWithoutCarriageReturn(""));
-    for (int value = 0; value < 256; ++value) {
-        for (std::size_t at = 0; at < 19; ++at) { // two blocks of eight bytes and a rest
-            for (const char other : {'\0', 'a', '\x0C', '\x7F'}) {
-                std::string text(19, other);
-                text[at] = static_cast<char>(value);
-                const bool isPlain = value < 0x80 && value != '\r';
-                QVERIFY2(isAsciiWithoutCarriageReturn(text) == isPlain,
-                         qPrintable(QStringLiteral("%1 at %2").arg(value).arg(at)));
+    for (std::size_t length = 0; length < 20; ++length) { // two blocks of eight bytes and a rest
+        for (const char other : {'\0', 'a', '\x0C', '\x7F'}) {
+            const std::string text(length + 1, other);
+            QVERIFY(isAsciiWithoutCarriageReturn(std::string_view(text).substr(1)));
+            for (std::size_t at = 0; at < length; ++at) {
+                for (int value = 0; value < 256; ++value) {
+                    std::string changed = text;
+                    changed[at + 1] = static_cast<char>(value);
+                    const bool isPlain = value < 0x80 && value != '\r';
+                    QVERIFY2(isAsciiWithoutCarriageReturn(std::string_view(changed).substr(1)) == isPlain,
+                             qPrintable(QStringLiteral("%1 at %2 of %3").arg(value).arg(at).arg(length)));
+                }
             }
         }
     }

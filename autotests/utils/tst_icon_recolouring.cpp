@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
@@ -59,6 +60,9 @@ private slots:
     void filesGoWithTheirDialog();
     void writesUtf8WithLineFeeds();
     void readsTheEncodingThatAMarkTells();
+    void decodesADrawing_data();
+    void decodesADrawing();
+    void leavesADrawingOutsideOfTheResourcesAlone_data();
     void leavesADrawingOutsideOfTheResourcesAlone();
     void namesAFileWithoutABase();
     void refusesNamesThatCannotBeFiles_data();
@@ -226,13 +230,56 @@ void TestIconRecolouring::readsTheEncodingThatAMarkTells()
     QCOMPARE(bytesOf(recolouredFile(QStringLiteral("marked_utf16.svg"))), expected);
 }
 
-// What a stylesheet could be made to name.
+void TestIconRecolouring::decodesADrawing_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("text");
+    const auto add = [](const char *row, const QByteArray &bytes, const QByteArray &text) {
+        QTest::newRow(row) << bytes << text;
+    };
+    const QByteArray bad("\xEF\xBF\xBD"); // U+FFFD
+    add("nothing", "", "");
+    add("carriage returns only", "\r\r", "");
+    add("a carriage return by itself", "<a\r/>", "<a/>");
+    add("a mark only", "\xEF\xBB\xBF", "");
+    add("a mark and a letter", "\xEF\xBB\xBF\xC3\xA4", "\xC3\xA4");
+    add("a mark behind a letter is text", "a\xEF\xBB\xBF", "a\xEF\xBB\xBF");
+    add("a carriage return within a sequence", "\xC3\r\xA4", bad + bad);
+    add("a sequence that the end cuts", "<svg/>\xC3", "<svg/>" + bad);
+    add("a surrogate", "\xED\xA0\x80", bad + bad + bad);
+    add("a bad byte far behind", QByteArray(20000, 'a') + "\xFF\xFF", QByteArray(20000, 'a') + bad + bad);
+    add("a zero character", QByteArray("<svg/>\0", 7), "");
+    add("a zero character behind what is malformed", QByteArray("\xFF\0", 2), "");
+    add("UTF-16, little end first", QByteArray("\xFF\xFE<\0\xE4\0", 6), "<\xC3\xA4");
+    add("UTF-16, big end first", QByteArray("\xFE\xFF\0<\0\xE4", 6), "<\xC3\xA4");
+    add("UTF-16 with a zero character", QByteArray("\xFF\xFE<\0\0\0", 6), "");
+    add("UTF-16 with a carriage return within a pair", QByteArray("\xFF\xFE\x3D\xD8\r\0\x00\xDE", 8), "\xF0\x9F\x98\x80");
+}
+
+void TestIconRecolouring::decodesADrawing()
+{
+    QFETCH(QByteArray, bytes);
+    QTEST(recolouredSvg(bytes, "#ffffff"), "text");
+}
+
+// What a stylesheet could be made to name; the last two have a base name that could be a file's.
+void TestIconRecolouring::leavesADrawingOutsideOfTheResourcesAlone_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("absolute") << QDir::current().filePath(QStringLiteral("outside.svg"));
+    QTest::newRow("relative") << QStringLiteral("outside.svg");
+    QTest::newRow("with a closing parenthesis") << QStringLiteral(")outside.svg");
+    QTest::newRow("with an equals sign") << QStringLiteral("=)outside.svg");
+}
+
 void TestIconRecolouring::leavesADrawingOutsideOfTheResourcesAlone()
 {
-    QFile file(root_->filePath(QStringLiteral("outside.svg")));
+    QFETCH(QString, path);
+    QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("<path fill=\"#123456\"/>") > 0);
     file.close();
-    const QString value = QStringLiteral("url(\"%1\")").arg(file.fileName());
+    const auto remove = qScopeGuard([&file] { file.remove(); });
+    const QString value = QStringLiteral("url(\"%1\")").arg(path);
     QCOMPARE(recolourIcon(dialog_.get(), value, white), value);
 }
 

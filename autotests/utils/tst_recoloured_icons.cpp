@@ -7,10 +7,17 @@
 #include "utils/style_rules.h"
 
 #include <QDir>
+#include <QFile>
 #include <QImage>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
+
+#include <sys/inotify.h>
+#include <unistd.h>
+
+#include <array>
 
 using namespace ostra::utils;
 
@@ -28,6 +35,7 @@ private slots:
     void aFullDiskLeavesTheIconAsItWas();
     void keepsAnIconWhoseFolderCannotStandInAStylesheet_data();
     void keepsAnIconWhoseFolderCannotStandInAStylesheet();
+    void aFileOutsideOfTheResourcesIsNotEvenOpened();
 
 private:
     static void addUsableFolders();
@@ -168,6 +176,28 @@ void TestRecolouredIcons::keepsAnIconWhoseFolderCannotStandInAStylesheet()
     QWidget dialog;
     QCOMPARE(recolourIcon(&dialog, original(), QStringLiteral("#00ff00")), original());
     QVERIFY(QDir(root.filePath(folder) + QStringLiteral("/temp")).isEmpty()); // and no file is left behind
+}
+
+// It may be of any size, or a pipe that nobody writes to.
+void TestRecolouredIcons::aFileOutsideOfTheResourcesIsNotEvenOpened()
+{
+    const QTemporaryDir root;
+    QFile file(root.filePath(QStringLiteral("outside.svg")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("<path fill=\"#123456\"/>") > 0);
+    file.close();
+    const int notices = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    const auto end = qScopeGuard([notices] { ::close(notices); });
+    QVERIFY(inotify_add_watch(notices, QFile::encodeName(file.fileName()).constData(), IN_OPEN) >= 0);
+    const auto hasNotice = [notices] {
+        alignas(inotify_event) std::array<char, sizeof(inotify_event)> notice{};
+        return ::read(notices, notice.data(), notice.size()) > 0;
+    };
+    QWidget dialog;
+    const QString value = QStringLiteral("url(\"") + file.fileName() + QStringLiteral("\")");
+    QCOMPARE(recolourIcon(&dialog, value, QStringLiteral("#00ff00")), value);
+    QVERIFY(!hasNotice());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(hasNotice()); // else nothing would be noticed
 }
 
 QTEST_MAIN(TestRecolouredIcons)
