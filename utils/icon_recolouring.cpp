@@ -9,13 +9,14 @@
 
 #include <QByteArray>
 #include <QDir>
-#include <QFile>
+#include <QResource>
 #include <QStringConverter>
 #include <QTemporaryFile>
 
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace ostra::utils {
@@ -35,17 +36,14 @@ QString quotedPath(const QString &propertyValue)
     return {};
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // As UTF-8 without carriage returns. Most drawings are taken as they are.
 QByteArray textOf(QByteArray bytes)
 {
+    const std::string_view view(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    if (isAsciiWithoutCarriageReturn(view))
+        return bytes;
     const auto marked = QStringConverter::encodingForData(bytes);
-    if (marked || !isUtf8({bytes.constData(), static_cast<std::size_t>(bytes.size())})) {
+    if (marked || !isUtf8(view)) {
         // Stateless: a sequence that the end of the file cuts is malformed, too.
         QStringDecoder decode(marked.value_or(QStringConverter::Utf8), QStringConverter::Flag::Stateless);
         return QString(decode(bytes)).remove(u'\r').toUtf8();
@@ -112,7 +110,7 @@ QString recolourIcon(QObject *dialog, const QString &propertyValue, const QStrin
     const QString baseName = iconBaseName(propertyValue);
     if (!path.startsWith(QLatin1String(":/")) || !isFileStem(baseName)) // nothing is read that will not be written
         return propertyValue;
-    const QByteArray svg = recolouredSvg(contentOf(path), colour.toUtf8());
+    const QByteArray svg = recolouredSvg(QResource(path).uncompressedData(), colour.toUtf8());
     if (svg.isEmpty())
         return propertyValue;
     QTemporaryFile *file = writeNewFile(dialog, baseName, svg, temporaryFolder());
