@@ -85,7 +85,15 @@ class Stage:
         for name in ("CONFIG", "DATA", "STATE", "CACHE"):
             os.environ[f"XDG_{name}_HOME"] = str(self.work / name.lower())
         os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
-        self._manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
+        self._manager = None
+        self._managed = self.work / "managed"
+        wait_until("no window manager starts", self._is_managed)
+
+    def _is_managed(self):
+        """Starts the window manager again where it did not find the display, and ended."""
+        if self._manager is None or self._manager.poll() is not None:
+            self._manager = subprocess.Popen(["openbox", "--startup", f"touch {self._managed}"], stderr=subprocess.DEVNULL)
+        return self._managed.exists()
 
     def start(self, *options, program=None):
         with open(self.log, "w", encoding="utf-8") as log:
