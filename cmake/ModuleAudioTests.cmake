@@ -23,6 +23,9 @@ set(MODULE_AUDIO_SDL_LEAKS "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/autote
 # The same for whole programs with real windows.
 set(MODULE_AUDIO_HOST_LEAKS "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/autotests/support/lsan_host.supp:print_suppressions=0")
 
+# For tests that compare the memory of a program before and after: freed blocks that the sanitizer keeps would look like growth.
+set(MODULE_AUDIO_MEASURABLE "ASAN_OPTIONS=detect_leaks=1:quarantine_size_mb=1:malloc_context_size=4")
+
 # What the preset "linux-thread" builds: the programs of all tests with the label "thread".
 add_custom_target(thread_tests)
 function(ma_needs_threads program)

@@ -15,6 +15,12 @@
 
 using namespace ostra;
 
+namespace {
+
+constexpr qint64 residentBytesAtMost = 24 * 1024 * 1024; // the allocators' own slack
+
+} // namespace
+
 class TestModuleLibrary : public QObject {
     Q_OBJECT
 
@@ -120,6 +126,8 @@ void TestModuleLibrary::manyRoundsLeaveNothingBehind()
           double(growth) / rounds, process_facts::text(factsBefore).c_str(), process_facts::text(factsAfter).c_str());
     // One forgotten clip of this test would be 4000 bytes a round, one forgotten component some 500.
     QVERIFY2(growth < rounds * 300 + 15000, qPrintable(QString::number(growth)));
+    const auto residentGrowth = static_cast<qint64>(factsAfter.residentBytes) - static_cast<qint64>(factsBefore.residentBytes);
+    QVERIFY2(residentGrowth < residentBytesAtMost, qPrintable(QString::number(residentGrowth)));
     QVERIFY(factsAfter.threads <= factsBefore.threads);
     QVERIFY(factsAfter.handles <= factsBefore.handles + 8); // the system opens some for itself now and then
 }
