@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <new>
 #include <utility>
 
 namespace ostra::audio {
@@ -29,6 +30,7 @@ struct Endpoint {
 struct Endpoints {
     std::vector<Endpoint> list;
     bool isWhole = true;
+    bool hasMemory = true;
 };
 
 // The callbacks are called by C code: an answer that cannot be stored makes the list incomplete instead of being thrown.
@@ -38,6 +40,7 @@ try {
     endpoints.list.push_back({direction, info.index, endpointIdOf(info.name), info.volume, info.mute != 0});
 } catch (...) {
     endpoints.isWhole = false;
+    endpoints.hasMemory = false;
 }
 
 void addSink(pa_context *, const pa_sink_info *info, int endOfList, void *user) noexcept
@@ -126,8 +129,11 @@ bool apply(const EndpointVolumes &list)
 {
     PulseConnection server(passBound);
     Endpoints endpoints;
-    if (!enumerate(server, endpoints))
+    if (!enumerate(server, endpoints)) {
+        if (!endpoints.hasMemory)
+            throw std::bad_alloc();
         return false;
+    }
     for (std::size_t position = 0; position < endpoints.list.size(); ++position) {
         const Endpoint &endpoint = endpoints.list[position];
         const EndpointVolume *record = chooseRecord(list, endpoint.id, position);
@@ -146,10 +152,16 @@ try {
     return 1;
 }
 
+// Memory may be short for a moment only, and what is not put back stays loud: then it is tried once more.
 int applyEndpointVolumes(const EndpointVolumes &list) noexcept
-try {
-    return apply(list) ? 0 : 1;
-} catch (...) {
+{
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        try {
+            return apply(list) ? 0 : 1;
+        } catch (...) {
+            continue;
+        }
+    }
     return 1;
 }
 

@@ -5,6 +5,9 @@
 
 #include <endpointvolume.h>
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <utility>
 
 namespace ostra::audio {
@@ -41,7 +44,11 @@ const EndpointVolume *chooseRecordFor(IMMDevice *endpoint, const EndpointVolumes
     CoTaskText id;
     if (FAILED(endpoint->GetId(id.receive())) || !id.isPresent())
         return nullptr;
-    return chooseRecord(list, unitsOf(id.view()), position);
+    // No memory is asked for: what is not put back stays loud. One unit more than a record keeps tells a longer id from it.
+    std::array<char16_t, idUnitLimit + 1> units{};
+    const std::size_t length = std::min(id.view().size(), units.size());
+    std::copy_n(id.view().begin(), length, units.begin());
+    return chooseRecord(list, {units.data(), length}, position);
 }
 
 HRESULT applyRecord(IMMDevice *endpoint, const EndpointVolume &record)

@@ -12,6 +12,10 @@ bool canTell();
 /// Volume and mute state of every device, as text to compare.
 std::string levels();
 
+/// Turns every device down and mutes the sinks. A new card's devices are as loud as the module makes them, so that a volume
+/// which is not put back would not show.
+void turnDown();
+
 /// How many streams of any program play or record.
 int openStreamCount();
 

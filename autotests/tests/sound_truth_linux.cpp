@@ -3,6 +3,8 @@
 
 #include "autotests/support/pulse_truth_linux.h"
 
+#include <vector>
+
 namespace sound_truth {
 
 bool canTell() { return true; }
@@ -17,6 +19,17 @@ std::string levels()
         text += '\n';
     }
     return text;
+}
+
+void turnDown()
+{
+    const pulse_truth::Devices devices = pulse_truth::devices();
+    for (const auto &[name, device] : devices) {
+        const bool isSink = devices.contains(name + ".monitor");
+        const unsigned share = isSink ? 37 : 52;
+        pulse_truth::set(isSink ? QStringLiteral("sink") : QStringLiteral("source"), QString::fromStdString(name),
+                         std::vector<unsigned>(device.volumes.size(), 65536 * share / 100), isSink);
+    }
 }
 
 int openStreamCount()

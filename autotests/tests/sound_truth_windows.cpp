@@ -7,6 +7,8 @@ bool canTell() { return false; }
 
 std::string levels() { return {}; }
 
+void turnDown() {}
+
 int openStreamCount() { return 0; }
 
 } // namespace sound_truth
