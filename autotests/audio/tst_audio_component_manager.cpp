@@ -242,6 +242,7 @@ void TestAudioComponentManager::reportsTheFormatOfADeviceThatCannotBeOpened()
     fake.nextDeviceId = 0;
     AudioComponentManager manager(id_);
     manager.refresh();
+    QCOMPARE(properties(manager, 0).size(), std::size_t(4));
     QCOMPARE(properties(manager, 0).at(2).second, std::string("22050"));
     QCOMPARE(fake.count("close"), 0);
 }
@@ -315,11 +316,11 @@ void TestAudioComponentManager::logsARefreshThatAServiceEnds()
 {
     FakeSdl fake;
     fake.deviceNames = {"A", "B"};
-    sdl().deviceName = [](int, int) -> const char * { throw 42; };
+    sdl().deviceName = [](int index, int) -> const char * { return index == 0 ? "A" : throw 42; };
     AudioComponentManager manager(id_);
     QTest::ignoreMessage(QtWarningMsg, "refresh ended early: a service of the host threw");
     manager.refresh();
-    QCOMPARE(manager.componentCount(), std::uint64_t(0));
+    QCOMPARE(names(manager), (std::vector<std::string>{"A"}));
 }
 
 void TestAudioComponentManager::componentAnswersTheSharedOperations()

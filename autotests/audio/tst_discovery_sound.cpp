@@ -10,12 +10,29 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <array>
-
 #include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
 
 using namespace ostra;
 using namespace ostra::audio;
+
+namespace {
+
+decltype(SdlApi::openDevice) realOpen = nullptr;
+std::vector<SDL_AudioSpec> obtainedSpecs;
+
+SDL_AudioDeviceID openAndNote(const char *name, int isCapture, const SDL_AudioSpec *desired, SDL_AudioSpec *, int changes)
+{
+    SDL_AudioSpec obtained{};
+    const SDL_AudioDeviceID device = realOpen(name, isCapture, desired, &obtained, changes);
+    if (device != 0)
+        obtainedSpecs.push_back(obtained);
+    return device;
+}
+
+} // namespace
 
 class TestDiscoverySound : public QObject {
     Q_OBJECT
@@ -83,7 +100,7 @@ void TestDiscoverySound::tellsTheClipsFormat()
                  {"UDI", "X"}, {"NUMBER_OF_CHANNELS", "1"}, {"SAMPLE_RATE", "48000"}, {"DRIVER_NAME", soundDriverName()}}));
 }
 
-// The sound library reads these where a format is left open; a clip leaves none.
+// The sound library reads these where a format is left open; a clip leaves none. The device tells what it was opened with.
 void TestDiscoverySound::theEnvironmentChangesNoClipsFormat()
 {
     constexpr std::array<std::array<const char *, 2>, 4> values{{{"SDL_AUDIO_FREQUENCY", "8000"},
@@ -92,7 +109,16 @@ void TestDiscoverySound::theEnvironmentChangesNoClipsFormat()
                                                                  {"SDL_AUDIO_SAMPLES", "64"}}};
     for (const auto &[name, value] : values)
         SDL_setenv(name, value, 1);
+    realOpen = std::exchange(sdl().openDevice, &openAndNote);
     tellsTheClipsFormat();
+    sdl().openDevice = realOpen;
+    QVERIFY(obtainedSpecs.size() >= 3);
+    for (const SDL_AudioSpec &obtained : obtainedSpecs) {
+        QCOMPARE(obtained.freq, 48000);
+        QCOMPARE(int(obtained.format), AUDIO_S16LSB);
+        QCOMPARE(int(obtained.channels), 1);
+        QVERIFY2(obtained.samples > 64, qPrintable(QString::number(obtained.samples)));
+    }
     for (const auto &[name, value] : values)
         SDL_setenv(name, "", 1);
 }

@@ -78,6 +78,8 @@ void TestSoundClip::opensWithTheClipsFormat()
     QCOMPARE(loadClip(component, 0), 1);
     QCOMPARE(fake.openedSpec.freq, 44100);
     QCOMPARE(int(fake.openedSpec.channels), 1);
+    QCOMPARE(int(fake.openedSpec.format), AUDIO_S16LSB);
+    QVERIFY(fake.openedSpec.samples != 0);        // what is left open the environment decides
     QVERIFY(fake.openedSpec.callback == nullptr); // queued, never called back
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // A host all of whose services throw, one after the other. Every call of a run throws where EVERY_CALL is set, else some.
+#include "audio/volume_guard.h"
 #include "autotests/faults/driven_runs.h"
 #include "autotests/support/fake_sal.h"
 #include "autotests/support/process_facts.h"
@@ -115,7 +116,13 @@ void TestThrowingHost::initTestCase()
     }
     QVERIFY(driven_runs::leftovers(process_facts::now().threads).empty());
     threads_ = process_facts::now().threads;
+    sound_truth::turnDown();
     levels_ = sound_truth::levels();
+    {
+        const audio::VolumeGuard raised = audio::makeVolumeGuard(100);
+        QVERIFY(!sound_truth::canTell() || sound_truth::levels() != levels_); // what is not put back is seen
+    }
+    QCOMPARE(sound_truth::levels(), levels_);
 }
 
 void TestThrowingHost::cleanup()

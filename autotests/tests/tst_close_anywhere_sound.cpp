@@ -117,6 +117,7 @@ void TestCloseAnywhereSound::initTestCase()
     audio::sdl().setEnvironment("SDL_AUDIODRIVER", audio::soundDriverName(), 1);
     QCOMPARE(audio::sdl().initSubSystem(SDL_INIT_AUDIO), 0);
     realClose = std::exchange(audio::sdl().closeDevice, &measureClose);
+    sound_truth::turnDown();
 }
 
 void TestCloseAnywhereSound::cleanupTestCase()

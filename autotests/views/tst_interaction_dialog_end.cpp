@@ -270,6 +270,7 @@ void TestInteractionDialogEnd::theFirstOfEndsInOneTurnCounts()
     Stage stage;
     StoppingHost host([&] { queueEnds(stage, parts.at(0)); }, [&] { queueEnds(stage, parts.at(1)); });
     QSignalSpy finished(stage.dialog.get(), &QDialog::finished);
+    QSignalSpy closing(stage.dialog.get(), &InteractionDialog::closing);
     const int result = stage.resultOf([&] {
         stage.goToPlayPage();
         QTRY_COMPARE_WITH_TIMEOUT(stage.sound.openedCount.load(), 2, bound);
@@ -286,6 +287,7 @@ void TestInteractionDialogEnd::theFirstOfEndsInOneTurnCounts()
     QCOMPARE(stage.dialog->isDeviceDisconnected(), isLost);
     QVERIFY(!stage.dialog->isAborted() && !stage.dialog->isVisible() && stage.isQuiet());
     QCOMPARE(finished.size(), isStoppedFirst ? 2 : 1);
+    QCOMPARE(closing.size(), finished.size());
     QTEST(finished.last().first().toInt(), "result");
 }
 
