@@ -169,7 +169,10 @@ class Reader:
             window = self.active()
             return window if window is not None and matches(window) else None
 
-        return wait_until(f"{what} does not get the keyboard", look)
+        try:
+            return wait_until(f"{what} does not get the keyboard", look)
+        except Failure as failure:
+            raise Failure(f"{failure}; there are: " + "; ".join(window.line() for window in self.windows())) from failure
 
     def focused(self):
         """The innermost element with the keyboard."""
