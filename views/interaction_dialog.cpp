@@ -164,12 +164,14 @@ void InteractionDialog::CheckSystemEvent()
     const EventAnswer answer = isReady_ ? askForEvents(events_) : EventAnswer::goOn;
     if (answer == EventAnswer::goOn)
         return;
-    // After an event the host tells of it again. What it could not tell it may never tell, and the result so far is a pass.
-    const bool isUnknown = answer == EventAnswer::unknown;
-    guard([this, isUnknown] {
-        QTimer::singleShot(0, this, [this, isUnknown] {
+    // What the host could not tell it may never tell: no click that already waits may make a pass of it.
+    if (answer == EventAnswer::unknown)
+        return Abort();
+    // After an event the host tells of it again.
+    guard([this] {
+        QTimer::singleShot(0, this, [this] {
             if (isReady_)
-                isUnknown ? Abort() : done(result());
+                done(result());
         });
     });
 }
