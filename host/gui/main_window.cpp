@@ -315,6 +315,9 @@ void MainWindow::chooseReportFile()
     const QString formats = QStringLiteral("HTML (*.html);;JSON (*.json);;JUnit XML (*.xml);;TXT (*.txt)");
     QString chosen;
     QString file = QFileDialog::getSaveFileName(this, hostText("SAVE_REPORT"), QStringLiteral("report.html"), formats, &chosen);
+    // Where the question about overwriting closes right before the file dialog, some window managers give the keyboard to
+    // no window of ours; both are gone by now, so asking for it once more leaves no one without it.
+    activateWindow();
     if (file.isEmpty())
         return;
     if (QFileInfo(file).suffix().isEmpty()) // not every dialog adds it
