@@ -106,21 +106,25 @@ void TestAudioListener::listsWhatCanBeHeard()
 void TestAudioListener::hearsWhatADevicePlays_data()
 {
     QTest::addColumn<QString>("language");
+    QTest::addColumn<QList<int>>("digits");
     QTest::addColumn<float>("gain");
-    QTest::newRow("ja_JP") << QStringLiteral("ja_JP") << 1.0F;
-    QTest::newRow("en_US, softly") << QStringLiteral("en_US") << 0.2F;
+    // Digits that stay recognisable with a gap of 20 to 35 ms anywhere: Wine left one in 10 of 150 clips. (The
+    // Japanese 0 does not with one gap in seven; what the listener says of it then, "sound", is right.)
+    QTest::newRow("ja_JP") << QStringLiteral("ja_JP") << QList<int>{3, 2, 3} << 1.0F;
+    QTest::newRow("en_US, softly") << QStringLiteral("en_US") << QList<int>{4, 0, 9} << 0.2F;
 }
 
 void TestAudioListener::hearsWhatADevicePlays()
 {
     QFETCH(const QString, language);
+    QFETCH(const QList<int>, digits);
     QFETCH(const float, gain);
     ListenerProcess listener(listeningArguments(monitor, language));
     const QJsonObject ready = listener.waitFor(QStringLiteral("ready"));
     QCOMPARE(textOf(ready, "source"), monitor);
     const Player player(language.toLatin1().constData());
     const QString sound = QStringLiteral("sound"); // that is no digit
-    for (const int digit : {4, 0, 9}) {
+    for (const int digit : digits) {
         const qint64 begin = player.play(digit, gain);
         QVERIFY(begin > 0);
         const QJsonObject event = listener.waitForOneOf({QStringLiteral("digit"), sound});
@@ -134,7 +138,7 @@ void TestAudioListener::hearsWhatADevicePlays()
     }
     listener.process().closeWriteChannel();
     QVERIFY(listener.waitForEnd());
-    QCOMPARE(listener.countOf(QStringLiteral("digit")), 3);
+    QCOMPARE(listener.countOf(QStringLiteral("digit")), digits.size());
     QCOMPARE(listener.countOf(sound), 0);
 }
 
