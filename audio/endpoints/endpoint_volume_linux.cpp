@@ -8,6 +8,7 @@
 #include <pulse/volume.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <iterator>
 #include <new>
@@ -125,9 +126,9 @@ bool read(EndpointVolumes &list)
     return isRead;
 }
 
-bool apply(const EndpointVolumes &list)
+bool apply(const EndpointVolumes &list, std::chrono::milliseconds bound)
 {
-    PulseConnection server(passBound);
+    PulseConnection server(bound);
     Endpoints endpoints;
     if (!enumerate(server, endpoints)) {
         if (!endpoints.hasMemory)
@@ -152,12 +153,15 @@ try {
     return 1;
 }
 
-// Memory may be short for a moment only, and what is not put back stays loud: then it is tried once more.
+// Memory may be short for a moment only, and what is not put back stays loud: then it is tried once more, within the same
+// bound.
 int applyEndpointVolumes(const EndpointVolumes &list) noexcept
 {
+    using std::chrono::steady_clock;
+    const steady_clock::time_point end = steady_clock::now() + passBound;
     for (int attempt = 0; attempt < 2; ++attempt) {
         try {
-            return apply(list) ? 0 : 1;
+            return apply(list, std::chrono::ceil<std::chrono::milliseconds>(end - steady_clock::now())) ? 0 : 1;
         } catch (...) {
             continue;
         }

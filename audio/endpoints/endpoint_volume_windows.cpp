@@ -44,7 +44,7 @@ const EndpointVolume *chooseRecordFor(IMMDevice *endpoint, const EndpointVolumes
     CoTaskText id;
     if (FAILED(endpoint->GetId(id.receive())) || !id.isPresent())
         return nullptr;
-    // No memory is asked for: what is not put back stays loud. One unit more than a record keeps tells a longer id from it.
+    // No memory of our own is asked for: what is not put back stays loud. One unit more than a record keeps tells a longer id.
     std::array<char16_t, idUnitLimit + 1> units{};
     const std::size_t length = std::min(id.view().size(), units.size());
     std::copy_n(id.view().begin(), length, units.begin());

@@ -213,7 +213,7 @@ void TestAllocationFailures::volumesComeBackWhereMemoryIsShortForAMoment()
     const std::string levels = sound_truth::levels();
     audio::VolumeGuard guard = audio::makeVolumeGuard(100);
     const int count = allocationCount([&guard] { guard.reset(); });
-    QVERIFY(!sound_truth::canTell() || count > 0);
+    QCOMPARE(count > 0, sound_truth::canTell()); // on Windows it asks for none, so nothing can be refused
     for (int failing = 0; failing < count; ++failing) {
         guard = audio::makeVolumeGuard(100);
         QVERIFY(!sound_truth::canTell() || sound_truth::levels() != levels);
