@@ -4,6 +4,7 @@
 #include "autotests/tests/closing/module_stage.h"
 #include "autotests/tests/closing/test_user.h"
 
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QObject>
 #include <QTest>
@@ -19,6 +20,8 @@ namespace {
 // Slow enough for another program to act meanwhile: a recording lasts some two seconds.
 constexpr int divisor = 3;
 constexpr std::chrono::seconds giveUpTime{60};
+// openbox now and then misses the first key of a fresh display, though it has the dialog active; the next one it takes.
+constexpr qint64 askAgainTime = 3000; // ms
 
 class CloseCounter final : public QObject {
 public:
@@ -86,16 +89,19 @@ void TestWindowManagerCloses::endsTheTestAsNotCompleted()
         TestUser user(host, stage_.devices.sound);
         const int opened = stage_.devices.sound.openedCount;
         QTimer watch;
+        QElapsedTimer sinceRequest;
         QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+            if (closes.fromOutside > 0 || (sinceRequest.isValid() && !sinceRequest.hasExpired(askAgainTime)))
+                return;
             QWidget *dialog = TestUser::openDialog();
             if (dialog == nullptr || stage_.devices.sound.openedCount - opened < devicesBefore)
                 return;
             user.stop();
             if (!dialog->isActiveWindow())
                 return dialog->activateWindow(); // a click, where the manager was too busy to hand the keyboard over
-            watch.stop();
             dialog->installEventFilter(&closes);
             requestClose(*dialog);
+            sinceRequest.start();
         });
         watch.start(std::chrono::milliseconds(10));
         QTimer::singleShot(giveUpTime, &watch, [&] {
